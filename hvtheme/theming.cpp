@@ -1,0 +1,337 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "theming.h"
+
+#include "theme.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QStringMatcher>
+
+#include <algorithm>
+
+namespace HV
+{
+namespace
+{
+
+// Messages are an interface: tools match their texts and contexts. So this table spells out what the
+// compiler would put in, and a line stays what it is wherever the code moves.
+struct Site {
+    int line;
+    const char *function;
+};
+// clang-format off
+constexpr Site missingImage            { 54, "QString HV::replaceCssImages(const QString&, const QVariantMap&, const QString&)"};
+constexpr Site replaceWithoutTheme     {107, "void HV::replaceStyleSheet(HV::Theme*, const QString&, QString&)"};
+constexpr Site folderFile              {129, "void HV::readStyleSheet(const QString&, QString&)"};
+constexpr Site findInFolderWithoutTheme{149, "QString HV::findStyleSheet(HV::Theme*, const QString&, const QString&)"};
+constexpr Site listedFile              {165, "void HV::readStyleSheet(const QStringList&, QString&)"};
+constexpr Site findInListWithoutTheme  {185, "QString HV::findStyleSheet(HV::Theme*, const QStringList&, const QString&)"};
+// clang-format on
+
+QDebug warning(const Site &site)
+{
+    return QMessageLogger("hvtheme/theming.cpp", site.line, site.function).warning();
+}
+
+// What a token of one kind has between its prefix and its key, and what is special about the kind.
+struct Kind {
+    const char *infix;
+    bool isImage;
+    bool hasSeparator;
+};
+constexpr Kind colorKind{".theme.color.", false, false};
+constexpr Kind imageKind{".theme.image.", true, false};
+constexpr Kind integerKind{".theme.integer.", false, true};
+constexpr QChar separator = u'|';
+
+// The characters of \w: ASCII, whatever the locale.
+bool isWordCharacter(QChar c)
+{
+    return c == u'_' || (c >= u'0' && c <= u'9') || (c >= u'A' && c <= u'Z')
+        || (c >= u'a' && c <= u'z');
+}
+
+// The texts that replace the tokens of one pass. Each is made once, but missed at every token.
+class Replacements
+{
+public:
+    Replacements(const Kind &kind, const QVariantMap &values)
+        : m_values(values)
+        , m_isImage(kind.isImage)
+    {
+    }
+
+    QString text(const QString &key)
+    {
+        auto it = m_known.find(key);
+        if (it == m_known.end())
+            it = m_known.insert(key, make(key));
+        if (it->isMissing)
+            warning(missingImage) << key << "\t" << it->text << " is not exist!";
+        return it->text;
+    }
+
+private:
+    struct Replacement {
+        QString text;
+        bool isMissing;
+    };
+
+    Replacement make(const QString &key) const
+    {
+        const QString value = m_values.value(key).toString();
+        if (!m_isImage)
+            return {value, false};
+        const QString file = dpiSpecificImageFile(value);
+        return {file, !QFileInfo::exists(file)};
+    }
+
+    const QVariantMap &m_values;
+    const bool m_isImage;
+    QHash<QString, Replacement> m_known;
+};
+
+// A text with a gap between what is final and what is still to be searched. A token's text goes to
+// the end of the gap, so no token moves the text behind it. Shares the original until then.
+class GapText
+{
+public:
+    explicit GapText(const QString &text)
+        : m_text(text)
+    {
+    }
+
+    const QString &text() const { return m_text; }
+    int searchStart() const { return m_searchStart; }
+
+    // Makes everything before start final, drops [start, end) and puts the replacement in front of
+    // what is to be searched.
+    void replace(int start, int end, const QString &replacement)
+    {
+        QChar *data = m_text.data();
+        std::copy(data + m_searchStart, data + start, data + m_finalEnd);
+        m_finalEnd += start - m_searchStart;
+        m_searchStart = end;
+        if (m_searchStart - m_finalEnd < replacement.size())
+            widen(replacement.size());
+        m_searchStart -= replacement.size();
+        std::copy(replacement.cbegin(), replacement.cend(), m_text.begin() + m_searchStart);
+    }
+
+    void stepBack()
+    {
+        if (m_finalEnd > 0)
+            m_text[--m_searchStart] = m_text.at(--m_finalEnd);
+    }
+
+    QString closed()
+    {
+        if (m_finalEnd < m_searchStart)
+            m_text.remove(m_finalEnd, m_searchStart - m_finalEnd);
+        return m_text;
+    }
+
+private:
+    void widen(int wanted)
+    {
+        const int size = m_text.size();
+        const int growth = std::max(wanted, size / 4);
+        m_text.resize(size + growth);
+        std::copy_backward(m_text.cbegin() + m_searchStart, m_text.cbegin() + size, m_text.end());
+        m_searchStart += growth;
+    }
+
+    QString m_text;
+    int m_finalEnd = 0;
+    int m_searchStart = 0;
+};
+
+// A prefix of word characters is what it says, so a pass is a search for fixed text, in linear time.
+QString replaceLiteralTokens(const QString &prefix, const Kind &kind, Replacements &replacements,
+                             const QString &styleSheet)
+{
+    const QString opening = prefix + QLatin1String(kind.infix);
+    const QStringMatcher matcher(opening);
+    GapText gap(styleSheet);
+    const QString &text = gap.text();
+    int hit = matcher.indexIn(text);
+    while (hit >= 0) {
+        const int keyStart = hit + opening.size();
+        const int keyEnd =
+            int(std::find_if_not(text.cbegin() + keyStart, text.cend(), isWordCharacter)
+                - text.cbegin());
+        if (keyEnd == keyStart) {
+            hit = matcher.indexIn(text, hit + 1);
+            continue;
+        }
+
+        const QString replacement = replacements.text(text.mid(keyStart, keyEnd - keyStart));
+        const bool separated =
+            kind.hasSeparator && keyEnd < text.size() && text.at(keyEnd) == separator;
+        gap.replace(hit, separated ? keyEnd + 1 : keyEnd, replacement);
+        if (separated)
+            gap.stepBack(); // the length of the separator counts in where the search goes on
+        hit = matcher.indexIn(text, gap.searchStart());
+    }
+    return gap.closed();
+}
+
+QString canonicalToken(const QString &prefix, const Kind &kind, const QString &key)
+{
+    const QString form = QLatin1String("%1") + QLatin1String(kind.infix);
+    return kind.hasSeparator
+        ? QString(form + QLatin1String("%2")).arg(prefix).arg(key) // clazy:exclude=qstring-arg
+        : QString(form + key).arg(prefix);
+}
+
+// Any other prefix is a regular expression. It goes into the pattern as it is, and a token takes up
+// as many characters as its canonical text has, however many the expression matched.
+QString replaceMatchedTokens(const QString &prefix, const Kind &kind, Replacements &replacements,
+                             const QString &styleSheet)
+{
+    const QString infix = QLatin1String(kind.infix);
+    const QRegularExpression expression(
+        QString(QLatin1String("%1") + QRegularExpression::escape(infix) + QLatin1String("(\\w+)"))
+            .arg(prefix));
+    QString text = styleSheet;
+    QRegularExpressionMatch match = expression.match(text);
+    while (match.hasMatch()) {
+        const int start = match.capturedStart();
+        const QString key = match.captured(1);
+        int span = canonicalToken(prefix, kind, key).size();
+        if (kind.hasSeparator && start + span < text.size() && text.at(start + span) == separator)
+            ++span;
+        text.replace(start, span, replacements.text(key));
+        match = expression.match(text, std::max(0, match.capturedEnd() - span));
+    }
+    return text;
+}
+
+QString replaceTokens(const QString &prefix, const Kind &kind, const QVariantMap &values,
+                      const QString &styleSheet)
+{
+    Replacements replacements(kind, values);
+    const bool isLiteral = std::all_of(prefix.cbegin(), prefix.cend(), isWordCharacter);
+    return isLiteral ? replaceLiteralTokens(prefix, kind, replacements, styleSheet)
+                     : replaceMatchedTokens(prefix, kind, replacements, styleSheet);
+}
+
+void replaceAllTokens(Theme *theme, const Site &nullTheme, const QString &prefix, QString &text)
+{
+    if (!theme)
+        warning(nullTheme) << "Theme object is null";
+    const QVariantMap none;
+    const QVariantMap &values = theme ? theme->values() : none;
+    text = replaceCssColors(prefix, values, text);
+    text = replaceCssImages(prefix, values, text);
+    text = replaceCssIntegers(prefix, values, text);
+}
+
+void appendFile(const QString &path, const Site &site, QString &text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        warning(site) << path << "not there!";
+        return;
+    }
+    text += QString::fromUtf8(file.readAll());
+}
+
+QString themeFile(const QString &folder, const QString &name, const QString &suffix)
+{
+    // One after the other on purpose: a folder that holds "%1" has always been filled in as well.
+    return QStringLiteral("%1/%2.%3")
+        .arg(folder)
+        .arg(name)
+        .arg(suffix); // clazy:exclude=qstring-arg
+}
+
+void readThemeFile(Theme *theme, const QString &path)
+{
+    QSettings settings(path, QSettings::IniFormat);
+    theme->readSettings(settings);
+}
+
+} // namespace
+
+QString replaceCssColors(const QString &prefix, const QVariantMap &values,
+                         const QString &styleSheet)
+{
+    return replaceTokens(prefix, colorKind, values, styleSheet);
+}
+
+QString replaceCssImages(const QString &prefix, const QVariantMap &values,
+                         const QString &styleSheet)
+{
+    return replaceTokens(prefix, imageKind, values, styleSheet);
+}
+
+QString replaceCssIntegers(const QString &prefix, const QVariantMap &values,
+                           const QString &styleSheet)
+{
+    return replaceTokens(prefix, integerKind, values, styleSheet);
+}
+
+QString dpiSpecificImageFile(const QString &imageFile)
+{
+    return imageFile;
+}
+
+void replaceStyleSheet(Theme *theme, const QString &prefix, QString &styleSheet)
+{
+    replaceAllTokens(theme, replaceWithoutTheme, prefix, styleSheet);
+}
+
+void readStyleSheet(const QString &folder, QString &text)
+{
+    QDir dir(folder);
+    dir.setNameFilters({QStringLiteral("*.qss"), QStringLiteral("*.css")});
+    dir.setFilter(QDir::Files);
+    const QStringList names = dir.entryList();
+    for (const QString &name : names)
+        appendFile(folder + QLatin1Char('/') + name, folderFile, text);
+}
+
+QString findStyleSheet(Theme *theme, const QString &folder, const QString &prefix)
+{
+    QString text;
+    readStyleSheet(folder, text);
+    replaceAllTokens(theme, findInFolderWithoutTheme, prefix, text);
+    return text;
+}
+
+void readStyleSheet(const QStringList &files, QString &text)
+{
+    for (const QString &file : files)
+        appendFile(file, listedFile, text);
+}
+
+QString findStyleSheet(Theme *theme, const QStringList &files, const QString &prefix)
+{
+    QString text;
+    readStyleSheet(files, text);
+    replaceAllTokens(theme, findInListWithoutTheme, prefix, text);
+    return text;
+}
+
+void changeTheme(Theme *theme, const QString &name, const QString &folder, const QString &suffix)
+{
+    theme->clear();
+    readThemeFile(theme, themeFile(folder, QStringLiteral("default"), suffix));
+    if (name.isEmpty() || name.compare(theme->displayName(), Qt::CaseInsensitive) == 0)
+        return;
+
+    const QString file = themeFile(folder, name, suffix);
+    if (QFile::exists(file))
+        readThemeFile(theme, file);
+}
+
+} // namespace HV
