@@ -14,11 +14,9 @@ namespace HV
 namespace
 {
 
-// Messages are an interface: tools match their texts and contexts. Both tables therefore spell out
+// Messages are an interface: tools match their texts and contexts. These tables therefore spell out
 // what the compiler would put in (gcc and clang write signatures differently, a release build drops
 // them), and the lines of the lookups stay what they are wherever the code moves.
-constexpr char sourceFile[] = "hvtheme/theme.cpp";
-
 // clang-format off
 struct Lookup {
     const char *enumeration;
@@ -69,7 +67,7 @@ constexpr ColorText colorText{__LINE__, "QPair<QColor, QString> HV::Theme::readN
 template<typename Site>
 QMessageLogger logger(const Site &site)
 {
-    return QMessageLogger(sourceFile, site.line, site.function);
+    return QMessageLogger("hvtheme/theme.cpp", site.line, site.function);
 }
 
 // Hands every key of a section, the sub-keys of arrays included, to store(), unless it is taken.
@@ -334,7 +332,7 @@ QString Theme::imageFile(const QString &key, const QString &defaultFile, bool wa
         return defaultFile;
     }
 
-    const QString path = stored->isEmpty() ? defaultFile : *stored;
+    QString path = stored->isEmpty() ? defaultFile : *stored;
     if (path.startsWith(QLatin1String(":/")))
         return path;
 
