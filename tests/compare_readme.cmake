@@ -1,0 +1,11 @@
+# SPDX-FileCopyrightText: 2026 The HVTheme authors
+# SPDX-License-Identifier: MIT
+
+# The C++ of the README is a program that the tests compile. This compares the two.
+file(READ ${SOURCE_DIR}/README.md readme)
+file(READ ${SOURCE_DIR}/docs/example.cpp example)
+string(REGEX REPLACE "^(//[^\n]*\n)+\n" "" example "${example}")
+string(FIND "${readme}" "```cpp\n${example}```" position)
+if(position EQUAL -1)
+    message(FATAL_ERROR "README.md does not quote docs/example.cpp as it is. Copy it between ```cpp and ```:\n${example}")
+endif()
