@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/command_check.h>
+#include <tools/commandline.h>
+#include <tools/outputtext.h>
+
+#include <QApplication>
+#include <QTextStream>
+
+#include <cstdio>
+#include <memory>
+
+namespace
+{
+
+enum class Needs {
+    Core, //!< files and settings only
+    Widgets, //!< fonts, pictures or style sheets
+};
+
+struct Command {
+    const char *name;
+    const char *summary;
+    Needs needs;
+    int (*run)(const QStringList &arguments);
+};
+
+const Command commands[] = {
+    {"check", "Report what is wrong with the themes of a folder.", Needs::Widgets, runCheck},
+};
+
+QString helpText()
+{
+    QString text = QStringLiteral("Usage: hvtheme COMMAND [ARGUMENT...]\n"
+                                  "Works on folders of theme files and style sheet templates.\n"
+                                  "\n"
+                                  "Commands:\n");
+    for (const Command &command : commands)
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QLatin1String(command.name), -8)
+                    .arg(QLatin1String(command.summary));
+    text += QStringLiteral(
+        "\n"
+        "Options:\n"
+        "  -h, --help     Show this help; hvtheme COMMAND --help for a command.\n"
+        "  -v, --version  Show the version.\n"
+        "\n"
+        "Exit code: 0 done and clean, 1 findings, 2 wrong usage or nothing to read.\n");
+    return text;
+}
+
+// Qt's chatter about the environment is no report: the commands show what belongs to theirs.
+void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
+
+int runCommand(const Command &command, int &argc, char **argv)
+{
+    const auto previous = qInstallMessageHandler(ignoreMessage);
+    std::unique_ptr<QCoreApplication> application;
+    if (command.needs == Needs::Widgets)
+        application = std::make_unique<QApplication>(argc, argv);
+    else
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    const int code = command.run(QCoreApplication::arguments().mid(2));
+    application.reset();
+    qInstallMessageHandler(previous);
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Nothing here has a window, and the platform for screens would need one to be there.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QString name = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
+    for (const Command &command : commands) {
+        if (name == QLatin1String(command.name))
+            return runCommand(command, argc, argv);
+    }
+    if (name == QLatin1String("-h") || name == QLatin1String("--help")) {
+        QTextStream(stdout) << helpText();
+        return ExitDone;
+    }
+    if (name == QLatin1String("-v") || name == QLatin1String("--version")) {
+        QTextStream(stdout) << "hvtheme " HVTHEME_VERSION "\n";
+        return ExitDone;
+    }
+    printError(name.isEmpty()
+                   ? QStringLiteral("a command is missing (see hvtheme --help)")
+                   : QStringLiteral("no command is called \"%1\" (see hvtheme --help)").arg(name));
+    return ExitUnusable;
+}
