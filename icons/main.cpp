@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <hvtheme/theming.h>
+#include <hvtheme/workabletheming.h>
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTextStream>
+
+#include <optional>
+
+namespace
+{
+
+const QLatin1String tokenPrefix("global");
+const QLatin1String themeSuffix("theme");
+
+enum ExitCode {
+    Success = 0,
+    Failure = 1,
+    WrongUsage = 2,
+};
+
+const char usage[] =
+    "Usage: hvtheme-icons FOLDER THEME OUTPUT_FOLDER FILE.svg...\n"
+    "\n"
+    "Writes a copy of each FILE.svg into OUTPUT_FOLDER, its colour tokens\n"
+    "(global.theme.color.<Key>) replaced by the colours of the theme THEME, which\n"
+    "is read from FOLDER/default.theme and FOLDER/THEME.theme. A copy that would\n"
+    "not change is left alone, its time included.\n"
+    "\n"
+    "Exit codes: 0 all copies are up to date; 1 a theme or picture cannot be used,\n"
+    "the standard error says which and why; 2 wrong usage.\n";
+
+bool complain(const QString &what)
+{
+    QTextStream(stderr) << "hvtheme-icons: " << what << '\n';
+    return false;
+}
+
+bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
+{
+    // A missing file reads as an empty one, and a missing named theme as the default alone; here
+    // both would give a set of icons in the wrong colours.
+    for (const QString &part : {QStringLiteral("default"), name}) {
+        const QString file = folder % QLatin1Char('/') % part % QLatin1Char('.') % themeSuffix;
+        if (!QFileInfo(file).isReadable())
+            return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
+    }
+    HV::changeTheme(theme, name, folder);
+    return true;
+}
+
+std::optional<QString> readText(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        complain(path % QLatin1String(": ") % file.errorString());
+        return std::nullopt;
+    }
+    return QString::fromUtf8(file.readAll());
+}
+
+QString withLine(const QString &path, const QString &text, int offset)
+{
+    return path % QLatin1Char(':')
+        % QString::number(text.left(offset).count(QLatin1Char('\n')) + 1);
+}
+
+/*! Says why a token cannot be replaced by a colour that SVG knows; null if it can. */
+QString tokenFault(const QVariantMap &values, const QString &kind, const QString &key)
+{
+    if (kind != QLatin1String("color"))
+        return QLatin1String("only colour tokens can stand in a picture");
+    const QVariant value = values.value(key);
+    if (value.userType() != QMetaType::QColor)
+        return QLatin1String("the theme has no such colour");
+    // SVG has no colour with an alpha channel; Qt would draw such an element in black, or not at all.
+    if (value.value<QColor>().alpha() != 255)
+        return QLatin1String(
+            "the colour is translucent, which SVG writes as an opacity of its own");
+    return QString();
+}
+
+bool checkTokens(const QVariantMap &values, const QString &path, const QString &text)
+{
+    static const QRegularExpression token(QStringLiteral("global\\.theme\\.(\\w+)\\.(\\w+)"));
+    bool ok = true;
+    auto matches = token.globalMatch(text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const QString fault = tokenFault(values, match.captured(1), match.captured(2));
+        if (!fault.isNull())
+            ok = complain(withLine(path, text, match.capturedStart()) % QLatin1String(": ")
+                          % match.captured() % QLatin1String(": ") % fault);
+    }
+    return ok;
+}
+
+bool writeIfChanged(const QString &path, const QByteArray &content)
+{
+    QFile present(path);
+    if (present.open(QIODevice::ReadOnly) && present.readAll() == content)
+        return true;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+        return complain(path % QLatin1String(": ") % file.errorString());
+    return true;
+}
+
+bool tint(HV::Theme *theme, const QString &source, const QDir &output)
+{
+    std::optional<QString> text = readText(source);
+    if (!text || !checkTokens(theme->values(), source, *text))
+        return false;
+    HV::replaceStyleSheet(theme, tokenPrefix, *text);
+    return writeIfChanged(output.filePath(QFileInfo(source).fileName()), text->toUtf8());
+}
+
+int run(const QStringList &arguments)
+{
+    if (arguments.size() == 2
+        && (arguments[1] == QLatin1String("--help") || arguments[1] == QLatin1String("-h"))) {
+        QTextStream(stdout) << usage;
+        return Success;
+    }
+    if (arguments.size() < 5) {
+        QTextStream(stderr) << usage;
+        return WrongUsage;
+    }
+    HV::WorkableTheme theme;
+    if (!loadTheme(&theme, arguments[1], arguments[2]))
+        return Failure;
+    const QDir output(arguments[3]);
+    if (!output.mkpath(QStringLiteral("."))) {
+        complain(output.path() % QLatin1String(": cannot be made a folder"));
+        return Failure;
+    }
+    int exitCode = Success;
+    for (const QString &source : arguments.mid(4)) {
+        if (!tint(&theme, source, output))
+            exitCode = Failure;
+    }
+    return exitCode;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    return run(QCoreApplication::arguments());
+}
