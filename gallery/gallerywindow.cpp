@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "gallerywindow.h"
+
+#include "pages.h"
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListView>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace Gallery
+{
+
+namespace
+{
+
+QListWidget *createPageList(const Options &options)
+{
+    auto *list = new QListWidget;
+    list->setObjectName(QStringLiteral("pages"));
+    list->setProperty("style", QStringLiteral("simpleList"));
+    QVector<Page> entries = pages();
+    if (!options.formFile.isEmpty())
+        entries.append({QString::fromLatin1(formPageName), QFileInfo(options.formFile).fileName()});
+    for (const Page &page : qAsConst(entries)) {
+        auto *item = new QListWidgetItem(page.title, list);
+        item->setData(Qt::UserRole, page.name);
+        if (page.name == options.pages.value(0))
+            list->setCurrentItem(item);
+    }
+    if (list->currentRow() < 0)
+        list->setCurrentRow(options.formFile.isEmpty() ? 0 : list->count() - 1);
+    list->setFixedWidth(200);
+    return list;
+}
+
+QWidget *createHeader(QComboBox *themes)
+{
+    auto *header = new QWidget;
+    header->setProperty("style", QStringLiteral("toolWidget"));
+    auto *layout = new QHBoxLayout(header);
+    layout->setContentsMargins(12, 8, 12, 8);
+    layout->addWidget(new QLabel(QStringLiteral("Theme")));
+    layout->addWidget(themes);
+    layout->addStretch();
+    layout->addWidget(new QLabel(QStringLiteral("Click a selector to copy it.")));
+    return header;
+}
+
+QListView *createMessageList(MessageLog *log)
+{
+    auto *messages = new QListView;
+    messages->setObjectName(QStringLiteral("messages"));
+    messages->setModel(log);
+    messages->setWordWrap(true);
+    messages->setSelectionMode(QAbstractItemView::NoSelection);
+    return messages;
+}
+
+} // namespace
+
+GalleryWindow::GalleryWindow(const Options &options)
+    : m_source(options.source)
+    , m_formFile(options.formFile)
+    , m_themes(new QComboBox)
+    , m_pages(createPageList(options))
+    , m_area(new QScrollArea)
+{
+    if (m_source.themeName.isEmpty())
+        m_source.themeName = themeNames(m_source.themesFolder).value(0);
+    buildParts();
+    connect(m_themes, &QComboBox::textActivated, this, [this](const QString &name) {
+        m_source.themeName = name;
+        reload();
+    });
+    connect(m_pages, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
+    connect(&m_watcher, &ThemeWatcher::changed, this, &GalleryWindow::reload);
+    // Hundreds of specimens restyle slower than they are built anew; the form stays, since the
+    // next one may turn out to be unreadable.
+    connect(&m_look, &Look::aboutToChange, this, [this] {
+        if (!showsForm())
+            setPage(nullptr);
+    });
+    reload();
+}
+
+void GalleryWindow::buildParts()
+{
+    setWindowTitle(QStringLiteral("Theme gallery"));
+    m_themes->setObjectName(QStringLiteral("themes"));
+    m_themes->setMinimumWidth(140);
+    m_area->setObjectName(QStringLiteral("page"));
+    m_area->setWidgetResizable(true);
+
+    auto *pagesAndPage = new QWidget;
+    auto *row = new QHBoxLayout(pagesAndPage);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_pages);
+    row->addWidget(m_area, 1);
+
+    auto *splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(pagesAndPage);
+    splitter->addWidget(createMessageList(&m_log));
+    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({700, 100});
+
+    auto *central = new QWidget;
+    auto *column = new QVBoxLayout(central);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(createHeader(m_themes));
+    column->addWidget(splitter, 1);
+    setCentralWidget(central);
+    statusBar()->setSizeGripEnabled(false);
+    resize(1420, 920);
+}
+
+Problem GalleryWindow::reload()
+{
+    QElapsedTimer timer;
+    timer.start();
+    m_log.clear();
+    const int scrolled = m_area->verticalScrollBar()->value();
+    const Problem problem = m_look.load(m_source);
+    listThemes();
+    if (page() == nullptr || showsForm())
+        showPage();
+    m_area->verticalScrollBar()->setValue(scrolled);
+    QStringList files = m_look.files();
+    if (!m_formFile.isEmpty())
+        files.append(m_formFile);
+    m_watcher.setPaths(files, m_source.templateFolders + QStringList{m_source.themesFolder});
+    statusBar()->showMessage(problem == Problem::None
+                                 ? QStringLiteral("Restyled in %1 ms").arg(timer.elapsed())
+                                 : QStringLiteral("This is the last good look; see the messages"));
+    Q_EMIT reloaded();
+    return problem;
+}
+
+void GalleryWindow::listThemes()
+{
+    const QSignalBlocker blocker(m_themes);
+    QStringList names = themeNames(m_source.themesFolder);
+    if (!names.contains(m_source.themeName))
+        names.append(m_source.themeName); // wanted, and watched for
+    m_themes->clear();
+    m_themes->addItems(names);
+    m_themes->setCurrentText(m_source.themeName);
+}
+
+void GalleryWindow::showPage()
+{
+    QWidget *page =
+        showsForm() ? createFormPage(m_formFile) : createPage(pageName(), *m_look.theme());
+    if (page != nullptr)
+        setPage(page);
+}
+
+void GalleryWindow::setPage(QWidget *page)
+{
+    delete m_area->takeWidget();
+    if (page != nullptr)
+        m_area->setWidget(page);
+}
+
+QWidget *GalleryWindow::page() const
+{
+    return m_area->widget();
+}
+
+QString GalleryWindow::pageName() const
+{
+    return m_pages->currentItem()->data(Qt::UserRole).toString();
+}
+
+bool GalleryWindow::showsForm() const
+{
+    return pageName() == QLatin1String(formPageName);
+}
+
+} // namespace Gallery

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_GALLERYWINDOW_H
+#define GALLERY_GALLERYWINDOW_H
+
+#include "look.h"
+#include "messagelog.h"
+#include "options.h"
+#include "themewatcher.h"
+
+#include <QMainWindow>
+
+class QComboBox;
+class QListWidget;
+class QScrollArea;
+
+namespace Gallery
+{
+
+/*!
+ * \brief The gallery's window: a chooser of themes, the pages, and a pane of messages.
+ *
+ * It restyles the program whenever a file that the look or the form comes from changes. Its parts
+ * are found by object name: `themes`, `pages`, `page` (the scroll area) and `messages`.
+ */
+class GalleryWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit GalleryWindow(const Options &options);
+
+    /*! \brief Reads everything again and shows it; a problem leaves the last good look. */
+    Problem reload();
+
+    /*! \brief Returns the page that is shown, null before the first. */
+    QWidget *page() const;
+    const MessageLog &messageLog() const { return m_log; }
+
+Q_SIGNALS:
+    /*! \brief A reload() is over, whether or not it found a problem. */
+    void reloaded();
+
+private:
+    void buildParts();
+    void listThemes();
+    void showPage();
+    void setPage(QWidget *page);
+    QString pageName() const;
+    bool showsForm() const;
+
+    MessageLog m_log;
+    Look m_look;
+    ThemeWatcher m_watcher;
+    LookSource m_source;
+    QString m_formFile;
+    QComboBox *m_themes = nullptr;
+    QListWidget *m_pages = nullptr;
+    QScrollArea *m_area = nullptr;
+};
+
+} // namespace Gallery
+
+#endif

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "gallerywindow.h"
+#include "options.h"
+#include "screenshots.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QStyleFactory>
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr int usageError = 1;
+
+void print(FILE *stream, const QString &text)
+{
+    std::fputs(qUtf8Printable(text), stream);
+}
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+QStringList argumentList(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+// Both have to be in the environment before the application object is made.
+void prepareEnvironment(const Gallery::Options &options)
+{
+    const bool windowless = options.help || options.version || !options.error.isEmpty()
+        || !options.screenshotFolder.isEmpty() || !hasDisplay();
+    if (windowless && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!options.screenshotFolder.isEmpty())
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+}
+
+int run(const Gallery::Options &options, bool displayed)
+{
+    if (!options.screenshotFolder.isEmpty())
+        return static_cast<int>(Gallery::takeScreenshots(options));
+    if (!displayed) {
+        print(stderr,
+              QStringLiteral("hvtheme-gallery: no display to open a window on. Draw into "
+                             "files instead: --screenshot DIR\n"));
+        return usageError;
+    }
+    Gallery::GalleryWindow window(options);
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QStringList arguments = argumentList(argc, argv);
+    const bool displayed = hasDisplay();
+    prepareEnvironment(Gallery::readOptions(arguments, {}));
+
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("hvtheme-gallery"));
+    QApplication::setApplicationVersion(QStringLiteral(HVTHEME_VERSION));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+
+    const QString themes =
+        QFileInfo(QApplication::applicationDirPath() + QStringLiteral("/../share/hvtheme/themes"))
+            .absoluteFilePath();
+    const Gallery::Options options = Gallery::readOptions(QApplication::arguments(), themes);
+    if (!options.error.isEmpty()) {
+        print(stderr, QStringLiteral("hvtheme-gallery: %1 See --help.\n").arg(options.error));
+        return usageError;
+    }
+    if (options.help || options.version) {
+        print(stdout,
+              options.help ? Gallery::helpText()
+                           : QStringLiteral("hvtheme-gallery " HVTHEME_VERSION "\n"));
+        return 0;
+    }
+    return run(options, displayed);
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_MESSAGELOG_H
+#define GALLERY_MESSAGELOG_H
+
+#include <QAbstractListModel>
+#include <QVector>
+
+namespace Gallery
+{
+
+/*!
+ * \brief Every message of the program since the last clear(), as a list model.
+ *
+ * While it lives it is Qt's message handler and passes each message on to the one before, so that
+ * stderr shows them too. One at a time; messages may come from any thread and arrive queued.
+ */
+class MessageLog final : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    struct Message {
+        QtMsgType severity;
+        QString text;
+    };
+
+    explicit MessageLog(QObject *parent = nullptr);
+    ~MessageLog() override;
+
+    /*! \brief Forgets the messages so far, those on their way included. */
+    void clear();
+
+    const QVector<Message> &messages() const { return m_messages; }
+    int rowCount(const QModelIndex &parent = {}) const override;
+
+    /*! \brief `Qt::DisplayRole`: severity and text, `critical: no theme named "x"`. */
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    static void handleMessage(QtMsgType severity, const QMessageLogContext &context,
+                              const QString &text);
+    void append(int generation, const Message &message);
+
+    QVector<Message> m_messages;
+    int m_generation = 0;
+};
+
+} // namespace Gallery
+
+#endif

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "pages.h"
+
+#include "applicationpage.h"
+#include "colorspage.h"
+#include "specimenpage.h"
+#include "specimentable.h"
+
+#include <QFile>
+#include <QUiLoader>
+#include <QVariant>
+#include <QWidget>
+
+namespace Gallery
+{
+
+const char formPageName[] = "form";
+
+QVector<Page> pages()
+{
+    return {
+        {"application", "Application"},
+        {"buttons", "Buttons"},
+        {"image-buttons", "Image buttons"},
+        {"inputs", "Inputs"},
+        {"selection", "Selection"},
+        {"sliders", "Sliders and scroll bars"},
+        {"labels", "Labels and icons"},
+        {"lists", "Lists and tables"},
+        {"tabs", "Tabs"},
+        {"calendar", "Calendar"},
+        {"menus", "Menus and tool tips"},
+        {"surfaces", "Surfaces"},
+        {"colours", "Colours"},
+    };
+}
+
+QWidget *createPage(const QString &name, HV::Theme &theme)
+{
+    QWidget *page = nullptr;
+    if (name == QLatin1String("application"))
+        page = createApplicationPage();
+    else if (name == QLatin1String("colours"))
+        page = createColorsPage(theme);
+    else if (!specimenSections(name).isEmpty())
+        page = createSpecimenPage(name);
+    else
+        return nullptr;
+    page->setProperty("style", QStringLiteral("BG3"));
+    return page;
+}
+
+QWidget *createFormPage(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qCritical("The form \"%ls\" cannot be read: %ls. Name a .ui file that can with --ui.",
+                  qUtf16Printable(path), qUtf16Printable(file.errorString()));
+        return nullptr;
+    }
+    QUiLoader loader;
+    QWidget *form = loader.load(&file);
+    if (form == nullptr) {
+        qCritical("The form \"%ls\" is none: %ls. Save it again with Qt Designer.",
+                  qUtf16Printable(path), qUtf16Printable(loader.errorString()));
+        return nullptr;
+    }
+    form->setWindowFlags(Qt::Widget);
+    return form;
+}
+
+} // namespace Gallery

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_PAGES_H
+#define GALLERY_PAGES_H
+
+#include <hvtheme/theme.h>
+
+#include <QString>
+#include <QVector>
+
+class QWidget;
+
+namespace Gallery
+{
+
+/*! \brief A page of the gallery: its name on the command line and its title in the window. */
+struct Page {
+    QString name;
+    QString title;
+};
+
+/*! \brief The page that shows the form given with `--ui`. */
+extern const char formPageName[];
+
+/*! \brief Returns the pages in the window's order, the page of the form not among them. */
+QVector<Page> pages();
+
+/*!
+ * \brief Builds the page called \a name for \a theme.
+ *
+ * \return a widget without parent on a surface of the theme's, which the caller owns; null for an
+ *         unknown name.
+ */
+QWidget *createPage(const QString &name, HV::Theme &theme);
+
+/*!
+ * \brief Builds the form in the file \a path with Qt's form loader.
+ *
+ * \return a widget without parent, which the caller owns; null, after a critical message that says
+ *         what to do, when the file cannot be read or holds no form.
+ */
+QWidget *createFormPage(const QString &path);
+
+} // namespace Gallery
+
+#endif

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "screenshots.h"
+
+#include "pages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImageWriter>
+#include <QPainter>
+#include <QWidget>
+
+namespace Gallery
+{
+
+namespace
+{
+
+constexpr int gapBetweenThemes = 16;
+
+QString fileName(const Options &options, const QString &page, const QString &theme)
+{
+    const QString suffix =
+        options.scale > 1 ? QStringLiteral("@%1x").arg(options.scale) : QString();
+    return options.screenshotFolder + QLatin1Char('/') + page + QLatin1Char('-') + theme + suffix
+        + QLatin1String(".png");
+}
+
+Problem writePicture(const QImage &picture, const QString &path)
+{
+    QImageWriter writer(path, "png");
+    writer.setCompression(100); // the smallest file
+    if (writer.write(picture))
+        return Problem::None;
+    qCritical("\"%ls\" cannot be written: %ls. Name a folder that can be written to with "
+              "--screenshot.",
+              qUtf16Printable(path), qUtf16Printable(writer.errorString()));
+    return Problem::Output;
+}
+
+QImage joined(const QVector<QImage> &pictures)
+{
+    const qreal ratio = pictures.first().devicePixelRatioF();
+    const int gap = qRound(gapBetweenThemes * ratio);
+    int width = -gap;
+    int height = 0;
+    for (const QImage &picture : pictures) {
+        width += gap + picture.width();
+        height = qMax(height, picture.height());
+    }
+    QImage canvas(width, height, QImage::Format_RGB32);
+    canvas.fill(Qt::white);
+    QPainter painter(&canvas);
+    int left = 0;
+    for (QImage picture : pictures) {
+        picture.setDevicePixelRatio(1);
+        painter.drawImage(left, 0, picture);
+        left += picture.width() + gap;
+    }
+    painter.end();
+    canvas.setDevicePixelRatio(ratio);
+    return canvas;
+}
+
+QStringList pagesOf(const Options &options)
+{
+    if (!options.pages.isEmpty())
+        return options.pages;
+    QStringList names;
+    for (const Page &page : pages())
+        names.append(page.name);
+    if (!options.formFile.isEmpty())
+        names.append(QString::fromLatin1(formPageName));
+    return names;
+}
+
+QStringList themesOf(const Options &options)
+{
+    if (!options.themes.isEmpty())
+        return options.themes;
+    const QStringList names = themeNames(options.source.themesFolder);
+    return names.isEmpty() ? QStringList{QString()} : names; // to be told what is wrong with it
+}
+
+// Takes the pages in one theme after the other: restyling is what costs.
+class Photographer
+{
+public:
+    explicit Photographer(const Options &options)
+        : m_options(options)
+    {
+    }
+
+    Problem run()
+    {
+        const QStringList themes = themesOf(m_options);
+        for (const QString &theme : themes)
+            takeTheme(theme);
+        if (m_options.join)
+            writeJoined(themes);
+        return m_problem;
+    }
+
+private:
+    void note(Problem problem)
+    {
+        if (m_problem == Problem::None)
+            m_problem = problem;
+    }
+
+    void takeTheme(const QString &theme)
+    {
+        LookSource source = m_options.source;
+        source.themeName = theme;
+        const Problem problem = m_look.load(source);
+        note(problem);
+        if (problem != Problem::None)
+            return;
+        for (const QString &name : pagesOf(m_options)) {
+            const bool form = name == QLatin1String(formPageName);
+            const std::unique_ptr<QWidget> page(form ? createFormPage(m_options.formFile)
+                                                     : createPage(name, *m_look.theme()));
+            if (page == nullptr) {
+                note(Problem::Form);
+                continue;
+            }
+            const QImage picture = takePicture(page.get());
+            note(writePicture(picture, fileName(m_options, name, theme)));
+            if (m_options.join)
+                m_pictures[name].append(picture);
+        }
+    }
+
+    void writeJoined(const QStringList &themes)
+    {
+        for (auto page = m_pictures.cbegin(); page != m_pictures.cend(); ++page)
+            note(writePicture(joined(page.value()),
+                              fileName(m_options, page.key(), themes.join(QLatin1Char('-')))));
+    }
+
+    const Options &m_options;
+    Look m_look;
+    QMap<QString, QVector<QImage>> m_pictures;
+    Problem m_problem = Problem::None;
+};
+
+} // namespace
+
+QImage takePicture(QWidget *page)
+{
+    // Shown, but on no screen: only then are focus and layout what they are in a window.
+    page->setAttribute(Qt::WA_DontShowOnScreen);
+    page->setFocusPolicy(Qt::StrongFocus);
+    page->ensurePolished();
+    page->adjustSize();
+    page->show();
+    QApplication::setActiveWindow(page);
+    page->setFocus();
+    QCoreApplication::sendPostedEvents();
+    return page->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+Problem takeScreenshots(const Options &options)
+{
+    if (!QDir().mkpath(options.screenshotFolder)) {
+        qCritical("The folder \"%ls\" cannot be made. Name another one with --screenshot.",
+                  qUtf16Printable(options.screenshotFolder));
+        return Problem::Output;
+    }
+    return Photographer(options).run();
+}
+
+} // namespace Gallery

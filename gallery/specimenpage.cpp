@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "specimenpage.h"
+
+#include "copylabel.h"
+#include "specimentable.h"
+#include "specimenwidget.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+#include <QVariant>
+
+namespace Gallery
+{
+
+namespace
+{
+
+constexpr int pageMargin = 24;
+
+QLabel *createHeading(const QString &title)
+{
+    auto *heading = new QLabel(title);
+    heading->setProperty("fontSize", QStringLiteral("XL"));
+    heading->setProperty("fontWeight", QStringLiteral("bold"));
+    return heading;
+}
+
+QLabel *createNote(const QString &text)
+{
+    auto *note = new QLabel(text);
+    note->setObjectName(QStringLiteral("note"));
+    note->setWordWrap(true);
+    return note;
+}
+
+// A specimen above the name of its state.
+QWidget *createCell(const Specimen &specimen)
+{
+    auto *cell = new QWidget;
+    auto *layout = new QVBoxLayout(cell);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(3);
+    layout->addStretch();
+    layout->addWidget(createSpecimenWidget(specimen), 0, Qt::AlignLeft);
+    auto *caption =
+        new CopyLabel(specimen.stateCaption(), specimen.selector, specimen.parts.propertyLines());
+    caption->setObjectName(QStringLiteral("stateCaption"));
+    layout->addWidget(caption, 0, Qt::AlignLeft);
+    return cell;
+}
+
+void addNotes(const SpecimenRow &row, QVBoxLayout *layout)
+{
+    const auto notes = engineNotes();
+    for (const EngineNote &note : notes) {
+        for (const Specimen &specimen : row.specimens) {
+            if (specimen.hasRule && specimen.selector == note.selector)
+                layout->addWidget(createNote(note.text()));
+        }
+    }
+}
+
+// The base selector, its specimens side by side, and what Qt makes of their rules.
+QWidget *createRow(const SpecimenRow &row)
+{
+    auto *widget = new QWidget;
+    auto *layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    const Selector base = Selector::fromText(row.baseSelector);
+    auto *caption = new CopyLabel(row.baseSelector, row.baseSelector, base.propertyLines());
+    caption->setObjectName(QStringLiteral("caption"));
+    layout->addWidget(caption, 0, Qt::AlignLeft);
+    auto *cells = new QHBoxLayout;
+    cells->setSpacing(16);
+    for (const Specimen &specimen : row.specimens)
+        cells->addWidget(createCell(specimen));
+    cells->addStretch();
+    layout->addLayout(cells);
+    addNotes(row, layout);
+    layout->addStretch();
+    return widget;
+}
+
+QLayout *createSection(const SpecimenSection &section)
+{
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(18);
+    for (int i = 0; i < section.rows.size(); ++i)
+        grid->addWidget(createRow(section.rows.at(i)), i / section.columns, i % section.columns);
+    for (int column = 0; column < section.columns; ++column)
+        grid->setColumnStretch(column, 1);
+    return grid;
+}
+
+} // namespace
+
+QWidget *createSpecimenPage(const QString &name)
+{
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(pageMargin, pageMargin, pageMargin, pageMargin);
+    layout->setSpacing(14);
+    const auto sections = specimenSections(name);
+    for (const SpecimenSection &section : sections) {
+        layout->addWidget(createHeading(section.title));
+        layout->addLayout(createSection(section));
+        layout->addSpacing(12);
+    }
+    layout->addStretch();
+    return page;
+}
+
+} // namespace Gallery
