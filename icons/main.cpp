@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QSettings>
 #include <QTextStream>
 
 #include <optional>
@@ -44,14 +45,28 @@ bool complain(const QString &what)
     return false;
 }
 
+QString themeFile(const QString &folder, const QString &name)
+{
+    return folder % QLatin1Char('/') % name % QLatin1Char('.') % themeSuffix;
+}
+
+// Loading a theme never fails: a file that is missing reads as an empty one or is passed over. Here
+// that would give a set of icons in the wrong colours.
 bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
 {
-    // A missing file reads as an empty one, and a missing named theme as the default alone; here
-    // both would give a set of icons in the wrong colours.
-    for (const QString &part : {QStringLiteral("default"), name}) {
-        const QString file = folder % QLatin1Char('/') % part % QLatin1Char('.') % themeSuffix;
+    const QString defaultName = QStringLiteral("default");
+    for (const QString &part : {defaultName, name}) {
+        const QString file = themeFile(folder, part);
         if (!QFileInfo(file).isReadable())
             return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
+    }
+    const QString defaultFile = themeFile(folder, defaultName);
+    const QString displayName = QSettings(defaultFile, QSettings::IniFormat)
+                                    .value(QStringLiteral("ThemeName"), QStringLiteral("unnamed"))
+                                    .toString();
+    if (name != defaultName && displayName.compare(name, Qt::CaseInsensitive) == 0) {
+        return complain(themeFile(folder, name) % QLatin1String(": never read, for ") % defaultFile
+                        % QLatin1String(" has this ThemeName"));
     }
     HV::changeTheme(theme, name, folder);
     return true;
@@ -116,11 +131,15 @@ bool writeIfChanged(const QString &path, const QByteArray &content)
 
 bool tint(HV::Theme *theme, const QString &source, const QDir &output)
 {
+    const QString copy = output.filePath(QFileInfo(source).fileName());
+    // Two files that do not exist count as equal.
+    if (QFile::exists(copy) && QFileInfo(copy) == QFileInfo(source))
+        return complain(source % QLatin1String(": its copy would replace it"));
     std::optional<QString> text = readText(source);
     if (!text || !checkTokens(theme->values(), source, *text))
         return false;
     HV::replaceStyleSheet(theme, tokenPrefix, *text);
-    return writeIfChanged(output.filePath(QFileInfo(source).fileName()), text->toUtf8());
+    return writeIfChanged(copy, text->toUtf8());
 }
 
 int run(const QStringList &arguments)
