@@ -1,0 +1,51 @@
+# SPDX-FileCopyrightText: 2026 The HVTheme authors
+# SPDX-License-Identifier: MIT
+
+# Usage: cmake -DBUILD_DIR=<project's build folder> -DWORK_DIR=<folder> -DCONFIG=<build type>
+#              -DCXX=<compiler> -DCXX_FLAGS=<flags> -DLIBDIR=<library folder below the prefix>
+#              [-DGENERATOR=<name> | -DPKG_CONFIG=<program>] -P run.cmake
+#
+# Installs the project below WORK_DIR, builds the program beside this script against the installed
+# files, by find_package or by pkg-config, and checks what it prints.
+
+cmake_minimum_required(VERSION 3.16)
+
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE error)
+    if(NOT status EQUAL 0)
+        list(JOIN ARGN " " command)
+        message(FATAL_ERROR "${command}: ${status}\n${output}${error}")
+    endif()
+    set(output "${output}" PARENT_SCOPE)
+    set(error "${error}" PARENT_SCOPE)
+endfunction()
+
+set(prefix ${WORK_DIR}/prefix)
+set(program ${WORK_DIR}/build/consumer)
+file(REMOVE_RECURSE ${WORK_DIR})
+file(MAKE_DIRECTORY ${WORK_DIR}/build)
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --config ${CONFIG})
+
+if(PKG_CONFIG)
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    run(${PKG_CONFIG} --cflags --libs "hvtheme >= 1.0")
+    separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS} ${CMAKE_CURRENT_LIST_DIR}/main.cpp ${output}")
+    run(${CXX} -o ${program} ${flags})
+    set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR}:$ENV{LD_LIBRARY_PATH})
+else()
+    run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
+        -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
+        -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+    run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+endif()
+
+run(${program} ${CMAKE_CURRENT_LIST_DIR}/themes)
+set(expected "Night
+QToolTip {
+    border:0px;
+    background-color:#102030;
+}
+")
+if(NOT output STREQUAL expected OR NOT error STREQUAL "")
+    message(FATAL_ERROR "The program printed\n${output}${error}\ninstead of\n${expected}")
+endif()
