@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include <contrast/contrast.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -12,8 +11,6 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QtTest>
-
-#include <cmath>
 
 namespace
 {
@@ -103,12 +100,6 @@ int visiblePixels(const QImage &image)
     return differingPixels(image, empty);
 }
 
-double lightness(const QColor &color)
-{
-    const double luminance = ColorMath::relativeLuminance(color);
-    return luminance > 0.008856 ? 116 * std::cbrt(luminance) - 16 : 903.3 * luminance;
-}
-
 } // namespace
 
 class tst_Themes : public QObject
@@ -127,10 +118,6 @@ private Q_SLOTS:
     void images();
     void imagesDiffer_data();
     void imagesDiffer();
-    void paletteSteps_data();
-    void paletteSteps();
-    void contrast_data();
-    void contrast();
 };
 
 void tst_Themes::load_data()
@@ -292,149 +279,6 @@ void tst_Themes::imagesDiffer()
             QVERIFY2(differingPixels(*one, *other) >= height / 2, qUtf8Printable(pair));
         }
     }
-}
-
-void tst_Themes::paletteSteps_data()
-{
-    QTest::addColumn<QString>("run");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<double>("start");
-    QTest::addColumn<double>("step");
-
-    for (const char *run : {"Brand", "Red", "Yellow", "Green", "Orange"})
-        QTest::newRow(run) << run << 10 << 100.0 << -9.0;
-    QTest::newRow("Bg") << "Bg" << 7 << 0.0 << 3.0;
-}
-
-void tst_Themes::paletteSteps()
-{
-    QFETCH(QString, run);
-    QFETCH(int, count);
-    QFETCH(double, start);
-    QFETCH(double, step);
-
-    HV::WorkableTheme theme;
-    HV::changeTheme(&theme, "default", themesFolder());
-    for (int n = 1; n <= count; ++n) {
-        const QString name = run % QLatin1Char('_') % QString::number(n);
-        const QPair<QColor, QString> entry = theme.readNamedColor(name);
-        QCOMPARE(entry.second, name);
-        // Eight bits a channel are no finer than this near black.
-        const double error = qAbs(lightness(entry.first) - (start + step * n));
-        QVERIFY2(error < 0.35,
-                 qUtf8Printable(name % QLatin1String(" is off by ") % QString::number(error)));
-    }
-}
-
-namespace
-{
-
-struct Pair {
-    const char *foreground;
-    const char *layers; // the lowest first, joined by "+"; "*" stands for each BackgroundColor_n
-    double ordinary; // in dark and light
-    double high; // in contrast
-};
-
-// What the built-in templates put together. The text of a disabled button is DefaultForegroundColor
-// and that of a disabled field Color_W100, so these are held to the measure of ordinary text.
-// clang-format off
-const Pair pairs[] = {
-    {"DefaultForegroundColor",     "*",                                      4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_W15",                            4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_B20",                            4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_B32",                            4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_B32+Color_Brand_7",              4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_B32+Color_Brand_8",              4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_Brand_8",                        4.5, 7.0},
-    {"DefaultForegroundColor",     "*+Color_Yellow_10",                      4.5, 7.0},
-    {"DefaultForegroundColor",     "*+GeneralButtonBackgroundNormal",        4.5, 7.0},
-    {"DefaultForegroundColor",     "*+GeneralButtonBackgroundHover",         4.5, 7.0},
-    {"DefaultForegroundColor",     "*+GeneralButtonBackgroundPressed",       4.5, 7.0},
-    {"DefaultForegroundColor",     "*+GeneralButtonBackgroundDisabled",      4.5, 7.0},
-    {"DefaultForegroundColor",     "*+AssistButtonBackgroundNormal",         4.5, 7.0},
-    {"DefaultForegroundColor",     "*+AssistButtonBackgroundHover",          4.5, 7.0},
-    {"DefaultForegroundColor",     "*+AssistButtonBackgroundPressed",        4.5, 7.0},
-    {"DefaultForegroundColor",     "*+AssistButtonBackgroundDisabled",       4.5, 7.0},
-    {"DefaultForegroundColor",     "MenuBackgroundColor",                    4.5, 7.0},
-    {"DefaultForegroundColor",     "MenuHighlightBackgroundColor",           4.5, 7.0},
-    {"DefaultForegroundColor",     "ToolTipBackgroundColor",                 4.5, 7.0},
-    {"DefaultForegroundColor",     "EditBackgroundColor",                    4.5, 7.0},
-    {"DefaultForegroundColor",     "EditHighlightBorderColor",               4.5, 7.0},
-    {"Color_W100",                 "*",                                      4.5, 7.0},
-    {"Color_W100",                 "EditBackgroundColor",                    4.5, 7.0},
-    {"Color_W100",                 "EditBackgroundColor+Color_W15",          4.5, 7.0},
-    {"Color_W100",                 "EditBackgroundColor+Color_B20",          4.5, 7.0},
-    {"Color_W100",                 "EditHighlightBorderColor",               4.5, 7.0},
-    {"Color_W100",                 "EditDisabledBackgroundColor",            4.5, 7.0},
-    {"HighlightedForegroundColor", "*",                                      4.5, 7.0},
-    {"ErrorHintForegroundColor",   "*",                                      4.5, 7.0},
-    {"Color_W40",                  "*",                                      4.5, 7.0},
-    {"Color_Yellow_6",             "*",                                      4.5, 7.0},
-    {"Color_Green_6",              "*",                                      4.5, 7.0},
-    {"Color_Orange_6",             "*",                                      4.5, 7.0},
-    {"DisabledForegroundColor",    "*",                                      3.0, 3.0},
-    {"DisabledForegroundColor",    "EditBackgroundColor",                    3.0, 3.0},
-    {"DisabledForegroundColor",    "EditDisabledBackgroundColor",            3.0, 3.0},
-    {"DisabledForegroundColor",    "MenuBackgroundColor",                    3.0, 3.0},
-    {"DisabledForegroundColor",    "MenuHighlightBackgroundColor",           3.0, 3.0},
-    // Frames and marks. In contrast the text of a selected row comes first, see contrast.theme.
-    {"EditBorderColor",            "EditBackgroundColor",                    3.0, 3.0},
-    {"EditHighlightBorderColor",   "EditBackgroundColor",                    3.0, 1.5},
-    {"Color_Red_6",                "EditBackgroundColor",                    3.0, 3.0},
-    {"Color_Green_6",              "EditBackgroundColor",                    3.0, 3.0},
-    {"Color_Brand_6",              "BackgroundColor_4",                      3.0, 3.0},
-    {"Color_Orange_6",             "BackgroundColor_4",                      3.0, 3.0},
-    {"EditBackgroundColor",        "HighlightedForegroundColor",             3.0, 3.0},
-};
-// clang-format on
-
-QColor composite(const HV::Theme &theme, const QStringList &layers)
-{
-    QColor result = theme.color(layers.first());
-    for (const QString &layer : layers.mid(1))
-        result = ColorMath::over(theme.color(layer), result);
-    return result;
-}
-
-} // namespace
-
-void tst_Themes::contrast_data()
-{
-    QTest::addColumn<QString>("look");
-    QTest::addColumn<QString>("foreground");
-    QTest::addColumn<QStringList>("layers");
-    QTest::addColumn<double>("minimum");
-
-    for (const QString &look : looks) {
-        for (const Pair &pair : pairs) {
-            const bool anySurface = pair.layers[0] == '*';
-            for (int n = 0; n < (anySurface ? 8 : 1); ++n) {
-                QString layers = QString::fromLatin1(pair.layers);
-                layers.replace(QLatin1Char('*'),
-                               QLatin1String("BackgroundColor_") % QString::number(n));
-                QTest::addRow("%s-%s-on-%s", qUtf8Printable(look), pair.foreground,
-                              qUtf8Printable(layers))
-                    << look << QString::fromLatin1(pair.foreground)
-                    << layers.split(QLatin1Char('+'))
-                    << (look == "contrast" ? pair.high : pair.ordinary);
-            }
-        }
-    }
-}
-
-void tst_Themes::contrast()
-{
-    QFETCH(QString, look);
-    QFETCH(QString, foreground);
-    QFETCH(QStringList, layers);
-    QFETCH(double, minimum);
-
-    HV::WorkableTheme theme;
-    HV::changeTheme(&theme, look, themesFolder());
-    const double ratio =
-        ColorMath::contrastRatio(theme.color(foreground), composite(theme, layers));
-    QVERIFY2(ratio >= minimum, qUtf8Printable(QString::number(ratio) % QLatin1String(" : 1")));
 }
 
 QTEST_MAIN(tst_Themes)
