@@ -1,0 +1,633 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "completetheme.h"
+#include "samplewindows.h"
+#include "temporaryfolder.h"
+
+#include <QtTest>
+
+#include <functional>
+#include <malloc.h>
+#include <memory>
+
+using Window = std::unique_ptr<QWidget>;
+using MakeWindow = std::function<QWidget *()>;
+Q_DECLARE_METATYPE(MakeWindow)
+
+namespace
+{
+
+// An application's own style: draws a mark, and watches what is done to it.
+class MarkingStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    explicit MarkingStyle(const QString &base = "fusion")
+        : QProxyStyle(base)
+    {
+    }
+
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    void polish(QApplication *application) override
+    {
+        QProxyStyle::polish(application);
+        ++polished;
+        if (!styleSheet.isEmpty())
+            application->setStyleSheet(styleSheet);
+    }
+    void unpolish(QApplication *application) override
+    {
+        QProxyStyle::unpolish(application);
+        --polished;
+    }
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        painter->fillRect(QRect(option->rect.topLeft(), QSize(3, 3)), Qt::magenta);
+    }
+
+    int polished = 0;
+    QString styleSheet;
+};
+
+// Counts how often each widget is told that its style changed.
+class StyleChangeCounter : public QObject
+{
+    Q_OBJECT
+
+public:
+    StyleChangeCounter() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::StyleChange)
+            ++counts[object];
+        return false;
+    }
+    int sum() const
+    {
+        const QList<int> all = counts.values();
+        return std::accumulate(all.cbegin(), all.cend(), 0);
+    }
+    int most() const
+    {
+        const QList<int> all = counts.values();
+        return all.isEmpty() ? 0 : *std::max_element(all.cbegin(), all.cend());
+    }
+
+    QHash<QObject *, int> counts;
+};
+
+// Does something when its style changes, the first time.
+class ReactingWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+    std::function<void(ReactingWidget *)> react;
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QWidget::changeEvent(event);
+        if (event->type() == QEvent::StyleChange && react)
+            std::exchange(react, nullptr)(this);
+    }
+};
+
+// Paints whenever anything about it changes, and keeps what it looked like.
+class ImpatientLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+    QVector<QRgb> seen;
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QLabel::changeEvent(event);
+        repaint();
+    }
+    void paintEvent(QPaintEvent *event) override
+    {
+        QLabel::paintEvent(event);
+        seen.append(palette().color(QPalette::WindowText).rgb());
+    }
+};
+
+QWidget *column(const QList<QWidget *> &widgets)
+{
+    auto *window = new QWidget;
+    auto *layout = new QVBoxLayout(window);
+    for (QWidget *widget : widgets)
+        layout->addWidget(widget);
+    return window;
+}
+
+QWidget *windowOfViews()
+{
+    auto *table = new QTableWidget(2, 2);
+    table->setProperty("style", "audioMappingTableWidget");
+    table->setItem(0, 0, new QTableWidgetItem("cell"));
+    auto *tree = new QTreeWidget;
+    tree->setHeaderLabels({"a", "b"});
+    for (int i = 0; i < 20; ++i)
+        new QTreeWidgetItem(tree, {"x", "y"});
+    auto *list = new QListWidget;
+    list->setProperty("style", "simpleList");
+    list->addItems({"one", "two"});
+    auto *tabs = new QTabWidget;
+    tabs->tabBar()->setProperty("style", "floatTabBar");
+    tabs->addTab(list, "list");
+    tabs->addTab(new QLabel("label"), "label");
+    auto *area = new QScrollArea;
+    area->setWidget(controls());
+    return column({table, tree, tabs, area});
+}
+
+QWidget *windowOfBars()
+{
+    auto *window = new QMainWindow;
+    window->setCentralWidget(new QCalendarWidget);
+    window->menuBar()->addMenu("File")->addAction("Open");
+    QToolBar *bar = window->addToolBar("bar");
+    bar->addAction("cut");
+    bar->addWidget(new QComboBox);
+    auto *dock = new QDockWidget("dock");
+    dock->setWidget(controls());
+    window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    window->statusBar()->showMessage("ready");
+    return window;
+}
+
+QWidget *windowWithOwnStyleSheets()
+{
+    QWidget *page = controls();
+    page->setStyleSheet("QLabel { color: purple } QPushButton { background: lime }");
+    auto *label = new QLabel("label");
+    label->setStyleSheet("border: 2px solid red");
+    return column({page, label});
+}
+
+QWidget *windowWithOwnPalettes()
+{
+    QWidget *page = controls();
+    QPalette palette = page->palette();
+    palette.setColor(QPalette::Window, Qt::darkCyan);
+    palette.setColor(QPalette::WindowText, Qt::yellow);
+    page->setPalette(palette);
+    page->setAutoFillBackground(true);
+    auto *edit = new QLineEdit("edit");
+    palette.setColor(QPalette::Base, Qt::gray);
+    edit->setPalette(palette);
+    return column({page, edit});
+}
+
+QWidget *windowWithOwnFonts()
+{
+    QWidget *page = controls();
+    page->setFont(QFont("DejaVu Serif", 9, QFont::Normal, true));
+    auto *label = new QLabel("label");
+    label->setFont(QFont("DejaVu Sans", 22, QFont::Bold));
+    return column({page, label});
+}
+
+QWidget *windowWithOwnStyle()
+{
+    QWidget *page = controls();
+    auto *style = new MarkingStyle("windows");
+    style->setParent(page);
+    page->setStyle(style);
+    auto *button = new QPushButton("button", page);
+    button->setStyle(style);
+    return column({page, button});
+}
+
+QWidget *windowWithHiddenWidgets()
+{
+    QWidget *hidden = controls();
+    hidden->setObjectName("hidden");
+    QWidget *disabled = controls();
+    QWidget *window = column({hidden, disabled});
+    disabled->setEnabled(false);
+    hidden->hide();
+    return window;
+}
+
+// What an application set up before its windows; undone at the end.
+class ApplicationLook
+{
+    Q_DISABLE_COPY(ApplicationLook)
+
+public:
+    explicit ApplicationLook(bool isOwn)
+        : m_font(QApplication::font())
+    {
+        qApp->setStyleSheet(QString());
+        if (!isOwn)
+            return;
+        QApplication::setStyle(new MarkingStyle);
+        QApplication::setFont(QFont("DejaVu Serif", 11));
+        QPalette palette;
+        palette.setColor(QPalette::Window, QColor(0x55, 0x66, 0x77));
+        palette.setColor(QPalette::ButtonText, Qt::darkRed);
+        QApplication::setPalette(palette);
+    }
+    ~ApplicationLook()
+    {
+        qApp->setStyleSheet(QString());
+        QApplication::setStyle("fusion");
+        QApplication::setFont(m_font);
+        QApplication::setPalette(QApplication::style()->standardPalette());
+    }
+
+private:
+    QFont m_font;
+};
+
+} // namespace
+
+/*! HV::changeAppStyleSheet over a running application. */
+class tst_Restyling : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup() { qApp->setStyleSheet(QString()); }
+
+    void styleSheet_data();
+    void styleSheet();
+    void pixels_data();
+    void pixels();
+    void hiddenWidgetShownLater();
+    void windowOpenedInBetween();
+    void unpolishedToolBar();
+    void styleChanges_data();
+    void styleChanges();
+    void noFrameInBetween();
+    void applicationStyle();
+    void applicationStyleWithAStyleSheet();
+    void childrenCreatedMeanwhile();
+    void widgetsDeletedMeanwhile();
+    void switchedMeanwhile();
+    void memory();
+
+private:
+    void apply(int variant) { HV::changeAppStyleSheet(&m_theme, "default", folder(variant)); }
+    QString folder(int variant) const { return m_folder.filePath(QString::number(variant)); }
+    QString expectedStyleSheet(int variant) const;
+
+    TemporaryFolder m_folder;
+    HV::WorkableTheme m_theme;
+};
+
+void tst_Restyling::initTestCase()
+{
+    for (int variant = 0; variant < 3; ++variant)
+        m_folder.write(QString("%1/default.theme").arg(variant), completeTheme(variant));
+}
+
+QString tst_Restyling::expectedStyleSheet(int variant) const
+{
+    HV::WorkableTheme theme;
+    HV::changeTheme(&theme, "default", folder(variant));
+    return HV::findStyleSheet(&theme, QStringLiteral(":/stylesheet"), "global");
+}
+
+void tst_Restyling::styleSheet_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::newRow("none") << QString();
+    QTest::newRow("other") << "QLabel { color: red }";
+    QTest::newRow("the-library's") << expectedStyleSheet(0);
+    QTest::newRow("equal") << expectedStyleSheet(1);
+}
+
+void tst_Restyling::styleSheet()
+{
+    QFETCH(QString, before);
+    const Window window(controls());
+    polish(window.get());
+    qApp->setStyleSheet(before);
+    apply(1);
+    QVERIFY(!qApp->styleSheet().contains("global."));
+    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(1));
+}
+
+void tst_Restyling::pixels_data()
+{
+    QTest::addColumn<MakeWindow>("make");
+    QTest::addColumn<bool>("isMadeBefore");
+    QTest::addColumn<bool>("ownLook");
+
+    // Views keep sizes, and bars the window's, from when they were made. So their windows are made
+    // before the first style sheet; Qt's first one depends on its hash seed where fonts are set.
+    const std::tuple<const char *, MakeWindow, bool> windows[] = {
+        {"controls", [] { return controls(); }, false},
+        {"nested", [] { return nestedWindow(30, 8); }, false},
+        {"nested-before", [] { return nestedWindow(30, 8); }, true},
+        {"views-before", windowOfViews, true},
+        {"bars-before", windowOfBars, true},
+        {"own-style-sheets", windowWithOwnStyleSheets, false},
+        {"own-style-sheets-before", windowWithOwnStyleSheets, true},
+        {"own-palettes", windowWithOwnPalettes, false},
+        {"own-palettes-before", windowWithOwnPalettes, true},
+        {"own-fonts", windowWithOwnFonts, false},
+        {"own-style", windowWithOwnStyle, false},
+        {"own-style-before", windowWithOwnStyle, true},
+        {"hidden-and-disabled", windowWithHiddenWidgets, false},
+    };
+    for (const auto &[name, make, isMadeBefore] : windows) {
+        QTest::addRow("%s", name) << make << isMadeBefore << false;
+        QTest::addRow("%s-in-own-look", name) << make << isMadeBefore << true;
+    }
+}
+
+void tst_Restyling::pixels()
+{
+    QFETCH(MakeWindow, make);
+    QFETCH(bool, isMadeBefore);
+    QFETCH(bool, ownLook);
+    const ApplicationLook look(ownLook);
+
+    const auto madeUnder = [&](int variant) {
+        qApp->setStyleSheet(QString());
+        if (!isMadeBefore)
+            apply(variant);
+        Window window(make());
+        window->resize(700, 1000);
+        polish(window.get());
+        if (isMadeBefore)
+            apply(variant);
+        return window;
+    };
+    Window window = madeUnder(1);
+    const QImage fresh = grabbed(window.get());
+    window = madeUnder(0);
+    QVERIFY(grabbed(window.get()) != fresh);
+    apply(1);
+    QCOMPARE(grabbed(window.get()), fresh);
+    apply(0);
+    apply(2);
+    apply(1);
+    QCOMPARE(grabbed(window.get()), fresh);
+}
+
+void tst_Restyling::hiddenWidgetShownLater()
+{
+    const auto shownAfter = [this](std::initializer_list<int> variants) {
+        const Window window(windowWithHiddenWidgets());
+        polish(window.get());
+        for (int variant : variants)
+            apply(variant);
+        QWidget *hidden = window->findChild<QWidget *>("hidden");
+        hidden->show();
+        polish(hidden);
+        const QImage image = grabbed(window.get());
+        qApp->setStyleSheet(QString());
+        return image;
+    };
+    QCOMPARE(shownAfter({0, 1}), shownAfter({1}));
+}
+
+void tst_Restyling::windowOpenedInBetween()
+{
+    apply(1);
+    const Window fresh(controls());
+    polish(fresh.get());
+
+    apply(0);
+    const Window opened(controls());
+    polish(opened.get());
+    auto *dialog = new QDialog(opened.get());
+    controls(dialog);
+    polish(dialog);
+    apply(1);
+    QCOMPARE(grabbed(opened.get()), grabbed(fresh.get()));
+    auto *freshDialog = new QDialog(fresh.get());
+    controls(freshDialog);
+    polish(freshDialog);
+    QCOMPARE(grabbed(dialog), grabbed(freshDialog));
+}
+
+// A tool bar reads its spacing when it is made, long before it is polished.
+void tst_Restyling::unpolishedToolBar()
+{
+    const auto makeBar = [] {
+        auto bar = std::make_unique<QToolBar>();
+        bar->addAction("one");
+        bar->addAction("two");
+        return bar;
+    };
+    apply(1);
+    const auto fresh = makeBar();
+    polish(fresh.get());
+    const QImage expected = grabbed(fresh.get());
+
+    qApp->setStyleSheet("QToolBar { spacing: 40px; border: 9px solid red }");
+    const auto bar = makeBar();
+    apply(1);
+    polish(bar.get());
+    QCOMPARE(grabbed(bar.get()), expected);
+}
+
+void tst_Restyling::styleChanges_data()
+{
+    QTest::addColumn<MakeWindow>("make");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("isPolished");
+
+    const MakeWindow lone = []() -> QWidget * { return new QLabel("label"); };
+    const MakeWindow dialogs = [] {
+        QWidget *window = controls();
+        controls(new QDialog(new QDialog(window)));
+        return window;
+    };
+    const MakeWindow flat = [] { return nestedWindow(40, 0); };
+    const MakeWindow deep = [] { return nestedWindow(40, 16); };
+    QTest::newRow("nothing") << lone << 0 << true;
+    QTest::newRow("lone-widgets") << lone << 30 << true;
+    QTest::newRow("lone-unpolished-widgets") << lone << 30 << false;
+    QTest::newRow("flat") << flat << 2 << true;
+    QTest::newRow("flat-unpolished") << flat << 2 << false;
+    QTest::newRow("deep") << deep << 2 << true;
+    QTest::newRow("dialogs") << dialogs << 2 << true;
+    QTest::newRow("views") << MakeWindow(windowOfViews) << 1 << true;
+    QTest::newRow("bars") << MakeWindow(windowOfBars) << 1 << true;
+    QTest::newRow("own-style-sheets") << MakeWindow(windowWithOwnStyleSheets) << 1 << true;
+    QTest::newRow("own-style") << MakeWindow(windowWithOwnStyle) << 1 << true;
+    QTest::newRow("hidden") << MakeWindow(windowWithHiddenWidgets) << 1 << true;
+}
+
+void tst_Restyling::styleChanges()
+{
+    QFETCH(MakeWindow, make);
+    QFETCH(int, count);
+    QFETCH(bool, isPolished);
+
+    const auto counted = [&](const std::function<void()> &change) {
+        apply(0);
+        std::vector<Window> windows;
+        for (int i = 0; i < count; ++i) {
+            windows.emplace_back(make());
+            if (isPolished)
+                polish(windows.back().get());
+        }
+        StyleChangeCounter counter;
+        change();
+        qApp->removeEventFilter(&counter);
+        return qMakePair(counter.sum(), counter.most());
+    };
+    const QString styleSheet = expectedStyleSheet(1);
+    const auto replaced = counted([&] { qApp->setStyleSheet(styleSheet); });
+    const auto switched = counted([this] { apply(1); });
+    QVERIFY2(switched.first <= replaced.first,
+             qPrintable(QString("%1 over %2").arg(switched.first).arg(replaced.first)));
+    QVERIFY(switched.second <= 1);
+    QCOMPARE(switched.second, replaced.second > 0 ? 1 : 0);
+}
+
+void tst_Restyling::noFrameInBetween()
+{
+    apply(0);
+    auto *label = new ImpatientLabel("label");
+    const Window window(column({label, controls()}));
+    window->setAttribute(Qt::WA_DontShowOnScreen);
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    window->show();
+    const auto color = [label] { return label->palette().color(QPalette::WindowText).rgb(); };
+    const QRgb before = color();
+    label->seen.clear();
+    apply(1);
+    label->repaint();
+    const QRgb after = color();
+    QVERIFY(before != after);
+    QVERIFY(label->seen.contains(after));
+    for (QRgb seen : qAsConst(label->seen))
+        QVERIFY2(seen == before || seen == after, qPrintable(QColor(seen).name()));
+}
+
+void tst_Restyling::applicationStyle()
+{
+    const ApplicationLook look(true);
+    const QPointer<QStyle> style = QApplication::style();
+    auto *marking = qobject_cast<MarkingStyle *>(style.data());
+    QVERIFY(marking);
+    apply(0);
+    const Window window(controls());
+    polish(window.get());
+    const int polished = marking->polished;
+    const QPalette palette = QApplication::palette();
+    apply(1);
+    QVERIFY(style);
+    QCOMPARE(marking->polished, polished);
+    QCOMPARE(QApplication::palette(), palette);
+    QCOMPARE(QApplication::font().family(), QString("DejaVu Serif"));
+}
+
+void tst_Restyling::applicationStyleWithAStyleSheet()
+{
+    const ApplicationLook look(false);
+    auto *style = new MarkingStyle;
+    style->styleSheet = "QLabel { color: red }";
+    QApplication::setStyle(style);
+    QCOMPARE(qApp->styleSheet(), style->styleSheet);
+    const Window window(controls());
+    polish(window.get());
+    apply(1);
+    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(1));
+}
+
+void tst_Restyling::childrenCreatedMeanwhile()
+{
+    const auto create = [](ReactingWidget *widget) {
+        QWidget *page = controls(widget);
+        page->show();
+        polish(page);
+    };
+    apply(1);
+    const Window fresh(column({new ReactingWidget}));
+    fresh->resize(400, 700);
+    polish(fresh.get());
+    create(fresh->findChild<ReactingWidget *>());
+    const QImage expected = grabbed(fresh.get());
+
+    apply(0);
+    const Window window(column({new ReactingWidget}));
+    window->resize(400, 700);
+    polish(window.get());
+    window->findChild<ReactingWidget *>()->react = create;
+    apply(1);
+    QCOMPARE(grabbed(window.get()), expected);
+}
+
+void tst_Restyling::widgetsDeletedMeanwhile()
+{
+    apply(0);
+    QVector<QPointer<QWidget>> victims;
+    auto *reacting = new ReactingWidget;
+    const Window window(column({controls(), reacting, controls()}));
+    for (int i = 0; i < 20; ++i)
+        victims << controls(reacting) << controls(window.get()) << new QLabel("window");
+    polish(window.get());
+    for (const QPointer<QWidget> &victim : qAsConst(victims))
+        polish(victim);
+    reacting->react = [&victims](ReactingWidget *) {
+        for (const QPointer<QWidget> &victim : qAsConst(victims))
+            delete victim;
+    };
+    apply(1);
+    for (const QPointer<QWidget> &victim : qAsConst(victims))
+        QVERIFY(!victim);
+
+    const Window fresh(column({controls(), new ReactingWidget, controls()}));
+    polish(fresh.get());
+    QCOMPARE(grabbed(window.get()), grabbed(fresh.get()));
+}
+
+void tst_Restyling::switchedMeanwhile()
+{
+    apply(2);
+    const Window fresh(column({controls(), new ReactingWidget, controls()}));
+    polish(fresh.get());
+    const QImage expected = grabbed(fresh.get());
+
+    apply(0);
+    auto *reacting = new ReactingWidget;
+    const Window window(column({controls(), reacting, controls()}));
+    polish(window.get());
+    reacting->react = [this](ReactingWidget *) { apply(2); };
+    apply(1);
+    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(2));
+    QCOMPARE(grabbed(window.get()), expected);
+    QCOMPARE(grabbed(fresh.get()), expected);
+}
+
+// What the 100th switch holds, the 400th holds.
+void tst_Restyling::memory()
+{
+    const Window window(controls());
+    polish(window.get());
+    size_t used[2] = {};
+    for (int i = 1; i <= 400; ++i) {
+        apply(i % 2);
+        QCoreApplication::sendPostedEvents();
+        if (i % 300 == 100)
+            used[i / 400] = mallinfo2().uordblks;
+    }
+    if (used[0] == 0)
+        QSKIP("this allocator does not count");
+    const auto growth = qint64(used[1]) - qint64(used[0]);
+    QVERIFY2(growth < 64 * 1024, qPrintable(QString("%1 bytes more").arg(growth)));
+}
+
+QTEST_MAIN(tst_Restyling)
+#include "tst_restyling.moc"
