@@ -18,15 +18,15 @@ namespace Gallery
 namespace
 {
 
-constexpr QSize pageSize(1200, 760);
+constexpr QSize pageSize(1200, 720);
 
 QWidget *createDockTitle(const QString &title)
 {
     auto *bar = new QWidget;
     bar->setProperty("style", QStringLiteral("BG4"));
     auto *layout = new QHBoxLayout(bar);
-    layout->setContentsMargins(12, 4, 4, 4);
-    layout->setSpacing(2);
+    layout->setContentsMargins(12, 4, 6, 4);
+    layout->setSpacing(6);
     auto *label = new QLabel(title);
     label->setProperty("fontWeight", QStringLiteral("bold"));
     layout->addWidget(label);
@@ -79,7 +79,7 @@ QWidget *createApplicationPage()
     QWidget *dialog = createDialog();
     dialog->setParent(page);
     dialog->adjustSize();
-    dialog->move(380, 480);
+    dialog->move(400, 420);
     dialog->raise();
     return page;
 }

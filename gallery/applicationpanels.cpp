@@ -36,8 +36,8 @@ QWidget *createSurface(const char *style)
 QHBoxLayout *createRowLayout(QWidget *row)
 {
     auto *layout = new QHBoxLayout(row);
-    layout->setContentsMargins(12, 4, 8, 4);
-    layout->setSpacing(4);
+    layout->setContentsMargins(12, 5, 10, 5);
+    layout->setSpacing(8);
     return layout;
 }
 
@@ -146,7 +146,7 @@ QPushButton *createImageButton(const char *image, bool checked)
 {
     auto *button = new QPushButton;
     button->setProperty("imageBtn", QLatin1String(image));
-    button->setFixedSize(28, 28);
+    button->setFixedSize(24, 24);
     button->setCheckable(checked);
     button->setChecked(checked);
     return button;

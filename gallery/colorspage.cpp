@@ -23,7 +23,7 @@ namespace
 
 constexpr int keyColumns = 3;
 
-// A plain colour; a translucent one lies on a chequered ground, so that it can be told apart.
+// A plain colour. A translucent one lies half on the page and half on a chequered ground.
 class Swatch final : public QWidget
 {
 public:
@@ -36,10 +36,14 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
+        constexpr int square = 6;
         QPainter painter(this);
-        if (m_color.alpha() < 255) {
-            painter.fillRect(rect(), Qt::white);
-            painter.fillRect(rect(), QBrush(Qt::gray, Qt::Dense4Pattern));
+        const int half = width() / 2;
+        for (int y = 0; y < height() && m_color.alpha() < 255; y += square) {
+            for (int x = half; x < width(); x += square) {
+                const bool light = ((x - half) / square + y / square) % 2 == 0;
+                painter.fillRect(x, y, square, square, light ? QColor(0xd0d0d0) : QColor(0x404040));
+            }
         }
         painter.fillRect(rect(), m_color);
     }

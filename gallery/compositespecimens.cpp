@@ -8,6 +8,7 @@
 #include <QCalendarWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QListWidget>
 #include <QMenu>
 #include <QScrollArea>
@@ -46,8 +47,17 @@ void showYearField(QCalendarWidget *calendar, const Specimen &specimen)
     auto *button = calendar->findChild<QWidget *>(QStringLiteral("qt_calendar_yearbutton"));
     if (field == nullptr || button == nullptr)
         return;
-    field->show();
+    QWidget *bar = button->parentWidget();
+    calendar->ensurePolished();
+    calendar->layout()->activate();
+    bar->layout()->activate();
+    const QRect place(button->x(), 0, field->sizeHint().width(), bar->height());
+    QSizePolicy policy = button->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    button->setSizePolicy(policy);
     button->hide();
+    field->setGeometry(place);
+    field->show();
     if (hasState(specimen, "hover"))
         holdHover(field);
     if (hasState(specimen, "focus"))
@@ -80,7 +90,7 @@ void addComboBox(QCalendarWidget *calendar)
 {
     auto *comboBox = new QComboBox(calendar);
     comboBox->addItem(QStringLiteral("Week"));
-    comboBox->setGeometry(8, 150, 90, 24);
+    comboBox->setGeometry(40, 2, 90, 24);
 }
 
 } // namespace
@@ -88,10 +98,9 @@ void addComboBox(QCalendarWidget *calendar)
 QWidget *createScrollArea(const Specimen &)
 {
     auto *area = new QScrollArea;
-    auto *content =
-        new QLabel(QStringLiteral("A scroll area shows\nwhat lies behind it\nand has no "
-                                  "frame;\nits bars are\nthe ones above."));
+    auto *content = new QLabel(QStringLiteral("Lamp\nShutter\nIris\nGobo\nPrism\nZoom"));
     area->setWidget(content);
+    content->setAutoFillBackground(false); // which setWidget() sets, and which hides the rule
     area->setFixedSize(150, 70);
     return area;
 }
@@ -155,6 +164,7 @@ QWidget *createTabBar(const Specimen &specimen)
         tabs->addTab(title);
     tabs->setDrawBase(false);
     tabs->setExpanding(false);
+    tabs->setUsesScrollButtons(scrolling);
     if (scrolling)
         tabs->setFixedWidth(220);
     if (specimen.parts.states.isEmpty())
@@ -170,9 +180,10 @@ QWidget *createTabBar(const Specimen &specimen)
 QWidget *createCalendar(const Specimen &specimen)
 {
     auto *calendar = new QCalendarWidget;
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedKingdom));
     calendar->setSelectedDate(QDate(2026, 3, 14));
-    calendar->setFixedSize(300, 220);
+    calendar->setFixedSize(330, 220);
     if (specimen.selector.contains(QLatin1String("QComboBox")))
         addComboBox(calendar);
     if (specimen.parts.states.isEmpty() && !specimen.selector.contains(QLatin1String("QSpinBox")))

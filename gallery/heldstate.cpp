@@ -7,6 +7,7 @@
 #include <QHoverEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace Gallery
 {
@@ -100,14 +101,16 @@ void OpenComboBox::paintEvent(QPaintEvent *)
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
-ComboBoxList::ComboBoxList(int selectedRow)
+ComboBoxList::ComboBoxList(int selectedRow, Delegate delegate)
     : m_comboBox(new QComboBox(this))
 {
     m_comboBox->hide();
     m_comboBox->addItems({"Front truss", "Back truss", "Floor"});
+    if (delegate == Delegate::Styled)
+        m_comboBox->setItemDelegate(new QStyledItemDelegate(m_comboBox));
     QAbstractItemView *view = m_comboBox->view();
     view->setCurrentIndex(m_comboBox->model()->index(selectedRow, 0));
-    setFixedSize(140, 78);
+    setFixedSize(150, delegate == Delegate::Styled ? 76 : 92);
 }
 
 void ComboBoxList::paintEvent(QPaintEvent *)

@@ -64,7 +64,13 @@ protected:
 class ComboBoxList final : public QWidget
 {
 public:
-    explicit ComboBoxList(int selectedRow);
+    /*! \brief Who draws the items: Qt's default leaves the rules for them aside. */
+    enum class Delegate {
+        Default,
+        Styled
+    };
+
+    ComboBoxList(int selectedRow, Delegate delegate);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -12,6 +12,13 @@
 #include <QPixmapCache>
 #include <QSettings>
 
+// The linker leaves out the resource of a static library that nobody names; the macro must stand
+// outside every namespace.
+static void initResource()
+{
+    Q_INIT_RESOURCE(gallery);
+}
+
 namespace Gallery
 {
 
@@ -155,6 +162,7 @@ Look::Look(QObject *parent)
     : QObject(parent)
     , m_theme(std::make_unique<HV::WorkableTheme>())
 {
+    initResource();
 }
 
 Look::~Look() = default;

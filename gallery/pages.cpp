@@ -36,6 +36,23 @@ QVector<Page> pages()
     };
 }
 
+namespace
+{
+
+// Only now are the sizes those of the look, and a specimen must never be squeezed.
+void settle(QWidget *page)
+{
+    page->ensurePolished();
+    const auto children = page->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        child->ensurePolished();
+        child->updateGeometry();
+    }
+    page->setMinimumSize(page->sizeHint());
+}
+
+} // namespace
+
 QWidget *createPage(const QString &name, HV::Theme &theme)
 {
     QWidget *page = nullptr;
@@ -48,6 +65,7 @@ QWidget *createPage(const QString &name, HV::Theme &theme)
     else
         return nullptr;
     page->setProperty("style", QStringLiteral("BG3"));
+    settle(page);
     return page;
 }
 

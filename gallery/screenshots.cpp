@@ -152,7 +152,7 @@ QImage takePicture(QWidget *page)
     page->setAttribute(Qt::WA_DontShowOnScreen);
     page->setFocusPolicy(Qt::StrongFocus);
     page->ensurePolished();
-    page->adjustSize();
+    page->resize(page->sizeHint().expandedTo(page->minimumSize())); // adjustSize() heeds the screen
     page->show();
     QApplication::setActiveWindow(page);
     page->setFocus();

@@ -26,11 +26,28 @@ QLabel *createHeading(const QString &title)
     return heading;
 }
 
+// Lines are broken here, since a label that breaks them itself has no size a grid can rely on.
+QString wrapped(const QString &text)
+{
+    constexpr int charactersPerLine = 58;
+    QString lines;
+    int column = 0;
+    const QStringList words = text.split(QLatin1Char(' '));
+    for (const QString &word : words) {
+        const bool breaks = column + word.size() > charactersPerLine;
+        if (column > 0)
+            lines += QLatin1Char(breaks ? '\n' : ' ');
+        lines += word;
+        column = (breaks ? 0 : column) + word.size() + 1;
+    }
+    return lines;
+}
+
 QLabel *createNote(const QString &text)
 {
-    auto *note = new QLabel(text);
+    auto *note = new QLabel(wrapped(text));
     note->setObjectName(QStringLiteral("note"));
-    note->setWordWrap(true);
+    note->setTextFormat(Qt::PlainText);
     return note;
 }
 
@@ -50,15 +67,20 @@ QWidget *createCell(const Specimen &specimen)
     return cell;
 }
 
+// A note that holds for several specimens of the row stands there once.
 void addNotes(const SpecimenRow &row, QVBoxLayout *layout)
 {
+    QStringList texts;
     const auto notes = engineNotes();
     for (const EngineNote &note : notes) {
         for (const Specimen &specimen : row.specimens) {
             if (specimen.hasRule && specimen.selector == note.selector)
-                layout->addWidget(createNote(note.text()));
+                texts.append(note.text());
         }
     }
+    texts.removeDuplicates();
+    for (const QString &text : qAsConst(texts))
+        layout->addWidget(createNote(text));
 }
 
 // The base selector, its specimens side by side, and what Qt makes of their rules.

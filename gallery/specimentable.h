@@ -38,11 +38,12 @@ QVector<SpecimenSection> specimenSections(const QString &page);
 /*! \brief Returns every specimen of every page, in table order. */
 QVector<Specimen> allSpecimens();
 
-/*! \brief How Qt's style sheet engine treats a rule that does not do what it says. */
+/*! \brief Why a rule of the templates does not do, or not by itself, what it says. */
 struct EngineNote {
     enum class Kind {
         Ignored, //!< the whole rule has no effect on any widget
         PartlyIgnored, //!< one declaration of the rule has no effect
+        Conditional, //!< Qt honours the rule only on widgets set up in a certain way
         Hidden //!< Qt honours the rule, but another rule of the templates says the same or more
     };
     Kind kind;

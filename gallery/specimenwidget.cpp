@@ -18,7 +18,9 @@
 #include <QScrollBar>
 #include <QSlider>
 #include <QTextEdit>
+
 #include <QVariant>
+#include <algorithm>
 
 namespace Gallery
 {
@@ -94,10 +96,12 @@ QWidget *createNumberEdit(const Specimen &specimen)
 {
     if (specimen.parts.widgetClass == QLatin1String("QDoubleSpinBox")) {
         auto *spinBox = newSpinBox<QDoubleSpinBox>(specimen);
+        spinBox->setMinimumWidth(90);
         spinBox->setValue(12.5);
         return spinBox;
     }
     auto *spinBox = newSpinBox<QSpinBox>(specimen);
+    spinBox->setMinimumWidth(80);
     spinBox->setValue(50);
     return spinBox;
 }
@@ -117,6 +121,7 @@ QWidget *createLineEdit(const Specimen &specimen)
         edit->setPlaceholderText(QStringLiteral("Placeholder"));
     else
         edit->setText(QStringLiteral("Fixture 12"));
+    edit->setFixedWidth(116);
     return edit;
 }
 
@@ -125,6 +130,13 @@ QWidget *createComboBox(const Specimen &specimen)
     auto *comboBox = hasState(specimen, "on") ? new OpenComboBox : new QComboBox;
     comboBox->addItems({"Front truss", "Back truss", "Floor"});
     return comboBox;
+}
+
+QWidget *createComboBoxList(const Specimen &specimen)
+{
+    const auto delegate = specimen.parts.subControl.isEmpty() ? ComboBoxList::Delegate::Default
+                                                              : ComboBoxList::Delegate::Styled;
+    return new ComboBoxList(hasState(specimen, "selected") ? 1 : 0, delegate);
 }
 
 QWidget *createLabel(const Specimen &specimen)
@@ -220,7 +232,7 @@ constexpr Creator creators[] = {
 QWidget *create(const Specimen &specimen)
 {
     if (specimen.selector.startsWith(QLatin1String("QComboBox QAbstractItemView")))
-        return new ComboBoxList(hasState(specimen, "selected") ? 1 : 0);
+        return createComboBoxList(specimen);
     for (const Creator &creator : creators) {
         if (specimen.parts.widgetClass == QLatin1String(creator.widgetClass))
             return creator.create(specimen);
@@ -242,6 +254,14 @@ void holdState(QWidget *widget, const Specimen &specimen)
         holdHover(widget);
     if (hasState(specimen, "focus"))
         holdFocus(widget);
+}
+
+// An orientation, or being enabled, is nothing that has to be held.
+bool isHeld(const Specimen &specimen)
+{
+    const QStringList states{"hover", "pressed", "checked", "disabled", "focus", "on"};
+    return std::any_of(states.cbegin(), states.cend(),
+                       [&](const QString &state) { return specimen.parts.states.contains(state); });
 }
 
 bool isComposite(const Specimen &specimen)
@@ -266,11 +286,7 @@ QWidget *createSpecimenWidget(const Specimen &specimen)
         return widget;
     if (hasState(specimen, "disabled"))
         widget->setEnabled(false);
-    const QStringList quiet{"horizontal", "vertical", "enabled", "unchecked"};
-    QStringList states = specimen.parts.states;
-    for (const QString &state : quiet)
-        states.removeAll(state);
-    if (!states.isEmpty()) {
+    if (isHeld(specimen)) {
         makeInert(widget);
         holdState(widget, specimen);
     }
