@@ -153,6 +153,7 @@ const Pair pairs[] = {
     {"Color_Green_6",              "*",                                      4.5, 7.0},
     {"Color_Orange_6",             "*",                                      4.5, 7.0},
     {"DisabledForegroundColor",    "*",                                      3.0, 3.0},
+    {"DisabledForegroundColor",    "*+Color_Yellow_10",                      3.0, 3.0},
     {"DisabledForegroundColor",    "EditBackgroundColor",                    3.0, 3.0},
     {"DisabledForegroundColor",    "EditDisabledBackgroundColor",            3.0, 3.0},
     {"DisabledForegroundColor",    "MenuBackgroundColor",                    3.0, 3.0},
@@ -164,6 +165,7 @@ const Pair pairs[] = {
     {"Color_Green_6",              "EditBackgroundColor",                    3.0, 3.0},
     {"Color_Brand_6",              "BackgroundColor_4",                      3.0, 3.0},
     {"Color_Orange_6",             "BackgroundColor_4",                      3.0, 3.0},
+    {"ScrollBarHandleBackgroundColor", "*+ScrollBarGrooveBackgroundColor",   3.0, 3.0},
     {"EditBackgroundColor",        "HighlightedForegroundColor",             3.0, 3.0},
 };
 // clang-format on
