@@ -100,7 +100,7 @@ QString tokenFault(const QVariantMap &values, const QString &kind, const QString
     if (value.value<QColor>().alpha() != 255)
         return QLatin1String(
             "the colour is translucent, which SVG writes as an opacity of its own");
-    return QString();
+    return {};
 }
 
 bool checkTokens(const QVariantMap &values, const QString &path, const QString &text)
