@@ -40,6 +40,19 @@ inline QImage pictureOf(const Gallery::Specimen &specimen)
     return ground.grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+/*! \brief Returns how many pixels of \a picture have exactly this \a color. */
+inline int pixelsOf(const QImage &picture, const QColor &color)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == color)
+                ++count;
+        }
+    }
+    return count;
+}
+
 /*! \brief Returns the specimen with exactly this \a selector, or one without selector. */
 inline Gallery::Specimen specimenOf(const QString &selector)
 {
