@@ -78,8 +78,8 @@ void tst_ThemeStack::fates()
                                "dark Flags/N exists"};
     QCOMPARE(fates, expected);
 
-    QVERIFY(stack.find(Kind::Palette, "A")->isInvalidColor); // B comes after it
-    QVERIFY(stack.find(Kind::Color, "Word")->isInvalidColor);
+    QCOMPARE(stack.find(Kind::Palette, "A")->palette, -1); // B comes after it
+    QCOMPARE(stack.find(Kind::Color, "Word")->palette, -1);
     const int entry = stack.find(Kind::Color, "Text")->palette;
     QCOMPARE(stack.definitions().at(entry).key(), QStringLiteral("B"));
     QCOMPARE(stack.find(Kind::Color, "Text")->entry()->keyPosition.line, 6);

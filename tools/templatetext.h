@@ -40,7 +40,7 @@ public:
      * \brief Reads the templates that \a sources name.
      *
      * \param sources  folders, read as HV::readStyleSheet() reads them, and files, in their order.
-     * \param prefix   of the tokens, a regular expression as for the library.
+     * \param prefix   of the tokens: word characters, so that it stands for nothing but itself.
      * \param error    set to one sentence if nothing is returned.
      */
     static std::optional<TemplateText> read(const QStringList &sources, const QString &prefix,

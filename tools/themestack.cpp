@@ -36,6 +36,11 @@ ThemeStack::ThemeStack(const QString &name, const QString &folder, const QString
 
 ThemeStack::~ThemeStack() = default;
 
+QString ThemeStack::displayName() const
+{
+    return m_theme->displayName();
+}
+
 // The duplicate test of flags looks among the integers; of all other kinds among their own.
 void ThemeStack::read(const ThemeLayer &layer)
 {
@@ -49,7 +54,7 @@ void ThemeStack::read(const ThemeLayer &layer)
             value.kind == Kind::Flag ? m_stored[int(Kind::Integer)] : own;
         const int holder = taken.value(value.key, -1);
         if (value.kind == Kind::Palette || value.kind == Kind::Color)
-            readColor(&definition, value.text());
+            definition.palette = m_stored[int(Kind::Palette)].value(value.text(), -1);
         if (holder >= 0) {
             definition.fate = Definition::Fate::Exists;
             definition.other = holder;
@@ -65,12 +70,6 @@ void ThemeStack::read(const ThemeLayer &layer)
         }
         m_definitions.append(definition);
     }
-}
-
-void ThemeStack::readColor(Definition *definition, const QString &text) const
-{
-    definition->palette = m_stored[int(Kind::Palette)].value(text, -1);
-    definition->isInvalidColor = definition->palette < 0 && !isHexadecimalColor(text);
 }
 
 const Definition *ThemeStack::find(Kind kind, const QString &key) const

@@ -39,10 +39,9 @@ struct Definition {
     Fate fate = Fate::Stored;
     int other = -1; //!< Replaced, Exists: the index of the definition that counts
     int palette = -1; //!< colours: the index of the palette entry that the text names, or -1
-    bool isInvalidColor = false; //!< colours: neither a palette entry nor hexadecimal
 
     Kind kind() const { return value->kind; }
-    QString key() const { return value->key; }
+    const QString &key() const { return value->key; }
     /*! \brief Returns the entry in the file's text; never null for what QSettings lists. */
     const ThemeFileEntry *entry() const;
 };
@@ -75,6 +74,7 @@ public:
     /*! \brief Tells whether the library reads the theme's own file, or there is none. */
     bool isOwnRead() const { return m_isOwnRead; }
 
+    QString displayName() const;
     const HV::WorkableTheme &theme() const { return *m_theme; }
 
     /*! \brief Returns all definitions of the files that were read, in the order of reading. */
@@ -94,7 +94,6 @@ public:
 
 private:
     void read(const ThemeLayer &layer);
-    void readColor(Definition *definition, const QString &text) const;
 
     QString m_name;
     const ThemeLayer *m_base;

@@ -58,5 +58,10 @@ ThemeValues ThemeValues::read(const QString &path)
         }
         settings.endGroup();
     }
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        if (settings.value(key).type() == QVariant::StringList)
+            result.listKeys << key;
+    }
     return result;
 }

@@ -39,6 +39,7 @@ struct ThemeValues {
     bool hasDisplayName = false;
     QVariant displayName;
     QVector<ThemeValue> values;
+    QStringList listKeys; //!< the whole keys of all values that commas made lists of
 
     /*! \brief Reads the theme file at \a path; a missing file is an empty one. */
     static ThemeValues read(const QString &path);

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef TOOLS_FINDINGWRITERS_H
+#define TOOLS_FINDINGWRITERS_H
+
+#include <tools/finding.h>
+
+#include <QByteArray>
+#include <QVector>
+
+/*! \brief The formats of a list of findings. All are UTF-8 and end in a line end, if not empty. */
+namespace FindingWriters
+{
+
+/*! \brief One line each: `FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]`; \a color for a terminal. */
+QByteArray text(const QVector<Finding> &findings, bool color);
+
+/*! \brief A JSON object with the list `findings` and their numbers by severity in `summary`. */
+QByteArray json(const QVector<Finding> &findings);
+
+/*! \brief A log of the Static Analysis Results Interchange Format, version 2.1.0. */
+QByteArray sarif(const QVector<Finding> &findings);
+
+} // namespace FindingWriters
+
+#endif

@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/findingwriters.h>
+#include <tools/rules/rules.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUrl>
+
+namespace
+{
+
+QString levelOf(Severity severity)
+{
+    return severity == Severity::Info ? QStringLiteral("note") : severityName(severity);
+}
+
+// A relative path stays a relative reference, so that code hosts find the file; what is built into
+// the program gets the scheme that Qt has for it.
+QString uriOf(const QString &file)
+{
+    if (file.startsWith(QLatin1String(":/")))
+        return QLatin1String("qrc") + file;
+    const bool isAbsolute = file.startsWith(QLatin1Char('/'));
+    const QString path = QString::fromLatin1(QUrl::toPercentEncoding(file, "/"));
+    return isAbsolute ? QLatin1String("file://") + path : path;
+}
+
+QJsonArray describedRules()
+{
+    QJsonArray rules;
+    for (const Rule &rule : allRules())
+        rules.append(
+            QJsonObject{{"id", QLatin1String(rule.name)},
+                        {"shortDescription", QJsonObject{{"text", QLatin1String(rule.summary)}}},
+                        {"defaultConfiguration", QJsonObject{{"level", levelOf(rule.severity)}}}});
+    return rules;
+}
+
+int ruleIndex(const QString &name)
+{
+    for (int i = 0; i < allRules().size(); ++i) {
+        if (name == QLatin1String(allRules().at(i).name))
+            return i;
+    }
+    return -1;
+}
+
+QJsonObject resultOf(const Finding &finding)
+{
+    const QJsonObject region{{"startLine", finding.position.line},
+                             {"startColumn", finding.position.column}};
+    const QJsonObject place{{"artifactLocation", QJsonObject{{"uri", uriOf(finding.file)}}},
+                            {"region", region}};
+    return {{"ruleId", finding.rule},
+            {"ruleIndex", ruleIndex(finding.rule)},
+            {"level", levelOf(finding.severity)},
+            {"message", QJsonObject{{"text", finding.message}}},
+            {"locations", QJsonArray{QJsonObject{{"physicalLocation", place}}}}};
+}
+
+} // namespace
+
+QByteArray FindingWriters::sarif(const QVector<Finding> &findings)
+{
+    QJsonArray results;
+    for (const Finding &finding : findings)
+        results.append(resultOf(finding));
+    const QJsonObject driver{
+        {"name", "hvtheme"}, {"version", HVTHEME_VERSION}, {"rules", describedRules()}};
+    const QJsonObject run{{"tool", QJsonObject{{"driver", driver}}},
+                          {"columnKind", "utf16CodeUnits"},
+                          {"results", results}};
+    const QJsonObject log{{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+                          {"version", "2.1.0"},
+                          {"runs", QJsonArray{run}}};
+    return QJsonDocument(log).toJson();
+}
