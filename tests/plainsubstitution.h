@@ -87,6 +87,26 @@ inline Result replaced(Kind kind, const QString &prefix, const QVariantMap &valu
     return result;
 }
 
+// The expression engine takes no text that is not valid UTF-16, and ends a pass inside a pair. For
+// such texts give the plain passes other characters, of which \w and word prefixes know as little.
+inline QString hiddenSurrogates(QString text)
+{
+    for (QChar &c : text) {
+        if (c.isSurrogate())
+            c = QChar(ushort(c.unicode() + 0x0800));
+    }
+    return text;
+}
+
+inline QString shownSurrogates(QString text)
+{
+    for (QChar &c : text) {
+        if (c.unicode() >= 0xe000 && c.unicode() <= 0xe7ff)
+            c = QChar(ushort(c.unicode() - 0x0800));
+    }
+    return text;
+}
+
 } // namespace Plain
 
 #endif // HVTHEME_TESTS_PLAINSUBSTITUTION_H

@@ -184,25 +184,12 @@ private:
     bool m_hasSurrogates = false;
 };
 
-// The expression engine takes no text that is not valid UTF-16 and ends a pass inside a pair. It
-// is given other characters instead, of which \w and the prefixes know as little.
-QString withSurrogatesAs(int offset, QString text)
-{
-    for (QChar &c : text) {
-        const int code = c.unicode() + offset;
-        if (offset > 0 ? c.isSurrogate() : code >= 0xd800 && code <= 0xdfff)
-            c = QChar(ushort(code));
-    }
-    return text;
-}
-constexpr int Hidden = 0x0800;
-
 Case withHiddenSurrogates(Case shown)
 {
-    shown.text = withSurrogatesAs(Hidden, shown.text);
+    shown.text = Plain::hiddenSurrogates(shown.text);
     for (QVariant &value : shown.values) {
         if (value.type() == QVariant::String)
-            value = withSurrogatesAs(Hidden, value.toString());
+            value = Plain::hiddenSurrogates(value.toString());
     }
     return shown;
 }
@@ -210,7 +197,7 @@ Case withHiddenSurrogates(Case shown)
 void appendMissingImages(Messages &messages, const Plain::Result &plain)
 {
     for (const auto &image : plain.images) {
-        const QString path = withSurrogatesAs(-Hidden, image.second);
+        const QString path = Plain::shownSurrogates(image.second);
         if (QFileInfo::exists(path))
             continue;
         Message message = Expected::noImage(image.first, path);
@@ -263,7 +250,7 @@ void tst_Substitution::compare(CaseSource &source, const QVector<Prefix> &prefix
         ++compared;
         withSeveralSteps += plain.steps > 2;
         const QString actual = source.kind().pass(made.prefix, made.values, made.text);
-        const QString expected = withSurrogatesAs(-Hidden, plain.text);
+        const QString expected = Plain::shownSurrogates(plain.text);
         if (actual != expected) {
             qCritical() << "prefix" << made.prefix << "text" << made.text << "values"
                         << made.values;
