@@ -14,6 +14,7 @@ class tst_Stylesheet : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init() { m_log.start(); }
     void cleanup() { REPORT_STRAY_MESSAGES(m_log); }
 
@@ -26,7 +27,6 @@ private Q_SLOTS:
     void joined();
     void rules_data();
     void rules();
-    void comments_data();
     void comments();
     void repeatedRule();
     void tokens();
@@ -91,13 +91,6 @@ QStringList templateNames()
     for (const Template &file : Templates)
         names.append(file.name);
     return names;
-}
-
-void addTemplateRows()
-{
-    QTest::addColumn<QString>("name");
-    for (const Template &file : Templates)
-        QTest::newRow(file.name) << QString(file.name);
 }
 
 QByteArray contentOf(const QString &path)
@@ -211,6 +204,14 @@ QString themed(const QString &text)
 
 } // namespace
 
+// Only a shared library registers the collection by being loaded.
+void tst_Stylesheet::initTestCase()
+{
+#ifdef HVTHEME_STATIC_DEFINE
+    Q_INIT_RESOURCE(hvtheme);
+#endif
+}
+
 void tst_Stylesheet::folder()
 {
     const QDir folder(":/stylesheet");
@@ -320,17 +321,10 @@ void tst_Stylesheet::rules()
     QVERIFY2(difference.isEmpty(), difference.constData());
 }
 
-void tst_Stylesheet::comments_data()
-{
-    addTemplateRows();
-}
-
 void tst_Stylesheet::comments()
 {
-    QFETCH(QString, name);
-
     static const QRegularExpression comment(R"(/\*(.*?)\*/)");
-    for (auto matches = comment.globalMatch(textOf(name)); matches.hasNext();) {
+    for (auto matches = comment.globalMatch(wholeText()); matches.hasNext();) {
         const QString words = matches.next().captured(1);
         QVERIFY2(words.contains(QRegularExpression(R"(\p{Han})")), qUtf8Printable(words));
         QVERIFY2(!words.contains("theme."), qUtf8Printable(words));
@@ -381,8 +375,11 @@ void tst_Stylesheet::integerTokensCarryTheirUnit()
 
 void tst_Stylesheet::parses_data()
 {
-    addTemplateRows();
+    QTest::addColumn<QString>("name");
+
     QTest::newRow("all") << QString();
+    for (const Template &file : Templates)
+        QTest::newRow(file.name) << QString(file.name);
 }
 
 void tst_Stylesheet::parses()
