@@ -28,7 +28,7 @@ public:
     /*! Writes \a content to the file \a name, in a subfolder if it says so; gives its path. */
     QString write(const QString &name, const QByteArray &content) const
     {
-        const QString path = filePath(name);
+        QString path = filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())

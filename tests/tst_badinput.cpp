@@ -287,5 +287,4 @@ void tst_BadInput::largeTemplate()
 
 QTEST_GUILESS_MAIN(tst_BadInput)
 
-#include "moc_vocabularies.cpp"
 #include "tst_badinput.moc"

@@ -32,10 +32,6 @@ private Q_SLOTS:
     void lookupByNumber();
     void lookupOutsideTheVocabulary_data();
     void lookupOutsideTheVocabulary();
-    void missingImageFile_data();
-    void missingImageFile();
-    void imageFilePath_data();
-    void imageFilePath();
     void lookupsChangeNothing();
 
 private:
@@ -71,11 +67,6 @@ Sky\2\color=fff
 )";
 
 const QStringList SkySubKeys = {"Sky/1/color", "Sky/1/pos", "Sky/2/color", "Sky/2/pos", "Sky/size"};
-
-QString inApplicationFolder(const QString &path)
-{
-    return QCoreApplication::applicationDirPath() + path;
-}
 
 // QVariant does not compare gradients, so their results are texts.
 QString described(const QGradientStops &stops)
@@ -321,90 +312,6 @@ void tst_Lookups::lookupOutsideTheVocabulary()
     QVERIFY(quiet.isEmpty() && !quiet.isNull());
 }
 
-void tst_Lookups::missingImageFile_data()
-{
-    QTest::addColumn<QString>("defaultFile");
-    QTest::addColumn<bool>("warn");
-
-    QTest::newRow("null") << QString() << true;
-    QTest::newRow("empty") << QString("") << true;
-    QTest::newRow("relative") << QString("x.png") << true;
-    QTest::newRow("relative-quietly") << QString("x.png") << false;
-    QTest::newRow("rooted") << QString("/x.png") << true;
-    QTest::newRow("resource") << QString(":/x.png") << true;
-    QTest::newRow("untidy") << QString("a//../x.png") << false;
-}
-
-void tst_Lookups::missingImageFile()
-{
-    QFETCH(QString, defaultFile);
-    QFETCH(bool, warn);
-
-    const HV::Theme theme("empty");
-    const QString image = theme.imageFile("gone", defaultFile, warn);
-    QCOMPARE(image, defaultFile);
-    QCOMPARE(image.isNull(), defaultFile.isNull());
-    COMPARE_MESSAGES(m_log, warn ? Messages{Expected::noImageFile("gone")} : Messages());
-}
-
-void tst_Lookups::imageFilePath_data()
-{
-    QTest::addColumn<QByteArray>("stored");
-    QTest::addColumn<QString>("defaultFile");
-    QTest::addColumn<QString>("expected");
-
-    const QString up = QFileInfo(QCoreApplication::applicationDirPath()).path();
-
-    QTest::newRow("relative") << QByteArray("images/a.png") << QString()
-                              << inApplicationFolder("/images/a.png");
-    QTest::newRow("parent") << QByteArray("../img/a.png") << QString() << up + "/img/a.png";
-    QTest::newRow("leading-slash-is-not-absolute")
-        << QByteArray("/img/a.png") << QString() << inApplicationFolder("/img/a.png");
-    QTest::newRow("cleaned") << QByteArray("a//b/./../c.png") << QString()
-                             << inApplicationFolder("/a/c.png");
-    QTest::newRow("trailing-slash")
-        << QByteArray("images/") << QString() << inApplicationFolder("/images");
-    QTest::newRow("spaces") << QByteArray("two words.png") << QString()
-                            << inApplicationFolder("/two words.png");
-    QTest::newRow("resource") << QByteArray(":/icons/a.png") << QString() << ":/icons/a.png";
-    QTest::newRow("resource-uncleaned")
-        << QByteArray(":/icons//../a.png") << QString() << ":/icons//../a.png";
-    QTest::newRow("colon-without-slash")
-        << QByteArray(":icons/a.png") << QString() << inApplicationFolder("/:icons/a.png");
-    QTest::newRow("resource-scheme")
-        << QByteArray("qrc:/a.png") << QString() << inApplicationFolder("/qrc:/a.png");
-    QTest::newRow("not-expanded") << QByteArray("~/a.png") << QString()
-                                  << inApplicationFolder("/~/a.png");
-    QTest::newRow("default-unused")
-        << QByteArray("a.png") << QString("x.png") << inApplicationFolder("/a.png");
-
-    // An empty stored path leaves the default file, which is then resolved like a stored one.
-    QTest::newRow("empty") << QByteArray() << QString() << inApplicationFolder("");
-    QTest::newRow("empty-default-relative")
-        << QByteArray() << QString("x.png") << inApplicationFolder("/x.png");
-    QTest::newRow("empty-default-rooted")
-        << QByteArray() << QString("/x.png") << inApplicationFolder("/x.png");
-    QTest::newRow("empty-default-resource")
-        << QByteArray() << QString(":/x.png") << QString(":/x.png");
-}
-
-void tst_Lookups::imageFilePath()
-{
-    QFETCH(QByteArray, stored);
-    QFETCH(QString, defaultFile);
-    QFETCH(QString, expected);
-
-    OwnVocabulary theme;
-    theme.setDisplayName("paths");
-    readText(theme, "[ImageFiles]\nadd=" + stored + '\n');
-    m_log.take(); // the reading's own
-
-    QCOMPARE(Store::of(theme, Store::ImageFiles()).value("add"), QString(stored));
-    QCOMPARE(theme.imageFile("add", defaultFile, true), expected);
-    QCOMPARE(theme.imageFile("add", defaultFile, false), expected);
-    QCOMPARE(theme.imageFile(0, defaultFile, true), expected);
-}
-
 void tst_Lookups::lookupsChangeNothing()
 {
     HV::Theme theme("unchanged");
@@ -422,5 +329,4 @@ void tst_Lookups::lookupsChangeNothing()
 
 QTEST_GUILESS_MAIN(tst_Lookups)
 
-#include "moc_vocabularies.cpp"
 #include "tst_lookups.moc"

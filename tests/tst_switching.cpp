@@ -24,6 +24,8 @@ private Q_SLOTS:
 
     void change_data();
     void change();
+    void changeByDisplayName_data();
+    void changeByDisplayName();
     void suffix_data();
     void suffix();
     void requiredKeysAreOfTheDefaultFile_data();
@@ -39,51 +41,61 @@ private:
     MessageLog m_log;
 };
 
-void tst_Switching::change_data()
+namespace
+{
+
+const QByteArray Base = "[Integers]\nGap=1\n[Flags]\nRound=1\n[Colors]\nText=#102030\n";
+const QVariantMap BaseValues = {{"Gap", 1LL}, {"Round", true}, {"Text", QColor(16, 32, 48)}};
+const Messages None;
+
+// A file that is read although it should not be shows by its reports or its values.
+const QByteArray Trap = "ThemeName=Trap\n[Integers]\nTrap=1\nGap=9\n";
+
+const Files Layers = {{"default.ini", "ThemeName=Base\n" + Base},
+                      {"dark.ini",
+                       "ThemeName=Dark\n[Colors]\nText=#fff\nNew=#fff\n[Flags]\nRound=0\nFlat=1\n"
+                       "[Integers]\nGap=9\n"},
+                      {"one.ini", "[Colors]\nNew=#fff\n"},
+                      {"base.ini", Trap},
+                      {"Base.ini", Trap}};
+
+void changeColumns()
 {
     QTest::addColumn<Files>("files");
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("displayName");
     QTest::addColumn<QVariantMap>("values");
     QTest::addColumn<Messages>("messages");
+}
 
-    const QByteArray base = "[Integers]\nGap=1\n[Flags]\nRound=1\n[Colors]\nText=#102030\n";
-    const QVariantMap baseValues = {{"Gap", 1LL}, {"Round", true}, {"Text", QColor(16, 32, 48)}};
-    const Messages none;
+} // namespace
 
-    // A file that is read although it should not be shows by its reports or its values.
-    const QByteArray trap = "ThemeName=Trap\n[Integers]\nTrap=1\nGap=9\n";
-    const Files files = {{"default.ini", "ThemeName=Default\n" + base},
-                         {"Default.ini", trap},
-                         {"DEFAULT.ini", trap},
-                         {".ini", trap},
+void tst_Switching::change_data()
+{
+    changeColumns();
+    const Files files = {{"default.ini", "ThemeName=Default\n" + Base},
+                         {"Default.ini", Trap},
+                         {"DEFAULT.ini", Trap},
+                         {".ini", Trap},
                          {"dark.ini", "[Integers]\nDark=2\n"}};
     QTest::newRow("default") << files << "default"
-                             << "Default" << baseValues << none;
+                             << "Default" << BaseValues << None;
     QTest::newRow("default-other-case") << files << "DEFAULT"
-                                        << "Default" << baseValues << none;
+                                        << "Default" << BaseValues << None;
     QTest::newRow("empty-name") << files << ""
-                                << "Default" << baseValues << none;
-    QTest::newRow("null-name") << files << QString() << "Default" << baseValues << none;
+                                << "Default" << BaseValues << None;
+    QTest::newRow("null-name") << files << QString() << "Default" << BaseValues << None;
     QTest::newRow("missing-name") << files << "light"
-                                  << "Default" << baseValues << none;
+                                  << "Default" << BaseValues << None;
     QTest::newRow("file-name-other-case") << files << "Dark"
-                                          << "Default" << baseValues << none;
-    QVariantMap darkValues = baseValues;
+                                          << "Default" << BaseValues << None;
+    QVariantMap darkValues = BaseValues;
     darkValues.insert("Dark", 2LL);
     QTest::newRow("adds-without-a-name") << files << "dark"
-                                         << "Default" << darkValues << none;
+                                         << "Default" << darkValues << None;
 
-    const Files layers = {
-        {"default.ini", "ThemeName=Base\n" + base},
-        {"dark.ini",
-         "ThemeName=Dark\n[Colors]\nText=#fff\nNew=#fff\n[Flags]\nRound=0\nFlat=1\n"
-         "[Integers]\nGap=9\n"},
-        {"one.ini", "[Colors]\nNew=#fff\n"},
-        {"base.ini", trap},
-        {"Base.ini", trap}};
     QTest::newRow("adds-and-replaces-flags-and-name")
-        << layers << "dark"
+        << Layers << "dark"
         << "Dark"
         << QVariantMap{{"Gap", 1LL},
                        {"Round", false},
@@ -92,47 +104,10 @@ void tst_Switching::change_data()
                        {"Flat", true}}
         << Messages{Expected::keyExists(Expected::Colors, "Text"),
                     Expected::keyExists(Expected::Integers, "Gap")};
-    QVariantMap oneMore = baseValues;
+    QVariantMap oneMore = BaseValues;
     oneMore.insert("New", QColor(255, 255, 255));
-    QTest::newRow("single-color") << layers << "one"
-                                  << "Base" << oneMore << none;
-
-    // It is the default file's display name that a name is compared with.
-    QTest::newRow("named-as-the-default-calls-itself") << layers << "base"
-                                                       << "Base" << baseValues << none;
-    QTest::newRow("named-as-the-default-calls-itself-exactly") << layers << "Base"
-                                                               << "Base" << baseValues << none;
-    QTest::newRow("default-called-otherwise-is-read-twice")
-        << layers << "default"
-        << "Base" << baseValues
-        << Messages{Expected::keyExists(Expected::Colors, "Text"),
-                    Expected::keyExists(Expected::Integers, "Gap")};
-    const Files unnamed = {{"default.ini", base}, {"unnamed.ini", trap}, {"Unnamed.ini", trap}};
-    QTest::newRow("unnamed") << unnamed << "unnamed"
-                             << "unnamed" << baseValues << none;
-    QTest::newRow("unnamed-other-case") << unnamed << "Unnamed"
-                                        << "unnamed" << baseValues << none;
-    QTest::newRow("unnamed-default-is-read-twice")
-        << unnamed << "default"
-        << "unnamed" << baseValues
-        << Messages{Expected::keyExists(Expected::Colors, "Text"),
-                    Expected::keyExists(Expected::Integers, "Gap")};
-    const Files emptyName = {{"default.ini", "ThemeName=\n" + base}, {"dark.ini", "[X]\n"}};
-    QTest::newRow("default-with-an-empty-name") << emptyName << ""
-                                                << "" << baseValues << none;
-    QTest::newRow("later-file-names-an-empty-name") << emptyName << "dark"
-                                                    << "unnamed" << baseValues << none;
-
-    const Files orphan = {{"dark.ini", "ThemeName=Dark\n[Integers]\nDark=2\n"}};
-    QTest::newRow("no-files") << Files() << "dark"
-                              << "unnamed" << QVariantMap() << none;
-    QTest::newRow("no-default") << orphan << "dark"
-                                << "Dark" << QVariantMap{{"Dark", 2LL}} << none;
-    QTest::newRow("no-default-by-its-name") << orphan << "default"
-                                            << "unnamed" << QVariantMap() << none;
-    QTest::newRow("name-in-a-subfolder")
-        << Files{{"default.ini", ""}, {"sub/dark.ini", "ThemeName=Dark\n"}} << "sub/dark"
-        << "Dark" << QVariantMap() << none;
+    QTest::newRow("single-color") << Layers << "one"
+                                  << "Base" << oneMore << None;
 }
 
 void tst_Switching::change()
@@ -155,6 +130,52 @@ void tst_Switching::change()
         QCOMPARE(theme.filePath(), folder.filePath("default.ini")); // whether it exists or not
         QCOMPARE(theme.values(), values);
     }
+}
+
+void tst_Switching::changeByDisplayName_data()
+{
+    changeColumns();
+    // It is the default file's display name that a name is compared with.
+    QTest::newRow("named-as-the-default-calls-itself") << Layers << "base"
+                                                       << "Base" << BaseValues << None;
+    QTest::newRow("named-as-the-default-calls-itself-exactly") << Layers << "Base"
+                                                               << "Base" << BaseValues << None;
+    QTest::newRow("default-called-otherwise-is-read-twice")
+        << Layers << "default"
+        << "Base" << BaseValues
+        << Messages{Expected::keyExists(Expected::Colors, "Text"),
+                    Expected::keyExists(Expected::Integers, "Gap")};
+    const Files unnamed = {{"default.ini", Base}, {"unnamed.ini", Trap}, {"Unnamed.ini", Trap}};
+    QTest::newRow("unnamed") << unnamed << "unnamed"
+                             << "unnamed" << BaseValues << None;
+    QTest::newRow("unnamed-other-case") << unnamed << "Unnamed"
+                                        << "unnamed" << BaseValues << None;
+    QTest::newRow("unnamed-default-is-read-twice")
+        << unnamed << "default"
+        << "unnamed" << BaseValues
+        << Messages{Expected::keyExists(Expected::Colors, "Text"),
+                    Expected::keyExists(Expected::Integers, "Gap")};
+    const Files emptyName = {{"default.ini", "ThemeName=\n" + Base}, {"dark.ini", "[X]\n"}};
+    QTest::newRow("default-with-an-empty-name") << emptyName << ""
+                                                << "" << BaseValues << None;
+    QTest::newRow("later-file-names-an-empty-name") << emptyName << "dark"
+                                                    << "unnamed" << BaseValues << None;
+
+    const Files orphan = {{"dark.ini", "ThemeName=Dark\n[Integers]\nDark=2\n"}};
+    QTest::newRow("no-files") << Files() << "dark"
+                              << "unnamed" << QVariantMap() << None;
+    QTest::newRow("no-default") << orphan << "dark"
+                                << "Dark" << QVariantMap{{"Dark", 2LL}} << None;
+    QTest::newRow("no-default-by-its-name") << orphan << "default"
+                                            << "unnamed" << QVariantMap() << None;
+    QTest::newRow("name-in-a-subfolder")
+        << Files{{"default.ini", ""}, {"sub/dark.ini", "ThemeName=Dark\n"}} << "sub/dark"
+        << "Dark" << QVariantMap() << None;
+}
+
+void tst_Switching::changeByDisplayName()
+{
+    change();
 }
 
 void tst_Switching::suffix_data()
@@ -344,5 +365,4 @@ void tst_Switching::linksAndFolders()
 
 QTEST_GUILESS_MAIN(tst_Switching)
 
-#include "moc_vocabularies.cpp"
 #include "tst_switching.moc"

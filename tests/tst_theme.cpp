@@ -138,8 +138,8 @@ void tst_Theme::construction()
 void tst_Theme::parentDeletesTheTheme()
 {
     auto parent = std::make_unique<QObject>();
-    const QPointer<HV::Theme> theme = new HV::Theme("child", parent.get());
-    const QPointer<QObject> child = new QObject(theme);
+    const QPointer<HV::Theme> theme = std::make_unique<HV::Theme>("theme", parent.get()).release();
+    const QPointer<QObject> child = std::make_unique<QObject>(theme).release();
     parent.reset();
     QVERIFY(theme.isNull());
     QVERIFY(child.isNull());
@@ -157,6 +157,7 @@ void tst_Theme::setDisplayName()
     QCOMPARE(theme.displayName(), QString("Mine"));
     const QVariantMap values = theme.values();
     theme.setDisplayName("Yours");
+    QCOMPARE(theme.displayName(), QString("Yours"));
     QCOMPARE(theme.values(), values);
 
     readText(theme, "ThemeName=Theirs\n");

@@ -21,13 +21,12 @@ private Q_SLOTS:
 
     void everyPass_data();
     void everyPass();
+    void insertedText_data();
+    void insertedText();
     void rendering_data();
     void rendering();
     void separator_data();
     void separator();
-    void expressionAsPrefix_data();
-    void expressionAsPrefix();
-    void invalidExpressionAsPrefix();
     void imageExistence_data();
     void imageExistence();
 
@@ -40,127 +39,137 @@ namespace
 
 struct Kind {
     const char *name;
+    const char *other;
     Pass pass;
 };
-const Kind Kinds[] = {{"color", HV::replaceCssColors},
-                      {"image", HV::replaceCssImages},
-                      {"integer", HV::replaceCssIntegers}};
+const Kind Kinds[] = {{"color", "integer", HV::replaceCssColors},
+                      {"image", "color", HV::replaceCssImages},
+                      {"integer", "color", HV::replaceCssIntegers}};
 
 // "/", "/." and "/.." exist, so that the image pass, too, takes them without a word.
 const QVariantMap Paths = {{"K", "/"}, {"K_2", "/."}, {"k", "/.."}};
 
-QString replaced(QString text, const char *name, const QString &with)
+// "KIND" in a text stands for the kind of the pass, "OTHER" for another one.
+QString filled(QString text, const Kind &kind)
 {
-    return text.replace(name, with);
+    return text.replace("KIND", kind.name).replace("OTHER", kind.other);
 }
 
-} // namespace
-
-Q_DECLARE_METATYPE(Kind)
-
-// "KIND" in a text stands for the kind of the pass, "OTHER" for another one. The keys in "missing"
-// are those of the tokens whose text is no existing path, which only the image pass tells.
-void tst_Tokens::everyPass_data()
+QVariantMap filled(QVariantMap values, const Kind &kind)
 {
-    QTest::addColumn<Kind>("kind");
+    for (QVariant &value : values)
+        value = filled(value.toString(), kind);
+    return values;
+}
+
+// The keys in "missing" are those of the tokens whose text is no existing path, which only the image
+// pass tells.
+void everyPassColumns()
+{
     QTest::addColumn<QVariantMap>("values");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("expected");
     QTest::addColumn<QStringList>("missing");
+}
 
-    for (const Kind &kind : Kinds) {
-        const QString other = qstrcmp(kind.name, "color") == 0 ? "integer" : "color";
-        const auto filled = [&](const QString &text) {
-            return replaced(replaced(text, "KIND", kind.name), "OTHER", other);
-        };
-        const auto row = [&](const char *tag, const QVariantMap &values, const QString &text,
-                             const QString &expected, const QStringList &missing = {}) {
-            QVariantMap filledValues = values;
-            for (QVariant &value : filledValues)
-                value = filled(value.toString());
-            QTest::addRow("%s-%s", kind.name, tag)
-                << kind << filledValues << filled(text) << filled(expected) << missing;
-        };
+void row(const char *tag, const QVariantMap &values, const QString &text, const QString &expected,
+         const QStringList &missing = {})
+{
+    QTest::newRow(tag) << values << text << expected << missing;
+}
 
-        row("no-text", Paths, "", "");
-        row("no-token", Paths, "QLabel { color: red; }\n", "QLabel { color: red; }\n");
-        row("token-alone", Paths, "global.theme.KIND.K", "/");
-        row("line", Paths, "a: global.theme.KIND.K;\nb: c;", "a: /;\nb: c;");
-        row("at-the-start", Paths, "global.theme.KIND.K; x", "/; x");
-        row("at-the-end", Paths, "x: global.theme.KIND.K", "x: /");
-        row("in-parentheses", Paths, "url(global.theme.KIND.K)", "url(/)");
-        row("before-a-line-break", Paths, "global.theme.KIND.K\n}", "/\n}");
-        row("before-a-dot", Paths, "global.theme.KIND.K.K", "/.K");
-        row("before-a-hyphen", Paths, "global.theme.KIND.K-K", "/-K");
-        row("before-a-letter-outside-ascii", Paths, QString("global.theme.KIND.K") + QChar(0xe9),
-            QString("/") + QChar(0xe9));
-        row("key-is-the-longest-run", Paths, "global.theme.KIND.K_2;", "/.;");
-        row("key-other-case", Paths, "global.theme.KIND.k;", "/..;");
-        row("inside-a-word", Paths, "preglobal.theme.KIND.K;", "pre/;");
-        row("several", Paths, "global.theme.KIND.K global.theme.KIND.K_2 global.theme.KIND.K",
-            "/ /. /");
-        row("absent-key", Paths, "a: global.theme.KIND.Gone;", "a: ;", {"Gone"});
-        row("absent-key-twice", {}, "global.theme.KIND.B global.theme.KIND.A global.theme.KIND.B",
-            "  ", {"B", "A", "B"});
+} // namespace
 
-        row("no-key", Paths, "global.theme.KIND.;", "global.theme.KIND.;");
-        row("no-key-then-token", Paths, "global.theme.KIND.global.theme.KIND. global.theme.KIND.K",
-            ".theme.KIND. /", {"global"});
-        row("prefix-other-case", Paths, "Global.theme.KIND.K", "Global.theme.KIND.K");
-        row("kind-other-case", Paths, "global.Theme.KIND.K", "global.Theme.KIND.K");
-        row("other-kind", Paths, "global.theme.OTHER.K", "global.theme.OTHER.K");
-        row("other-prefix", Paths, "local.theme.KIND.K", "local.theme.KIND.K");
-        row("spaces", Paths, "global .theme.KIND.K global.theme. KIND.K",
-            "global .theme.KIND.K global.theme. KIND.K");
-        row("dots-are-dots", Paths, "globalxthemexKINDxK", "globalxthemexKINDxK");
+void tst_Tokens::everyPass_data()
+{
+    everyPassColumns();
+    row("no-text", Paths, "", "");
+    row("no-token", Paths, "QLabel { color: red; }\n", "QLabel { color: red; }\n");
+    row("token-alone", Paths, "global.theme.KIND.K", "/");
+    row("line", Paths, "a: global.theme.KIND.K;\nb: c;", "a: /;\nb: c;");
+    row("at-the-start", Paths, "global.theme.KIND.K; x", "/; x");
+    row("at-the-end", Paths, "x: global.theme.KIND.K", "x: /");
+    row("in-parentheses", Paths, "url(global.theme.KIND.K)", "url(/)");
+    row("before-a-line-break", Paths, "global.theme.KIND.K\n}", "/\n}");
+    row("before-a-dot", Paths, "global.theme.KIND.K.K", "/.K");
+    row("before-a-hyphen", Paths, "global.theme.KIND.K-K", "/-K");
+    row("before-a-letter-outside-ascii", Paths, QString("global.theme.KIND.K") + QChar(0xe9),
+        QString("/") + QChar(0xe9));
+    row("key-is-the-longest-run", Paths, "global.theme.KIND.K_2;", "/.;");
+    row("key-other-case", Paths, "global.theme.KIND.k;", "/..;");
+    row("inside-a-word", Paths, "preglobal.theme.KIND.K;", "pre/;");
+    row("several", Paths, "global.theme.KIND.K global.theme.KIND.K_2 global.theme.KIND.K",
+        "/ /. /");
+    row("absent-key", Paths, "a: global.theme.KIND.Gone;", "a: ;", {"Gone"});
+    row("absent-key-twice", {}, "global.theme.KIND.B global.theme.KIND.A global.theme.KIND.B", "  ",
+        {"B", "A", "B"});
 
-        // The key of the first runs on into the prefix of the second.
-        row("adjoining", Paths, "global.theme.KIND.Kglobal.theme.KIND.K", ".theme.KIND.K",
-            {"Kglobal"});
+    row("no-key", Paths, "global.theme.KIND.;", "global.theme.KIND.;");
+    row("no-key-then-token", Paths, "global.theme.KIND.global.theme.KIND. global.theme.KIND.K",
+        ".theme.KIND. /", {"global"});
+    row("prefix-other-case", Paths, "Global.theme.KIND.K", "Global.theme.KIND.K");
+    row("kind-other-case", Paths, "global.Theme.KIND.K", "global.Theme.KIND.K");
+    row("other-kind", Paths, "global.theme.OTHER.K", "global.theme.OTHER.K");
+    row("other-prefix", Paths, "local.theme.KIND.K", "local.theme.KIND.K");
+    row("spaces", Paths, "global .theme.KIND.K global.theme. KIND.K",
+        "global .theme.KIND.K global.theme. KIND.K");
+    row("dots-are-dots", Paths, "globalxthemexKINDxK", "globalxthemexKINDxK");
 
-        // Inserted text is searched again, from where it begins.
-        row("value-with-a-token", {{"K", "<global.theme.KIND.B>"}, {"B", "/"}},
-            "a global.theme.KIND.K b", "a </> b", {"K"});
-        row("value-with-two-tokens", {{"K", "global.theme.KIND.B global.theme.KIND.B"}, {"B", "/"}},
-            "global.theme.KIND.K", "/ /", {"K"});
-        row("value-with-a-token-in-turn",
-            {{"K", "global.theme.KIND.B"}, {"B", "global.theme.KIND.C"}, {"C", "/"}},
-            "a global.theme.KIND.K b", "a / b", {"K", "B"});
-        row("value-with-an-absent-token", {{"K", "<global.theme.KIND.B>"}}, "global.theme.KIND.K",
-            "<>", {"K", "B"});
-        row("value-with-a-token-of-another-kind", {{"K", "global.theme.OTHER.K"}},
-            "global.theme.KIND.K", "global.theme.OTHER.K", {"K"});
-        row("value-with-the-start-of-a-token", {{"K", "global.theme.KIND"}, {"B", "/"}},
-            "global.theme.KIND.K.B", "/", {"K"});
-        row("value-with-the-end-of-a-token", {{"K", "lobal.theme.KIND.B"}, {"B", "/"}},
-            "gglobal.theme.KIND.K", "global.theme.KIND.B", {"K"});
-        row("value-with-another-prefix", {{"K", "local.theme.KIND.B"}, {"B", "/"}},
-            "global.theme.KIND.K", "local.theme.KIND.B", {"K"});
-        row("value-with-directives", {{"K", "%1 $1 &"}}, "global.theme.KIND.K", "%1 $1 &", {"K"});
-        row("value-longer-than-the-rest", {{"K", QString(500, '/')}},
-            "global.theme.KIND.K;global.theme.KIND.K", QString(500, '/') + ';' + QString(500, '/'));
-    }
+    // The key of the first runs on into the prefix of the second.
+    row("adjoining", Paths, "global.theme.KIND.Kglobal.theme.KIND.K", ".theme.KIND.K", {"Kglobal"});
 }
 
 void tst_Tokens::everyPass()
 {
-    QFETCH(Kind, kind);
     QFETCH(QVariantMap, values);
     QFETCH(QString, text);
     QFETCH(QString, expected);
     QFETCH(QStringList, missing);
 
-    Messages messages;
-    if (kind.pass == HV::replaceCssImages) {
-        for (const QString &key : missing)
-            messages.append(Expected::noImage(key, values.value(key).toString()));
+    for (const Kind &kind : Kinds) {
+        const QVariantMap valuesOfKind = filled(values, kind);
+        const QString textOfKind = filled(text, kind);
+        Messages messages;
+        for (const QString &key : qAsConst(missing)) {
+            if (kind.pass == HV::replaceCssImages)
+                messages.append(Expected::noImage(key, valuesOfKind.value(key).toString()));
+        }
+        QCOMPARE(kind.pass("global", valuesOfKind, textOfKind), filled(expected, kind));
+        COMPARE_MESSAGES(m_log, messages);
+        QCOMPARE(valuesOfKind, filled(values, kind)); // neither is changed
+        QCOMPARE(textOfKind, filled(text, kind));
     }
-    const QVariantMap valuesBefore = values;
-    const QString textBefore = text;
-    QCOMPARE(kind.pass("global", values, text), expected);
-    COMPARE_MESSAGES(m_log, messages);
-    QCOMPARE(values, valuesBefore);
-    QCOMPARE(text, textBefore);
+}
+
+void tst_Tokens::insertedText_data()
+{
+    everyPassColumns();
+    // Inserted text is searched again, from where it begins.
+    row("value-with-a-token", {{"K", "<global.theme.KIND.B>"}, {"B", "/"}},
+        "a global.theme.KIND.K b", "a </> b", {"K"});
+    row("value-with-two-tokens", {{"K", "global.theme.KIND.B global.theme.KIND.B"}, {"B", "/"}},
+        "global.theme.KIND.K", "/ /", {"K"});
+    row("value-with-a-token-in-turn",
+        {{"K", "global.theme.KIND.B"}, {"B", "global.theme.KIND.C"}, {"C", "/"}},
+        "a global.theme.KIND.K b", "a / b", {"K", "B"});
+    row("value-with-an-absent-token", {{"K", "<global.theme.KIND.B>"}}, "global.theme.KIND.K", "<>",
+        {"K", "B"});
+    row("value-with-a-token-of-another-kind", {{"K", "global.theme.OTHER.K"}},
+        "global.theme.KIND.K", "global.theme.OTHER.K", {"K"});
+    row("value-with-the-start-of-a-token", {{"K", "global.theme.KIND"}, {"B", "/"}},
+        "global.theme.KIND.K.B", "/", {"K"});
+    row("value-with-the-end-of-a-token", {{"K", "lobal.theme.KIND.B"}, {"B", "/"}},
+        "gglobal.theme.KIND.K", "global.theme.KIND.B", {"K"});
+    row("value-with-another-prefix", {{"K", "local.theme.KIND.B"}, {"B", "/"}},
+        "global.theme.KIND.K", "local.theme.KIND.B", {"K"});
+    row("value-with-directives", {{"K", "%1 $1 &"}}, "global.theme.KIND.K", "%1 $1 &", {"K"});
+    row("value-longer-than-the-rest", {{"K", QString(500, '/')}},
+        "global.theme.KIND.K;global.theme.KIND.K", QString(500, '/') + ';' + QString(500, '/'));
+}
+
+void tst_Tokens::insertedText()
+{
+    everyPass();
 }
 
 void tst_Tokens::rendering_data()
@@ -264,111 +273,6 @@ void tst_Tokens::separator()
     QFETCH(QString, text);
     QFETCH(QString, expected);
     QCOMPARE(pass("global", values, text), expected);
-}
-
-// The prefix goes into the pattern as it is; what is replaced is as long as the token written with
-// the prefix as it is, whatever the pattern matched.
-void tst_Tokens::expressionAsPrefix_data()
-{
-    QTest::addColumn<Pass>("pass");
-    QTest::addColumn<QString>("prefix");
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-
-    const Pass colors = HV::replaceCssColors;
-    const Pass images = HV::replaceCssImages;
-    const Pass integers = HV::replaceCssIntegers;
-    QTest::newRow("any-character")
-        << colors << "glob.l" << Paths << "globXl.theme.color.K; global.theme.color.K"
-        << "/; /";
-    QTest::newRow("shorter-than-the-match") << colors << "a+" << Paths << "aaa.theme.color.K; x"
-                                            << "/K; x";
-    QTest::newRow("shorter-image") << images << "a+" << Paths << "aaa.theme.image.K; x"
-                                   << "/K; x";
-    QTest::newRow("shorter-integer") << integers << "a+" << Paths << "aaa.theme.integer.K|px"
-                                     << "/K|px";
-    QTest::newRow("longer-than-the-match")
-        << colors << "(?:a|b)" << Paths << "a.theme.color.K; and more"
-        << "/more";
-    QTest::newRow("longer-image") << images << "(?:a|b)" << Paths << "a.theme.image.K; and more"
-                                  << "/more";
-    QTest::newRow("longer-integer")
-        << integers << "(?:a|b)" << Paths << "a.theme.integer.K; and more"
-        << "/more";
-    QTest::newRow("longer-than-the-text") << colors << "(?:a|b)" << Paths << "x b.theme.color.K;"
-                                          << "x /";
-    QTest::newRow("separator-behind-the-span")
-        << integers << "(?:a|b)" << Paths << "a.theme.integer.K------|px"
-        << "/px";
-    QTest::newRow("separator-inside-the-span")
-        << integers << "(?:a|b)" << Paths << "a.theme.integer.K|-----px"
-        << "/px";
-    QTest::newRow("option") << colors << "(?i)global" << Paths << "GLOBAL.theme.color.K; rest"
-                            << "/st";
-    QTest::newRow("anchor") << colors << "^global" << Paths
-                            << "global.theme.color.K; global.theme.color.K"
-                            << "/ global.theme.color.K";
-    QTest::newRow("group-is-the-key")
-        << colors << "(a)" << QVariantMap{{"a", "/"}, {"K", "/."}} << "a.theme.color.K; rest"
-        << "/rest";
-
-    // The search goes on at the end of the match less the span: here past the start of the value.
-    QTest::newRow("resumes-inside-the-value")
-        << colors << "a+" << QVariantMap{{"K", "a.theme.color.B"}, {"BK", "/"}}
-        << "aaa.theme.color.K"
-        << "a.theme.color.BK";
-    QTest::newRow("resumes-before-the-value")
-        << colors << "xa?" << QVariantMap{{"K", ".theme.color.B"}, {"B", "/"}}
-        << "..xxa.theme.color.K"
-        << "../";
-
-    // Directives of the texts that make the pattern and the token.
-    QTest::newRow("directive") << colors << "%1" << Paths << "%1.theme.color.K;"
-                               << "/;";
-    QTest::newRow("directive-integer") << integers << "%2" << Paths << "%2.theme.integer.K|px;"
-                                       << "/K|px;";
-    QTest::newRow("directive-of-colors") << colors << "%2" << Paths << "%2.theme.color.K;"
-                                         << "/;";
-
-    QTest::newRow("empty") << colors << "" << Paths << "global.theme.color.K;"
-                           << "global/;";
-    QTest::newRow("null") << integers << QString() << Paths << "x.theme.integer.K|px"
-                          << "x/px";
-    QTest::newRow("other-word") << colors << "app_1" << Paths
-                                << "app_1.theme.color.K global.theme.color.K"
-                                << "/ global.theme.color.K";
-    QTest::newRow("outside-ascii")
-        << colors << QString(QChar(0xe9)) << Paths << QString(QChar(0xe9)) + ".theme.color.K;"
-        << "/;";
-    QTest::newRow("hyphen") << integers << "my-app" << Paths << "my-app.theme.integer.K|px"
-                            << "/px";
-}
-
-void tst_Tokens::expressionAsPrefix()
-{
-    QFETCH(Pass, pass);
-    QFETCH(QString, prefix);
-    QFETCH(QVariantMap, values);
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    QCOMPARE(pass(prefix, values, text), expected);
-}
-
-void tst_Tokens::invalidExpressionAsPrefix()
-{
-    const QString text = "(.theme.color.K (.theme.image.K (.theme.integer.K|px global";
-    const Message fromQt{QtWarningMsg,
-                         {},
-                         0,
-                         {},
-                         "default",
-                         "QRegularExpressionPrivate::doMatch(): called on an invalid "
-                         "QRegularExpression object"};
-    for (const Kind &kind : Kinds) {
-        QCOMPARE(kind.pass("(", Paths, text), text);
-        COMPARE_MESSAGES(m_log, Messages{fromQt});
-    }
 }
 
 void tst_Tokens::imageExistence_data()

@@ -329,5 +329,4 @@ void tst_WorkableTheming::changeAppStyleSheetOfAnEmptyTheme()
 
 QTEST_MAIN(tst_WorkableTheming)
 
-#include "moc_vocabularies.cpp"
 #include "tst_workabletheming.moc"

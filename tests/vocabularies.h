@@ -6,8 +6,7 @@
 
 #include <hvtheme/workabletheming.h>
 
-// Vocabularies as applications declare them; a test program that includes this file ends with
-// #include "moc_vocabularies.cpp".
+// Vocabularies as applications declare them.
 
 /*! All six enumerations, straight on the base class. */
 class OwnVocabulary : public HV::Theme
