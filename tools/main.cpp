@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include <tools/command_check.h>
+#include <tools/command_diff.h>
+#include <tools/command_explain.h>
+#include <tools/command_render.h>
+#include <tools/command_sheet.h>
+#include <tools/command_values.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
 
@@ -28,6 +33,11 @@ struct Command {
 
 const Command commands[] = {
     {"check", "Report what is wrong with the themes of a folder.", Needs::Widgets, runCheck},
+    {"render", "Write the finished style sheet of a theme.", Needs::Core, runRender},
+    {"values", "List the values that a theme has in store.", Needs::Core, runValues},
+    {"explain", "Tell where a value comes from and what uses it.", Needs::Core, runExplain},
+    {"diff", "List the values in which two themes differ.", Needs::Core, runDiff},
+    {"sheet", "Draw themes side by side, as a picture or a page.", Needs::Widgets, runSheet},
 };
 
 QString helpText()

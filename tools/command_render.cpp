@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/command_render.h>
+
+#include <tools/commandline.h>
+#include <tools/outputfile.h>
+#include <tools/outputtext.h>
+#include <tools/themeoptions.h>
+
+#include <QFileInfo>
+
+namespace
+{
+
+// An application logs it for every token; once for every image will do.
+void reportMissingImages(const CheckInput &input, const QVariantMap &values)
+{
+    QStringList keys;
+    for (const TemplateToken &token : input.templates().tokens()) {
+        if (token.kind == Kind::ImageFile && values.contains(token.key))
+            keys << token.key;
+    }
+    keys.removeDuplicates();
+    for (const QString &key : qAsConst(keys)) {
+        const QString path = values.value(key).toString();
+        if (!QFileInfo::exists(path))
+            printError(QLatin1String("image file ") % key % QLatin1String(": ") % path
+                       % QLatin1String(" does not exist"));
+    }
+}
+
+int render(const CheckInput &input, const ThemeStack &theme, const QString &output)
+{
+    const FinishedStyleSheet &finished = input.finished(theme);
+    if (!finished.endlessKey.isNull()) {
+        printError(theme.name() % QLatin1String(": the value of ") % finished.endlessKey
+                   % QLatin1String(" leads back to its own token, so the style sheet would never "
+                                   "be done; nothing is written"));
+        return ExitFindings;
+    }
+    reportMissingImages(input, theme.values(input.options().applicationFolder));
+
+    if (output.isEmpty())
+        return writeStandardOutput(finished.text) ? ExitDone : ExitUnusable;
+    QString error;
+    if (writeFile(output, finished.text.toUtf8(), &error))
+        return ExitDone;
+    printError(error);
+    return ExitUnusable;
+}
+
+} // namespace
+
+int runRender(const QStringList &arguments)
+{
+    const QString name = QStringLiteral("render");
+    const QString outputOption = QStringLiteral("output");
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Writes the finished style sheet: what HV::findStyleSheet() returns in an application\n"
+        "that stands in the folder named by --app-dir, as UTF-8. Images that it would not find\n"
+        "are told on standard error.\n\n"
+        "Exit code: 0 done, 1 a value leads back to its own token, so that substitution would\n"
+        "never end, 2 wrong usage or nothing to read."));
+    ThemeOptions::add(&parser);
+    parser.addPositionalArgument(QStringLiteral("THEME"), QStringLiteral("The name of the theme."));
+    ThemeOptions::addTemplates(&parser);
+    parser.addOption({{QStringLiteral("o"), outputOption},
+                      "File to write, whole or not at all (default: standard output).",
+                      "file"});
+    if (const std::optional<int> code = parseArguments(parser, name, arguments))
+        return *code;
+    const auto input = ThemeOptions::read(name, parser, {1, 1});
+    if (!input)
+        return ExitUnusable;
+    return render(*input, ThemeOptions::theme(*input, parser.positionalArguments().at(1)),
+                  parser.value(outputOption));
+}

@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/command_sheet.h>
+
+#include <tools/commandline.h>
+#include <tools/outputfile.h>
+#include <tools/outputtext.h>
+#include <tools/sheetmodel.h>
+#include <tools/sheetpage.h>
+#include <tools/sheetpicture.h>
+#include <tools/themeoptions.h>
+
+#include <limits>
+
+namespace
+{
+
+QString outputOption()
+{
+    return QStringLiteral("output");
+}
+
+QString backgroundOption()
+{
+    return QStringLiteral("background");
+}
+
+void addOptions(QCommandLineParser *parser)
+{
+    parser->setApplicationDescription(QStringLiteral(
+        "Draws themes side by side: the palette's runs, every colour with its value and how it\n"
+        "stands out from the background, images, font sizes, gradients and flags. A page is one\n"
+        "file that needs nothing else.\n\n"
+        "Exit code: 0 done, 2 wrong usage or nothing to read."));
+    ThemeOptions::add(parser);
+    parser->addPositionalArgument(QStringLiteral("THEME"), QStringLiteral("Names of themes."),
+                                  QStringLiteral("THEME..."));
+    ThemeOptions::addTemplates(parser);
+    parser->addOption({backgroundOption(),
+                       "Colour or palette entry to show colours on (default: BackgroundColor_3).",
+                       "key", "BackgroundColor_3"});
+    parser->addOption({{QStringLiteral("o"), outputOption()},
+                       "File to write: a picture (.png) or a page (.html).",
+                       "file"});
+}
+
+} // namespace
+
+int runSheet(const QStringList &arguments)
+{
+    const QString name = QStringLiteral("sheet");
+    QCommandLineParser parser;
+    addOptions(&parser);
+    if (const std::optional<int> code = parseArguments(parser, name, arguments))
+        return *code;
+    const QString file = parser.value(outputOption());
+    const bool isPage = file.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
+    if (!isPage && !file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
+        return usageError(name, QStringLiteral("--output must name a .png or .html file"));
+    const auto input = ThemeOptions::read(name, parser, {1, std::numeric_limits<int>::max() - 1});
+    if (!input)
+        return ExitUnusable;
+
+    QStringList themes = parser.positionalArguments().mid(1);
+    themes.removeDuplicates();
+    const SheetModel model(*input, themes, parser.value(backgroundOption()));
+    QString error;
+    const QByteArray content = isPage ? sheetPage(model) : sheetPicture(model, &error);
+    if (!content.isEmpty() && writeFile(file, content, &error))
+        return ExitDone;
+    printError(error);
+    return ExitUnusable;
+}
