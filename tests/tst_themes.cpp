@@ -230,7 +230,7 @@ void tst_Themes::images_data()
     QTest::addColumn<int>("height");
 
     for (const QString &look : looks) {
-        for (int height : {16, 20, 32})
+        for (int height : {16, 20, 32, 40, 64})
             QTest::addRow("%s-%d", qUtf8Printable(look), height) << look << height;
     }
 }
