@@ -86,12 +86,6 @@ GalleryWindow::GalleryWindow(const Options &options)
     });
     connect(m_pages, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
     connect(&m_watcher, &ThemeWatcher::changed, this, &GalleryWindow::reload);
-    // Hundreds of specimens restyle slower than they are built anew; the form stays, since the
-    // next one may turn out to be unreadable.
-    connect(&m_look, &Look::aboutToChange, this, [this] {
-        if (!showsForm())
-            setPage(nullptr);
-    });
     reload();
 }
 
@@ -135,8 +129,10 @@ Problem GalleryWindow::reload()
     const int scrolled = m_area->verticalScrollBar()->value();
     const Problem problem = m_look.load(m_source);
     listThemes();
-    if (page() == nullptr || showsForm())
+    if (page() == nullptr || showsForm() || showsThemeValues(pageName()))
         showPage();
+    else
+        settlePage(page());
     m_area->verticalScrollBar()->setValue(scrolled);
     QStringList files = m_look.files();
     if (!m_formFile.isEmpty())

@@ -183,7 +183,6 @@ Problem Look::load(const LookSource &source)
     const Problem problem = checkImages(candidate.get());
     if (problem != Problem::None)
         return problem;
-    Q_EMIT aboutToChange();
     m_theme = std::move(candidate);
     apply(source);
     return Problem::None;

@@ -61,10 +61,6 @@ public:
     /*! \brief Returns the files \a source was last read from, the images included. */
     QStringList files() const { return m_files; }
 
-Q_SIGNALS:
-    /*! \brief A good look is about to replace this one: now is the time to drop costly widgets. */
-    void aboutToChange();
-
 private:
     void apply(const LookSource &source);
 

@@ -96,7 +96,7 @@ void MessageLog::handleMessage(QtMsgType severity, const QMessageLogContext &con
 
 void MessageLog::append(int generation, const Message &message)
 {
-    if (generation != m_generation)
+    if (generation != m_generation || m_messages.contains(message))
         return;
     beginInsertRows({}, m_messages.size(), m_messages.size());
     m_messages.append(message);

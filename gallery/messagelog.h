@@ -10,7 +10,7 @@ namespace Gallery
 {
 
 /*!
- * \brief Every message of the program since the last clear(), as a list model.
+ * \brief The messages of the program since the last clear(), each once, as a list model.
  *
  * While it lives it is Qt's message handler and passes each message on to the one before, so that
  * stderr shows them too. One at a time; messages may come from any thread and arrive queued.
@@ -23,6 +23,11 @@ public:
     struct Message {
         QtMsgType severity;
         QString text;
+
+        bool operator==(const Message &other) const
+        {
+            return severity == other.severity && text == other.text;
+        }
     };
 
     explicit MessageLog(QObject *parent = nullptr);

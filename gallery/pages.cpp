@@ -36,22 +36,20 @@ QVector<Page> pages()
     };
 }
 
-namespace
-{
-
-// Only now are the sizes those of the look, and a specimen must never be squeezed.
-void settle(QWidget *page)
+// Only once polished have the specimens the sizes of the look, and none must ever be squeezed.
+void settlePage(QWidget *page)
 {
     page->ensurePolished();
     const auto children = page->findChildren<QWidget *>();
-    for (QWidget *child : children) {
+    for (QWidget *child : children)
         child->ensurePolished();
-        child->updateGeometry();
-    }
     page->setMinimumSize(page->sizeHint());
 }
 
-} // namespace
+bool showsThemeValues(const QString &name)
+{
+    return name == QLatin1String("colours");
+}
 
 QWidget *createPage(const QString &name, HV::Theme &theme)
 {
@@ -65,7 +63,7 @@ QWidget *createPage(const QString &name, HV::Theme &theme)
     else
         return nullptr;
     page->setProperty("style", QStringLiteral("BG3"));
-    settle(page);
+    settlePage(page);
     return page;
 }
 

@@ -33,6 +33,12 @@ QVector<Page> pages();
  */
 QWidget *createPage(const QString &name, HV::Theme &theme);
 
+/*! \brief Gives \a page, as createPage() made it, the sizes of a new look. */
+void settlePage(QWidget *page);
+
+/*! \brief Tells whether the page called \a name shows values of the theme, which no restyling changes. */
+bool showsThemeValues(const QString &name);
+
 /*!
  * \brief Builds the form in the file \a path with Qt's form loader.
  *

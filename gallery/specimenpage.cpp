@@ -51,12 +51,11 @@ QLabel *createNote(const QString &text)
     return note;
 }
 
-// A specimen above the name of its state.
-QWidget *createCell(const Specimen &specimen)
+// A specimen above the name of its state. Layouts, not widgets, hold the parts of a page together:
+// restyling costs as much as there are widgets.
+QLayout *createCell(const Specimen &specimen)
 {
-    auto *cell = new QWidget;
-    auto *layout = new QVBoxLayout(cell);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new QVBoxLayout;
     layout->setSpacing(3);
     layout->addStretch();
     layout->addWidget(createSpecimenWidget(specimen), 0, Qt::AlignLeft);
@@ -64,7 +63,7 @@ QWidget *createCell(const Specimen &specimen)
         new CopyLabel(specimen.stateCaption(), specimen.selector, specimen.parts.propertyLines());
     caption->setObjectName(QStringLiteral("stateCaption"));
     layout->addWidget(caption, 0, Qt::AlignLeft);
-    return cell;
+    return layout;
 }
 
 // A note that holds for several specimens of the row stands there once.
@@ -84,11 +83,9 @@ void addNotes(const SpecimenRow &row, QVBoxLayout *layout)
 }
 
 // The base selector, its specimens side by side, and what Qt makes of their rules.
-QWidget *createRow(const SpecimenRow &row)
+QLayout *createRow(const SpecimenRow &row)
 {
-    auto *widget = new QWidget;
-    auto *layout = new QVBoxLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
+    auto *layout = new QVBoxLayout;
     layout->setSpacing(6);
     const Selector base = Selector::fromText(row.baseSelector);
     auto *caption = new CopyLabel(row.baseSelector, row.baseSelector, base.propertyLines());
@@ -97,12 +94,12 @@ QWidget *createRow(const SpecimenRow &row)
     auto *cells = new QHBoxLayout;
     cells->setSpacing(16);
     for (const Specimen &specimen : row.specimens)
-        cells->addWidget(createCell(specimen));
+        cells->addLayout(createCell(specimen));
     cells->addStretch();
     layout->addLayout(cells);
     addNotes(row, layout);
     layout->addStretch();
-    return widget;
+    return layout;
 }
 
 QLayout *createSection(const SpecimenSection &section)
@@ -111,7 +108,7 @@ QLayout *createSection(const SpecimenSection &section)
     grid->setHorizontalSpacing(24);
     grid->setVerticalSpacing(18);
     for (int i = 0; i < section.rows.size(); ++i)
-        grid->addWidget(createRow(section.rows.at(i)), i / section.columns, i % section.columns);
+        grid->addLayout(createRow(section.rows.at(i)), i / section.columns, i % section.columns);
     for (int column = 0; column < section.columns; ++column)
         grid->setColumnStretch(column, 1);
     return grid;

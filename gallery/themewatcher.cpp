@@ -12,7 +12,7 @@ namespace
 {
 
 // Long enough for the several writes of one save, far too short to be felt.
-constexpr int coalescingTimeMs = 40;
+constexpr int coalescingTimeMs = 30;
 
 QString nearestExistingFolder(const QString &path)
 {
@@ -20,6 +20,14 @@ QString nearestExistingFolder(const QString &path)
     while (!folder.exists() && !folder.isRoot())
         folder.setPath(QFileInfo(folder.absolutePath()).absolutePath());
     return folder.absolutePath();
+}
+
+// With the folder above, since a folder itself does not tell that it is moved away.
+void addFolder(const QString &path, QStringList *folders)
+{
+    const QString folder = nearestExistingFolder(path);
+    folders->append(folder);
+    folders->append(QFileInfo(folder).path());
 }
 
 } // namespace
@@ -40,7 +48,7 @@ ThemeWatcher::ThemeWatcher(QObject *parent)
         if (!m_timer.isActive())
             m_timer.start();
     });
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &ThemeWatcher::folderChanged);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &ThemeWatcher::compare);
 }
 
 void ThemeWatcher::setPaths(const QStringList &files, const QStringList &folders)
@@ -58,38 +66,32 @@ void ThemeWatcher::setPaths(const QStringList &files, const QStringList &folders
     }
     m_fingerprint = prints;
     arm();
-    folderChanged();
+    compare();
 }
 
-// The watcher loses a file that is deleted or replaced by rename; its folder, or what is left of
-// the path, tells when there is one again.
+// The system watches a file or folder, not a path: one that was replaced or moved is lost. So all
+// are taken anew, and the folders above tell when something comes to a path that leads nowhere.
 void ThemeWatcher::arm()
 {
     QStringList wanted;
     for (const QString &folder : qAsConst(m_folders))
-        wanted.append(nearestExistingFolder(folder));
+        addFolder(folder, &wanted);
     for (const QString &file : qAsConst(m_files)) {
-        wanted.append(nearestExistingFolder(QFileInfo(file).path()));
+        addFolder(QFileInfo(file).path(), &wanted);
         if (QFileInfo::exists(file))
             wanted.append(file);
     }
     wanted.removeDuplicates();
     const QStringList watched = m_watcher.files() + m_watcher.directories();
-    QStringList dropped;
-    for (const QString &path : watched) {
-        if (!wanted.removeOne(path))
-            dropped.append(path);
-    }
-    if (!dropped.isEmpty())
-        m_watcher.removePaths(dropped);
+    if (!watched.isEmpty())
+        m_watcher.removePaths(watched);
     if (!wanted.isEmpty())
         m_watcher.addPaths(wanted);
 }
 
-// A folder tells of every file in it; only those that are watched count.
-void ThemeWatcher::folderChanged()
+// A folder tells of everything in it; only what is watched counts.
+void ThemeWatcher::compare()
 {
-    arm();
     if (!m_timer.isActive() && fingerprint() != m_fingerprint)
         m_timer.start();
 }

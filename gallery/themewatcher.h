@@ -37,7 +37,7 @@ Q_SIGNALS:
 
 private:
     void arm();
-    void folderChanged();
+    void compare();
     QHash<QString, QString> fingerprint() const;
 
     QFileSystemWatcher m_watcher;

@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "distincttheme.h"
+
+#include <gallery/copylabel.h>
+#include <gallery/gallerywindow.h>
+#include <gallery/pages.h>
+#include <gallery/selector.h>
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+#include <memory>
+
+using namespace Gallery;
+
+class tst_Gallery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void selectorParts_data();
+    void selectorParts();
+    void themeNamesOfAFolder();
+    void chooserSwitches();
+    void everyPageOpens();
+    void badThemeLeavesTheLastGoodLook_data();
+    void badThemeLeavesTheLastGoodLook();
+    void opensWithoutAnyTheme();
+    void clickCopies();
+    void colorsPageFollowsTheTheme();
+    void options_data();
+    void options();
+
+private:
+    Options optionsFor(const QString &page) const;
+    QColor buttonColor(const GalleryWindow &window) const;
+
+    std::unique_ptr<DistinctTheme> m_files;
+};
+
+void tst_Gallery::initTestCase()
+{
+    QApplication::setStyle(QStringLiteral("fusion"));
+    m_files = std::make_unique<DistinctTheme>();
+}
+
+Options tst_Gallery::optionsFor(const QString &page) const
+{
+    Options options;
+    options.source = {m_files->folder(), QStringLiteral("default"), {}};
+    options.pages = QStringList{page};
+    return options;
+}
+
+QColor tst_Gallery::buttonColor(const GalleryWindow &window) const
+{
+    const auto buttons = window.page()->findChildren<QPushButton *>();
+    for (QPushButton *button : buttons) {
+        if (button->property("style") == QLatin1String("general"))
+            return button->grab().toImage().pixelColor(4, button->height() / 2);
+    }
+    return {};
+}
+
+void tst_Gallery::selectorParts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("widgetClass");
+    QTest::addColumn<QString>("property"); // name=value
+    QTest::addColumn<QString>("subControl");
+    QTest::addColumn<QStringList>("states");
+
+    // clang-format off
+    QTest::newRow("class") << "QLineEdit" << "QLineEdit" << "" << "" << QStringList();
+    QTest::newRow("any-class") << "*[fontSize=XS]" << "" << "fontSize=XS" << "" << QStringList();
+    QTest::newRow("no-class") << "[checkStyle=halfChecked]:disabled" << "" << "checkStyle=halfChecked" << "" << QStringList{"disabled"};
+    QTest::newRow("states") << "QPushButton[switchStyle=general]:checked:hover" << "QPushButton" << "switchStyle=general" << "" << QStringList{"checked", "hover"};
+    QTest::newRow("sub-control") << "QSpinBox::up-button:pressed" << "QSpinBox" << "" << "up-button" << QStringList{"pressed"};
+    QTest::newRow("single-colon") << "QSlider[sliderStyle=red]:groove:horizontal" << "QSlider" << "sliderStyle=red" << "groove" << QStringList{"horizontal"};
+    QTest::newRow("property-last") << "QSlider::groove:horizontal[sliderStyle=hue]" << "QSlider" << "sliderStyle=hue" << "groove" << QStringList{"horizontal"};
+    QTest::newRow("descendant") << "QCalendarWidget QTableView::item:selected" << "QCalendarWidget" << "" << "item" << QStringList{"selected"};
+    // clang-format on
+}
+
+void tst_Gallery::selectorParts()
+{
+    QFETCH(QString, text);
+    const Selector selector = Selector::fromText(text);
+    QTEST(selector.widgetClass, "widgetClass");
+    QString property;
+    for (const auto &[name, value] : selector.properties)
+        property += name + QLatin1Char('=') + value;
+    QTEST(property, "property");
+    QTEST(selector.subControl, "subControl");
+    QTEST(selector.states, "states");
+}
+
+void tst_Gallery::themeNamesOfAFolder()
+{
+    QTemporaryDir folder;
+    const auto write = [&](const char *name, const QByteArray &bytes) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    QCOMPARE(themeNames(folder.path()), QStringList());
+    QVERIFY(write("default.theme", "[Palettes]\nW100=fff\n"));
+    QCOMPARE(themeNames(folder.path()), QStringList({"default"}));
+    QVERIFY(write("night.theme", "[Colors]\nA=000\n"));
+    QVERIFY(write("notes.txt", "no theme"));
+    QCOMPARE(themeNames(folder.path()), QStringList({"night"})); // what they share is no look
+    QVERIFY(write("default.theme", "[Colors]\nA=fff\n"));
+    QCOMPARE(themeNames(folder.path()), QStringList({"default", "night"}));
+    QCOMPARE(themeNames(folder.filePath(QStringLiteral("missing"))), QStringList());
+}
+
+void tst_Gallery::chooserSwitches()
+{
+    // A default that has no colours leaves all of them to the named files.
+    QFile::rename(m_files->folder() + QLatin1String("/default.theme"),
+                  m_files->folder() + QLatin1String("/all.theme"));
+    m_files->writeFile(QStringLiteral("second"), {{"GeneralButtonBackgroundNormal", "#123456"}});
+    QFile empty(m_files->folder() + QLatin1String("/default.theme"));
+    QVERIFY(empty.open(QIODevice::WriteOnly));
+    empty.write("[General]\nThemeName=base\n");
+    empty.close();
+
+    for (int i = 0; i < 2 * 75; ++i) // 69 palette entries and 6 sizes, once a theme
+        QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("must bu set"));
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themeName = QStringLiteral("all");
+    GalleryWindow window(options);
+    window.show();
+    QCOMPARE(buttonColor(window), m_files->color(QStringLiteral("GeneralButtonBackgroundNormal")));
+    auto *themes = window.findChild<QComboBox *>(QStringLiteral("themes"));
+    QCOMPARE(themes->count(), 2);
+    QTest::keyClick(themes, Qt::Key_Down);
+    QCOMPARE(themes->currentText(), QStringLiteral("second"));
+    QCOMPARE(buttonColor(window), QColor(0x123456));
+
+    m_files = std::make_unique<DistinctTheme>();
+}
+
+void tst_Gallery::everyPageOpens()
+{
+    GalleryWindow window(optionsFor(QStringLiteral("application")));
+    window.show();
+    auto *list = window.findChild<QListWidget *>(QStringLiteral("pages"));
+    QCOMPARE(list->count(), pages().size());
+    for (int row = 0; row < list->count(); ++row) {
+        list->setCurrentRow(row);
+        QVERIFY(window.page() != nullptr);
+        QVERIFY(!window.page()->grab().isNull());
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(window.messageLog().rowCount(), 0);
+}
+
+void tst_Gallery::badThemeLeavesTheLastGoodLook_data()
+{
+    QTest::addColumn<QString>("bad");
+    QTest::addColumn<int>("problem");
+    QTest::addColumn<QString>("message");
+
+    // clang-format off
+    QTest::newRow("no-default-file") << "default" << int(Problem::ThemesFolder) << "default.theme\" is missing or cannot be read. .*--themes";
+    QTest::newRow("no-such-theme") << "theme" << int(Problem::ThemeName) << "No theme named \"night\": .*Choose one of: default";
+    QTest::newRow("broken-image") << "image" << int(Problem::Image) << "add.png\" does not decode: .*Save it again";
+    // clang-format on
+}
+
+void tst_Gallery::badThemeLeavesTheLastGoodLook()
+{
+    QFETCH(QString, bad);
+    QFETCH(int, problem);
+    QFETCH(QString, message);
+    Options options = optionsFor(QStringLiteral("buttons"));
+    const QString night = m_files->folder() + QLatin1String("/night.theme");
+    if (bad == QLatin1String("theme")) {
+        QFile file(night);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        options.source.themeName = QStringLiteral("night");
+    }
+    GalleryWindow window(options);
+    window.show();
+    const QColor good = m_files->color(QStringLiteral("GeneralButtonBackgroundNormal"));
+    QCOMPARE(buttonColor(window), good);
+
+    const QString defaultFile = m_files->folder() + QLatin1String("/default.theme");
+    if (bad == QLatin1String("default")) {
+        QVERIFY(QFile::remove(defaultFile));
+    } else if (bad == QLatin1String("theme")) {
+        QVERIFY(QFile::remove(night));
+    } else {
+        QFile image(m_files->imagePath(QStringLiteral("add")));
+        QVERIFY(image.open(QIODevice::WriteOnly));
+        image.write("no image");
+    }
+    QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(message));
+    QCOMPARE(int(window.reload()), problem);
+    QCOMPARE(buttonColor(window), good);
+    QTRY_COMPARE(window.messageLog().rowCount(), 1);
+    const QString shown = window.messageLog().index(0).data().toString();
+    QVERIFY(shown.startsWith(QLatin1String("critical: ")));
+    QVERIFY(shown.contains(QRegularExpression(message)));
+
+    m_files = std::make_unique<DistinctTheme>();
+}
+
+void tst_Gallery::opensWithoutAnyTheme()
+{
+    Options options = optionsFor(QStringLiteral("colours"));
+    options.source.themesFolder = QStringLiteral("/nowhere/themes");
+    QTest::ignoreMessage(
+        QtCriticalMsg, QRegularExpression("The themes folder \"/nowhere/themes\" does not exist"));
+    GalleryWindow window(options);
+    window.show();
+    QVERIFY(window.page() != nullptr);
+    QTRY_COMPARE(window.messageLog().rowCount(), 1);
+}
+
+void tst_Gallery::clickCopies()
+{
+    GalleryWindow window(optionsFor(QStringLiteral("buttons")));
+    window.show();
+    CopyLabel *caption = nullptr;
+    const auto captions = window.page()->findChildren<CopyLabel *>();
+    for (CopyLabel *each : captions) {
+        if (each->text() == QLatin1String("QPushButton[style=general]"))
+            caption = each;
+    }
+    QVERIFY(caption != nullptr);
+    QTest::mouseClick(caption, Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("QPushButton[style=general]"));
+    QTest::mouseClick(caption, Qt::LeftButton, Qt::ShiftModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             QStringLiteral("widget->setProperty(\"style\", \"general\");"));
+    QTest::keyClick(caption, Qt::Key_Return);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("QPushButton[style=general]"));
+}
+
+void tst_Gallery::colorsPageFollowsTheTheme()
+{
+    GalleryWindow window(optionsFor(QStringLiteral("colours")));
+    window.show();
+    const auto shows = [&](const QString &value) {
+        const auto labels = window.page()->findChildren<QLabel *>();
+        return std::any_of(labels.cbegin(), labels.cend(),
+                           [&](const QLabel *label) { return label->text().startsWith(value); });
+    };
+    QVERIFY(shows(m_files->color(QStringLiteral("EditBorderColor")).name()));
+    QVERIFY(!shows(QStringLiteral("#123456")));
+    m_files->writeFile(QStringLiteral("default"), {{"EditBorderColor", "#123456"}});
+    QTRY_VERIFY(shows(QStringLiteral("#123456")));
+}
+
+void tst_Gallery::options_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+
+    // clang-format off
+    QTest::newRow("none") << QStringList() << "";
+    QTest::newRow("unknown-option") << QStringList{"--colour"} << "Unknown option 'colour'.";
+    QTest::newRow("unknown-page") << QStringList{"--page", "knobs"} << "No page named \"knobs\".*application, buttons";
+    QTest::newRow("form-page-without-form") << QStringList{"--page", "form"} << "No page named \"form\"";
+    QTest::newRow("form-page") << QStringList{"--page", "form", "--ui", "a.ui"} << "";
+    QTest::newRow("scale-too-large") << QStringList{"--scale", "9"} << "--scale takes a number from 1 to 4";
+    QTest::newRow("scale-no-number") << QStringList{"--scale", "big"} << "--scale takes a number from 1 to 4";
+    QTest::newRow("stray-argument") << QStringList{"dark"} << "Unexpected argument \"dark\"";
+    QTest::newRow("several-in-the-window") << QStringList{"--theme", "dark,light"} << "with --screenshot only";
+    QTest::newRow("several-screenshots") << QStringList{"--screenshot", "d", "--theme", "dark,light", "--theme", "contrast"} << "";
+    // clang-format on
+}
+
+void tst_Gallery::options()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    const Options options =
+        readOptions(QStringList{"hvtheme-gallery"} + arguments, QStringLiteral("/themes"));
+    if (error.isEmpty())
+        QCOMPARE(options.error, QString());
+    else
+        QVERIFY2(options.error.contains(QRegularExpression(error)), qPrintable(options.error));
+}
+
+QTEST_MAIN(tst_Gallery)
+
+#include "tst_gallery.moc"

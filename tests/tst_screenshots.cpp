@@ -1,0 +1,225 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "distincttheme.h"
+
+#include <gallery/pages.h>
+
+#include <QImage>
+#include <QProcess>
+#include <QtTest>
+
+namespace
+{
+
+struct Outcome {
+    int exitCode;
+    QString output;
+    QString errors;
+};
+
+// Without a display, a platform or a home folder, as on a build machine.
+Outcome runGallery(const QStringList &arguments)
+{
+    const QTemporaryDir runtime; // Qt wants one that is ours alone
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    environment.insert(QStringLiteral("PATH"), qEnvironmentVariable("PATH"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
+    QProcess gallery;
+    gallery.setProcessEnvironment(environment);
+    gallery.start(QStringLiteral(HVTHEME_GALLERY), arguments);
+    if (!gallery.waitForFinished(60000))
+        qFatal("the gallery does not finish");
+    return {gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
+            QString::fromUtf8(gallery.readAllStandardOutput()),
+            QString::fromUtf8(gallery.readAllStandardError())};
+}
+
+} // namespace
+
+class tst_Screenshots : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void onePictureForEachPageAndTheme();
+    void everyPageOfTheSampleThemes();
+    void doubleScale();
+    void joinedThemes();
+    void form();
+    void problems_data();
+    void problems();
+    void goodThemesAreDrawnAllTheSame();
+    void help();
+    void noDisplay();
+
+private:
+    QStringList pictures() const;
+    QStringList withFolders(const QStringList &arguments) const;
+
+    std::unique_ptr<DistinctTheme> m_files;
+    std::unique_ptr<QTemporaryDir> m_output;
+};
+
+void tst_Screenshots::init()
+{
+    m_files = std::make_unique<DistinctTheme>();
+    m_output = std::make_unique<QTemporaryDir>();
+}
+
+QStringList tst_Screenshots::pictures() const
+{
+    return QDir(m_output->path()).entryList({"*.png"}, QDir::Files, QDir::Name);
+}
+
+QStringList tst_Screenshots::withFolders(const QStringList &arguments) const
+{
+    return QStringList{"--themes", m_files->folder(), "--screenshot", m_output->path()} + arguments;
+}
+
+void tst_Screenshots::onePictureForEachPageAndTheme()
+{
+    const Outcome outcome = runGallery({"--screenshot", m_output->path(), "--theme", "dark,light",
+                                        "--page", "tabs", "--page", "menus"});
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(pictures(),
+             QStringList({"menus-dark.png", "menus-light.png", "tabs-dark.png", "tabs-light.png"}));
+    const QImage dark(m_output->filePath(QStringLiteral("tabs-dark.png")));
+    const QImage light(m_output->filePath(QStringLiteral("tabs-light.png")));
+    QCOMPARE(dark.size(), light.size());
+    QVERIFY(dark.pixelColor(2, 2).lightness() < 64);
+    QVERIFY(light.pixelColor(2, 2).lightness() > 192);
+}
+
+void tst_Screenshots::everyPageOfTheSampleThemes()
+{
+    const Outcome outcome = runGallery({"--screenshot", m_output->path()});
+    QCOMPARE(outcome.errors, QString()); // no message of the library's, no unknown property
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(pictures().size(), Gallery::pages().size() * 3);
+}
+
+void tst_Screenshots::doubleScale()
+{
+    const QStringList page{"--page", "tabs"};
+    QCOMPARE(runGallery(withFolders(page)).exitCode, 0);
+    QCOMPARE(runGallery(withFolders(page + QStringList{"--scale", "2"})).exitCode, 0);
+    const QImage single(m_output->filePath(QStringLiteral("tabs-default.png")));
+    const QImage twice(m_output->filePath(QStringLiteral("tabs-default@2x.png")));
+    QVERIFY(!single.isNull());
+    QVERIFY(qAbs(twice.width() - 2 * single.width()) <= 40); // text is not exactly twice as wide
+    QVERIFY(twice.height() > 1.9 * single.height());
+}
+
+void tst_Screenshots::joinedThemes()
+{
+    const Outcome outcome = runGallery({"--screenshot", m_output->path(), "--page", "application",
+                                        "--theme", "dark,light", "--join"});
+    QCOMPARE(outcome.exitCode, 0);
+    const QImage dark(m_output->filePath(QStringLiteral("application-dark.png")));
+    const QImage both(m_output->filePath(QStringLiteral("application-dark-light.png")));
+    QCOMPARE(both.height(), dark.height());
+    QCOMPARE(both.width(), 2 * dark.width() + 16);
+    QCOMPARE(both.copy(dark.rect()), dark);
+}
+
+void tst_Screenshots::form()
+{
+    const QString path = m_output->filePath(QStringLiteral("form.ui"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">"
+               "<property name=\"minimumSize\"><size><width>200</width><height>100</height></size>"
+               "</property><property name=\"style\" stdset=\"0\"><string>BG5</string></property>"
+               "</widget></ui>");
+    file.close();
+    const Outcome outcome = runGallery(withFolders({"--ui", path, "--page", "form"}));
+    QCOMPARE(outcome.exitCode, 0);
+    const QImage shown(m_output->filePath(QStringLiteral("form-default.png")));
+    QCOMPARE(shown.size(), QSize(200, 100));
+    QCOMPARE(shown.pixelColor(100, 50), m_files->color(QStringLiteral("BackgroundColor_5")));
+}
+
+void tst_Screenshots::problems_data()
+{
+    QTest::addColumn<QStringList>("arguments"); // %1: the folder of themes
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+
+    // clang-format off
+    QTest::newRow("unknown-option") << QStringList{"--colour"} << 1 << "Unknown option 'colour'. See --help.";
+    QTest::newRow("unknown-page") << QStringList{"--page", "knobs"} << 1 << "No page named \"knobs\".";
+    QTest::newRow("no-themes-folder") << QStringList{"--themes", "%1/missing"} << 2 << "The themes folder \".*/missing\" does not exist. Name one that does with --themes.";
+    QTest::newRow("no-default-file") << QStringList{"--themes", "%1/images"} << 2 << "images/default.theme\" is missing or cannot be read";
+    QTest::newRow("unknown-theme") << QStringList{"--theme", "dusk"} << 3 << "No theme named \"dusk\": .*Choose one of: default.";
+    QTest::newRow("no-templates") << QStringList{"--templates", "%1/missing"} << 4 << "The templates folder \".*/missing\" does not exist.";
+    QTest::newRow("no-form") << QStringList{"--ui", "%1/missing.ui", "--page", "form"} << 5 << "The form \".*/missing.ui\" cannot be read: .*--ui";
+    QTest::newRow("form-that-is-none") << QStringList{"--ui", "%1/default.theme", "--page", "form"} << 5 << "The form \".*/default.theme\" is none: ";
+    QTest::newRow("broken-image") << QStringList{"--theme", "default", "--page", "broken"} << 6 << "close.png\" does not decode: ";
+    QTest::newRow("no-output") << QStringList{"--screenshot", "%1/default.theme/pictures"} << 7 << "pictures\" cannot be made. Name another one with --screenshot.";
+    // clang-format on
+}
+
+void tst_Screenshots::problems()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    arguments.replaceInStrings(QStringLiteral("%1"), m_files->folder());
+    const int broken = arguments.indexOf(QStringLiteral("broken"));
+    if (broken >= 0) {
+        QFile image(m_files->imagePath(QStringLiteral("close")));
+        QVERIFY(image.open(QIODevice::WriteOnly));
+        arguments[broken] = QStringLiteral("tabs");
+    }
+    if (!arguments.contains(QStringLiteral("--page")))
+        arguments += QStringList{"--page", "tabs"};
+    const Outcome outcome = runGallery(withFolders(arguments));
+    QVERIFY2(outcome.errors.contains(QRegularExpression(message)), qPrintable(outcome.errors));
+    QCOMPARE(outcome.exitCode, exitCode);
+    QCOMPARE(pictures(), QStringList());
+}
+
+void tst_Screenshots::goodThemesAreDrawnAllTheSame()
+{
+    const Outcome outcome =
+        runGallery(withFolders({"--page", "tabs", "--theme", "dusk", "--theme", "default"}));
+    QCOMPARE(outcome.exitCode, 3);
+    QCOMPARE(pictures(), QStringList({"tabs-default.png"}));
+}
+
+void tst_Screenshots::help()
+{
+    const Outcome outcome = runGallery({"--help"});
+    QCOMPARE(outcome.exitCode, 0);
+    for (const Gallery::Page &page : Gallery::pages())
+        QVERIFY(outcome.output.contains(page.name));
+    QFile document(QStringLiteral(HVTHEME_SOURCE_DIR "/docs/gallery.md"));
+    QVERIFY(document.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(document.readAll()).remove(QLatin1Char('`'));
+    // The exit codes are told in both places in the same words.
+    const QRegularExpression line(QStringLiteral("^  (\\d)  (.+)$"),
+                                  QRegularExpression::MultilineOption);
+    int codes = 0;
+    for (auto hits = line.globalMatch(outcome.output); hits.hasNext(); ++codes) {
+        const auto hit = hits.next();
+        QVERIFY2(text.contains(QStringLiteral("| %1 | %2 |").arg(hit.captured(1), hit.captured(2))),
+                 qPrintable(hit.captured()));
+    }
+    QCOMPARE(codes, 8);
+}
+
+void tst_Screenshots::noDisplay()
+{
+    const Outcome outcome = runGallery({});
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY(outcome.errors.contains(QLatin1String("no display to open a window on")));
+    QCOMPARE(runGallery({"--version"}).exitCode, 0);
+}
+
+QTEST_MAIN(tst_Screenshots)
+
+#include "tst_screenshots.moc"
