@@ -43,7 +43,8 @@ void settlePage(QWidget *page)
     const auto children = page->findChildren<QWidget *>();
     for (QWidget *child : children)
         child->ensurePolished();
-    page->setMinimumSize(page->sizeHint());
+    if (page->minimumSize() != page->maximumSize()) // the application page has its own
+        page->setMinimumSize(page->sizeHint());
 }
 
 bool showsThemeValues(const QString &name)

@@ -96,7 +96,7 @@ void tst_GoldenPictures::page()
     const QString updated = qEnvironmentVariable("HVTHEME_UPDATE_GOLDEN_PICTURES");
     if (!updated.isEmpty()) { // set by scripts/update-golden-pictures alone
         QVERIFY(actual.save(updated + QLatin1Char('/') + name + QLatin1String(".png")));
-        QSKIP("written, not compared");
+        return;
     }
     const QImage expected(QStringLiteral(HVTHEME_SOURCE_DIR "/tests/golden/%1.png").arg(name));
     QVERIFY(!expected.isNull());
