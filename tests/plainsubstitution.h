@@ -60,6 +60,8 @@ inline Result replaced(Kind kind, const QString &prefix, const QVariantMap &valu
                        const QString &styleSheet, int mostSteps)
 {
     static QHash<QString, QRegularExpression> compiled;
+    if (compiled.size() > 1000)
+        compiled.clear();
     QRegularExpression &expression = compiled[pattern(kind).arg(prefix)];
     if (expression.pattern().isEmpty())
         expression.setPattern(pattern(kind).arg(prefix));
