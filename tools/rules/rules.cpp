@@ -46,6 +46,8 @@ const QVector<Rule> &allRules()
 
         {"unused-key",           Severity::Info,    "No template uses a colour, image file or integer.", Rules::unusedKey},
         {"unused-palette",       Severity::Info,    "Nothing uses a palette entry.", Rules::unusedPalette},
+
+        {"contrast",             Severity::Warning, "Text and its background are too close.", Rules::contrast},
     };
     return rules;
 }

@@ -140,6 +140,9 @@ void imageOutside(const CheckInput &input, Report &report);
 void unusedKey(const CheckInput &input, Report &report);
 void unusedPalette(const CheckInput &input, Report &report);
 
+// What can be read.
+void contrast(const CheckInput &input, Report &report);
+
 } // namespace Rules
 
 #endif
