@@ -21,7 +21,7 @@ void Rules::imageOutside(const CheckInput &input, Report &report)
         const Definition &first = *images.first();
         const QString others = images.size() == 1
             ? QString()
-            : QStringLiteral(", and so do %1 more of this file").arg(images.size() - 1);
+            : QStringLiteral(" (%1 more in this file)").arg(images.size() - 1);
         report.addAtValue(first,
                           QStringLiteral("image path %1 leaves the application's folder%2")
                               .arg(first.value->text(), others));

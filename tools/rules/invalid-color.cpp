@@ -7,19 +7,17 @@
 namespace
 {
 
-QString reason(const QString &text, const Suggestion &suggestion)
+QString objection(const QString &text, const Suggestion &suggestion)
 {
     if (text.isEmpty())
-        return QStringLiteral("the colour is empty");
-    QString sentence =
-        QStringLiteral("\"%1\" is neither a palette entry nor a hexadecimal colour").arg(text);
+        return QStringLiteral("the colour is empty; black is stored");
+    const QString sentence = QStringLiteral("\"%1\" is neither a palette entry nor a hexadecimal "
+                                            "colour; black is stored")
+                                 .arg(text);
     const QString near = suggestion.nearest(text);
-    if (!near.isEmpty())
-        return sentence + QStringLiteral("; did you mean %1?").arg(near);
-    // setNamedColor() complains of what it does not know, isValidColor() does not.
-    if (QColor::isValidColor(text))
-        return sentence + QStringLiteral("; as digits it is %1").arg(QColor(text).name());
-    return sentence;
+    if (near.isEmpty() && QColor::isValidColor(text))
+        return sentence + QStringLiteral("; in digits it would be %1").arg(QColor(text).name());
+    return sentence + suggestion.question(text);
 }
 
 } // namespace
@@ -33,8 +31,7 @@ void Rules::invalidColor(const CheckInput &input, Report &report)
             if (color.isResolved || isHexadecimalColor(color.text()) || color.isList()
                 || color.isNamedTooEarly(*theme))
                 continue;
-            report.addAtColor(
-                color, reason(color.text(), suggestion) + QStringLiteral(", black is stored"));
+            report.addAtColor(color, objection(color.text(), suggestion));
         }
     }
 }
