@@ -120,34 +120,57 @@ QString ratioText(double ratio)
     return QString::number(std::floor(ratio * 100.0) / 100.0, 'f', 2) + QLatin1String(":1");
 }
 
-QString advice(const ThemeStack &theme, const QColor &text, const Ground &ground, double minimum)
+// The palette of one theme, taken apart once.
+class Palette
 {
-    QString best;
-    double bestRatio = 0.0;
-    double bestDistance = 0.0;
-    QStringList names = storedKeys(theme, Kind::Palette);
-    names.sort();
-    for (const QString &name : qAsConst(names)) {
-        const QColor color = theme.theme().readNamedColor(name).first;
-        const double ratio = leastContrast(color, ground);
-        if (ratio < minimum)
-            continue;
-        const double distance =
-            ColorMath::distance(ColorMath::toLab(text), ColorMath::toLab(color));
-        if (best.isEmpty() || distance < bestDistance) {
-            best = name;
-            bestRatio = ratio;
-            bestDistance = distance;
+public:
+    explicit Palette(const ThemeStack &theme)
+    {
+        QStringList names = storedKeys(theme, Kind::Palette);
+        names.sort();
+        for (const QString &name : qAsConst(names)) {
+            const QColor color = theme.theme().readNamedColor(name).first;
+            m_entries.append({name, color, ColorMath::toLab(color)});
         }
     }
-    if (best.isEmpty())
-        return QStringLiteral("no palette entry would pass");
-    return QStringLiteral("the nearest palette entry that passes is %1 with %2")
-        .arg(best, ratioText(bestRatio));
-}
+
+    QString advice(const QColor &text, const Ground &ground, double minimum)
+    {
+        if (++m_advised > adviceLimit)
+            return {};
+        const ColorMath::Lab wanted = ColorMath::toLab(text);
+        const Entry *best = nullptr;
+        double bestDistance = 0.0;
+        for (const Entry &entry : qAsConst(m_entries)) {
+            const double distance = ColorMath::distance(wanted, entry.lab);
+            const bool isNearer = !best || distance < bestDistance;
+            if (isNearer && leastContrast(entry.color, ground) >= minimum) {
+                best = &entry;
+                bestDistance = distance;
+            }
+        }
+        if (!best)
+            return QStringLiteral("; no palette entry would pass");
+        return QStringLiteral("; the nearest palette entry that passes is %1 with %2")
+            .arg(best->name, ratioText(leastContrast(best->color, ground)));
+    }
+
+private:
+    // Each piece of advice looks at the whole palette: given without end it would take time with
+    // the square of a theme's size.
+    static constexpr int adviceLimit = 100;
+
+    struct Entry {
+        QString name;
+        QColor color;
+        ColorMath::Lab lab;
+    };
+    QVector<Entry> m_entries;
+    int m_advised = 0;
+};
 
 void checkPair(const CheckInput &input, const ThemeStack &theme, const StylePair &pair,
-               const Colors &colors, QSet<QString> *known, Report &report)
+               const Colors &colors, Palette *palette, QSet<QString> *known, Report &report)
 {
     const Ground text = colors.read(pair.foreground.text);
     const Ground ground = opaqueGround(colors, pair.backgrounds);
@@ -163,10 +186,10 @@ void checkPair(const CheckInput &input, const ThemeStack &theme, const StylePair
     const TextPosition place = input.templates().positionAt(pair.foreground.offset);
     const InputFile &file = input.templates().fileAt(pair.foreground.offset).input;
     const QString message =
-        QStringLiteral("%1 on %2 has a contrast of %3 in theme %4, less than %5 (%6, %7:%8); %9")
+        QStringLiteral("%1 on %2 has a contrast of %3 in theme %4, less than %5 (%6, %7:%8)%9")
             .arg(text.first().name, background, ratioText(ratio), theme.name(), ratioText(minimum),
                  pair.selector.text, file.path().section(QLatin1Char('/'), -1),
-                 QString::number(place.line), advice(theme, text.first().color, ground, minimum));
+                 QString::number(place.line), palette->advice(text.first().color, ground, minimum));
     const Definition *definition = theme.find(Kind::Color, text.first().key);
     const Severity severity = pair.drawsText ? Severity::Warning : Severity::Info;
     if (definition)
@@ -183,12 +206,13 @@ void Rules::contrast(const CheckInput &input, Report &report)
     const QVector<StylePair> pairs = StyleCascade(input.styleRules()).pairs();
     for (const ThemeStack *theme : input.themes()) {
         const Colors colors(*theme, input.options().prefix);
+        Palette palette(*theme);
         QSet<QString> known;
         // Certain text first: a pair is told of once, with the greater severity.
         for (const bool drawsText : {true, false}) {
             for (const StylePair &pair : pairs) {
                 if (pair.drawsText == drawsText)
-                    checkPair(input, *theme, pair, colors, &known, report);
+                    checkPair(input, *theme, pair, colors, &palette, &known, report);
             }
         }
     }
