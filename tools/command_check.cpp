@@ -134,12 +134,14 @@ int runCheck(const QStringList &arguments)
     const KnownOptions known;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Reports what is wrong with the themes of a folder, one finding a line."));
-    parser.addPositionalArgument(QStringLiteral("folder"),
+        QStringLiteral("Reports what is wrong with the themes of a folder, one finding a line.\n\n"
+                       "Exit code: 0 clean, 1 findings at or above the level of --fail-on, 2 wrong "
+                       "usage or\nnothing to read."));
+    parser.addPositionalArgument(QStringLiteral("FOLDER"),
                                  QStringLiteral("Folder with a default theme file."));
-    parser.addPositionalArgument(QStringLiteral("theme"),
+    parser.addPositionalArgument(QStringLiteral("THEME"),
                                  QStringLiteral("Themes to check (default: all)."),
-                                 QStringLiteral("[theme...]"));
+                                 QStringLiteral("[THEME...]"));
     parser.addOptions({known.suffix, known.templates, known.prefix, known.folder, known.vocabulary,
                        known.contrast, known.format, known.fail, known.disable, known.rules});
     if (const std::optional<int> code = parseArguments(parser, commandName, arguments))

@@ -98,11 +98,11 @@ int runDiff(const QStringList &arguments)
     const Pairs pairs = pairsOf(*input, ThemeOptions::theme(*input, names.at(0)),
                                 ThemeOptions::theme(*input, names.at(1)));
     TextTable table({QStringLiteral("KIND"), QStringLiteral("KEY"), QStringLiteral("DISTANCE"),
-                     names.at(0).toUpper(), names.at(1).toUpper()});
+                     names.at(0), names.at(1)});
     int differing = 0;
     for (auto it = pairs.cbegin(); it != pairs.cend(); ++it) {
         const Pair &pair = it.value();
-        if (pair.first.value == pair.second.value)
+        if (isSameValue(pair.first.value, pair.second.value))
             continue;
         ++differing;
         table.addRow({nounOf(Kind(it.key().first)), it.key().second,

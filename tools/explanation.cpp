@@ -8,6 +8,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <iterator>
+
 namespace
 {
 
@@ -71,10 +74,6 @@ void Explanation::tellValue(const StoredValue &value)
             m_key % QLatin1String(" is ") % articleFor(nounOf(value.kind())) % QLatin1String(": ")
                 % valueText(value.value));
     tellOrigin(*value.definition);
-    const bool isColor = value.kind() == Kind::Color || value.kind() == Kind::Palette;
-    if (isColor && value.palette.isEmpty() && !isHexadecimalColor(value.definition->value->text()))
-        addLine(4,
-                QStringLiteral("neither a palette entry nor a hexadecimal colour, so it is black"));
     if (value.isHidden)
         addLine(4,
                 QStringLiteral("hidden from style sheets by a value of another kind, see below"));
@@ -85,14 +84,25 @@ void Explanation::tellUnknown()
     QStringList names;
     for (const Definition &definition : m_theme.definitions())
         names << definition.key();
+    const QString question = names.contains(m_key) ? QString() : Suggestion(names).question(m_key);
     addLine(0,
             QLatin1String("The theme ") % m_theme.name() % QLatin1String(" has no value called ")
-                % m_key % Suggestion(names).question(m_key));
+                % m_key % question);
 }
 
 void Explanation::tellOrigin(const Definition &definition)
 {
     addLine(2, shownDefinition(definition));
+    const QString &text = definition.value->text();
+    const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
+    if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
+        const bool isLate = m_theme.find(Kind::Palette, text) != nullptr;
+        addLine(4,
+                isLate ? QStringLiteral(
+                    "the palette entry of that name is stored only later, so it is black")
+                       : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it "
+                                        "is black"));
+    }
     if (definition.kind() == Kind::Gradient) {
         const QString prefix = definition.entry()->key % QLatin1Char('/');
         for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
@@ -201,7 +211,7 @@ void Explanation::tellTokens()
             : declaration
             ? rule->selector % QLatin1String(" { ") % declaration->property % QLatin1String(" }")
             : QStringLiteral("outside a declaration");
-        if (!m_theme.find(token.kind, m_key))
+        if (m_isDefined && !m_theme.find(token.kind, m_key))
             where +=
                 QLatin1String(", by ") % articleFor(nounOf(token.kind)) % QLatin1String(" token");
         addLine(
@@ -209,6 +219,11 @@ void Explanation::tellTokens()
             place(templates.fileAt(token.offset).input.path(), templates.positionAt(token.offset))
                 % where);
     }
-    if (count == 0)
+    const bool isVisible = std::any_of(std::begin(allKinds), std::end(allKinds), [&](Kind kind) {
+        return isInStyleSheets(kind) && m_theme.find(kind, m_key);
+    });
+    if (m_isDefined && !isVisible)
+        addLine(0, QStringLiteral("Style sheets see neither palette entries nor gradients."));
+    else if (count == 0)
         addLine(0, QStringLiteral("No template uses it."));
 }

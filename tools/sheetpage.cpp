@@ -114,10 +114,10 @@ void Page::addHead()
     QFile style(QStringLiteral(":/hvtheme-sheet/sheet.css"));
     style.open(QIODevice::ReadOnly);
     m_html +=
-        QLatin1String("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
-                      "<meta name=\"viewport\" content=\"width=device-width\">\n"
+        QLatin1String("<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\"/>\n"
+                      "<meta name=\"viewport\" content=\"width=device-width\"/>\n"
                       "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src "
-                      "'none'; img-src data:; style-src 'unsafe-inline'\">\n<title>")
+                      "'none'; img-src data:; style-src 'unsafe-inline'\"/>\n<title>")
         % title() % QLatin1String("</title>\n<style>\n") % QString::fromUtf8(style.readAll())
         % QLatin1String("</style>\n</head>\n<body>\n");
 }
@@ -282,7 +282,7 @@ void Page::addIcons()
             const QString text = escaped(key) % QLatin1String(" in ") % escaped(theme.name);
             m_html += QLatin1String("<span style=\"") % themeStyle(theme) % QLatin1String("\">");
             m_html += uri.isEmpty() ? QLatin1String(stored ? "missing" : "not set")
-                                    : QStringLiteral("<img alt=\"%1\" src=\"%2\">").arg(text, uri);
+                                    : QStringLiteral("<img alt=\"%1\" src=\"%2\"/>").arg(text, uri);
             m_html += QLatin1String("</span>");
         }
         m_html += QLatin1String("</div><figcaption>") % escaped(key)

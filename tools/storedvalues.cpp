@@ -72,6 +72,15 @@ QVector<StoredValue> storedValues(const ThemeStack &theme, const QString &applic
     return values;
 }
 
+// QVariant compares types that it does not know, such as gradients, by address.
+bool isSameValue(const QVariant &first, const QVariant &second)
+{
+    const int gradient = qMetaTypeId<QGradientStops>();
+    if (first.userType() == gradient && second.userType() == gradient)
+        return first.value<QGradientStops>() == second.value<QGradientStops>();
+    return first == second;
+}
+
 QString numberText(double number)
 {
     return QString::number(number, 'g', 6);

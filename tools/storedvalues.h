@@ -35,6 +35,9 @@ QVector<StoredValue> storedValues(const ThemeStack &theme, const QString &applic
 /*! \brief Returns \a value as style sheets have it; a gradient as "0 #rrggbb, 1 #rrggbb". */
 QString valueText(const QVariant &value);
 
+/*! \brief Tells whether two values are the same; invalid ones are. */
+bool isSameValue(const QVariant &first, const QVariant &second);
+
 /*! \brief Returns a number as short as it can be told: "0", "0.25". */
 QString numberText(double number);
 

@@ -1,0 +1,217 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "commandrun.h"
+
+#include <QtTest>
+
+// What the commands print, byte for byte, and how they end.
+class tst_Commands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void output_data();
+    void output();
+    void help_data();
+    void help();
+    void wrongUsage_data();
+    void wrongUsage();
+    void exitCodes_data();
+    void exitCodes();
+    void documentedExamples();
+    void jsonIsWhole();
+    void terminalGetsNoControlCharacters();
+    void fullDevice();
+};
+
+void tst_Commands::output_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("golden");
+
+    const char *const app = " --app-dir /opt/demo/bin";
+    const char *const templates = " --templates templates";
+    const auto row = [&](const char *name, const QString &arguments) {
+        QTest::newRow(name) << arguments << QString(name);
+    };
+    row("values-default", QString("values themes default") + app);
+    row("values-night", QString("values themes night") + app);
+    row("values-json", QString("values themes night --format json") + app);
+    row("values-csv", QString("values themes night --format csv") + app);
+    row("diff", "diff themes default night");
+    row("diff-none", "diff themes night night");
+    row("render", QString("render themes night") + templates + app);
+    row("render-files",
+        QString("render themes night --templates templates/b.qss"
+                " --templates templates/A.css")
+            + app);
+    row("render-prefix", QString("render themes night --prefix local") + templates + app);
+    const QStringList keys{"TitleColor", "Glimmer",    "Shared",  "Broken", "Twice",
+                           "Glow",       "Half",       "Rounded", "Kept",   "FontSize_L",
+                           "Brand_1",    "TitelColor", "Missing", "Veil",   "Margin"};
+    for (const QString &key : keys)
+        row(qPrintable("explain-" + key), "explain themes night " + key + templates);
+    row("explain-never-read", QString("explain themes plain TitleColor") + templates);
+}
+
+void tst_Commands::output()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, golden);
+    const CommandRun run(arguments.split(' '));
+    QVERIFY2(run.exitCode != 2, run.errors.constData());
+    const QString difference = differenceFromGolden(golden, run.output);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
+}
+
+void tst_Commands::help_data()
+{
+    QTest::addColumn<QString>("usage");
+
+    QTest::newRow("check") << "Usage: hvtheme check [options] FOLDER [THEME...]";
+    QTest::newRow("render") << "Usage: hvtheme render [options] FOLDER THEME";
+    QTest::newRow("values") << "Usage: hvtheme values [options] FOLDER THEME";
+    QTest::newRow("explain") << "Usage: hvtheme explain [options] FOLDER THEME KEY";
+    QTest::newRow("diff") << "Usage: hvtheme diff [options] FOLDER THEME_A THEME_B";
+    QTest::newRow("sheet") << "Usage: hvtheme sheet [options] FOLDER THEME...";
+}
+
+void tst_Commands::help()
+{
+    QFETCH(QString, usage);
+    const QString command = QTest::currentDataTag();
+    for (const QStringList &arguments : {QStringList{command, "--help"}, {command, "-h"}}) {
+        const CommandRun run(arguments);
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QByteArray());
+        QCOMPARE(QString(run.output).section('\n', 0, 0), usage);
+        QVERIFY(run.output.contains("Exit code: 0 "));
+    }
+    QVERIFY(CommandRun({"--help"}).output.contains("\n  " + command.toLatin1() + ' '));
+}
+
+void tst_Commands::wrongUsage_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("error");
+
+    // clang-format off
+    QTest::newRow("no-command") << "" << "hvtheme: a command is missing (see hvtheme --help)\n";
+    QTest::newRow("unknown-command") << "paint" << "hvtheme: no command is called \"paint\" (see hvtheme --help)\n";
+    QTest::newRow("no-folder") << "values" << "hvtheme: values: FOLDER is missing (see hvtheme values --help)\n";
+    QTest::newRow("no-theme") << "values themes" << "hvtheme: values: the name of a theme is missing (see hvtheme values --help)\n";
+    QTest::newRow("one-theme") << "diff themes night" << "hvtheme: diff: the name of a theme is missing (see hvtheme diff --help)\n";
+    QTest::newRow("no-key") << "explain themes night" << "hvtheme: explain: KEY is missing (see hvtheme explain --help)\n";
+    QTest::newRow("too-many") << "render themes night day" << "hvtheme: render: one argument too many: day (see hvtheme render --help)\n";
+    QTest::newRow("unknown-option") << "values themes night --fast" << "hvtheme: values: Unknown option 'fast'. (see hvtheme values --help)\n";
+    QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called xml (see hvtheme values --help)\n";
+    QTest::newRow("prefix") << "render themes night --prefix g+" << "hvtheme: render: a prefix is made of letters, digits and underscores (see hvtheme render --help)\n";
+    QTest::newRow("no-output") << "sheet themes night" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
+    QTest::newRow("no-picture") << "sheet themes night -o a.pdf" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
+    // clang-format on
+}
+
+void tst_Commands::wrongUsage()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, error);
+    const CommandRun run(arguments.split(' ', Qt::SkipEmptyParts));
+    QCOMPARE(run.errors, error.toUtf8());
+    QCOMPARE(run.output, QByteArray());
+    QCOMPARE(run.exitCode, 2);
+}
+
+void tst_Commands::exitCodes_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("values") << "values themes night" << 0;
+    QTest::newRow("render") << "render themes night --templates templates" << 0;
+    QTest::newRow("explain-defined") << "explain themes night Veil" << 0;
+    QTest::newRow("explain-undefined") << "explain themes night Half" << 1;
+    QTest::newRow("diff-same") << "diff themes night night" << 0;
+    QTest::newRow("diff-different") << "diff themes default night" << 1;
+    QTest::newRow("no-such-theme") << "values themes day" << 2;
+}
+
+void tst_Commands::exitCodes()
+{
+    QFETCH(QString, arguments);
+    QFETCH(int, expected);
+    QCOMPARE(CommandRun(arguments.split(' ')).exitCode, expected);
+}
+
+// Every example of the documentation prints what stands below it.
+void tst_Commands::documentedExamples()
+{
+    QFile file(HVTHEME_TEST_DIR "/../docs/command.md");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QStringList blocks = QString::fromUtf8(file.readAll()).split("```");
+    int count = 0;
+    for (int i = 1; i < blocks.size(); i += 2) {
+        const QString line = blocks.at(i).section('\n', 1, 1);
+        const QString expected = blocks.at(i).section('\n', 2);
+        if (!line.startsWith("$ hvtheme ") || expected.startsWith("$ "))
+            continue;
+        ++count;
+        QString output = CommandRun(line.split(' ').mid(2)).output;
+        if (!output.endsWith('\n'))
+            output += '\n';
+        QVERIFY2(output == expected,
+                 qPrintable(line + '\n' + firstDifference(expected.toUtf8(), output.toUtf8())));
+    }
+    QCOMPARE(count, 5);
+}
+
+void tst_Commands::jsonIsWhole()
+{
+    const CommandRun run({"values", "themes", "night", "--format", "json"});
+    const QJsonObject root = QJsonDocument::fromJson(run.output).object();
+    QCOMPARE(root.value("theme").toString(), QString("night"));
+    QCOMPARE(root.value("values").toObject().value("Shared").toString(),
+             QString(":/images/shared.png"));
+    QCOMPARE(root.value("colors").toObject().size(), 8);
+    QCOMPARE(root.value("palettes").toObject().size(), 8);
+    QCOMPARE(root.value("gradients").toObject().size(), 1);
+    QCOMPARE(root.value("flags").toObject().value("Rounded").toObject().value("value").toBool(true),
+             false);
+}
+
+void tst_Commands::terminalGetsNoControlCharacters()
+{
+    if (QStandardPaths::findExecutable("script").isEmpty())
+        QSKIP("script, which stands in for a terminal, is not installed");
+    const TemporaryTheme theme("[ImageFiles]\nevil=\"\\x1b[31m\\x9b\\x7\"\n");
+    const QStringList commands{"values FOLDER default", "values FOLDER default --format csv",
+                               "values FOLDER default --format json",
+                               "render FOLDER default --templates FOLDER/evil.qss",
+                               "explain FOLDER default evil"};
+    theme.write("evil.qss", "/* \x1b]0;evil\x07 \xc2\x9b */ a { b: url(global.theme.image.evil) }");
+    for (const QString &command : commands) {
+        const QString line = commandPath() % ' ' % QString(command).replace("FOLDER", theme.path());
+        QProcess terminal;
+        terminal.start("script", {"-qec", line, "/dev/null"});
+        QVERIFY(terminal.waitForFinished());
+        const QString shown = QString::fromUtf8(terminal.readAll());
+        QVERIFY2(shown.contains("evil"), qPrintable(shown));
+        for (const QChar character : shown)
+            QVERIFY2(character.category() != QChar::Other_Control
+                         || QString("\r\n\t").contains(character),
+                     qPrintable(command));
+    }
+}
+
+void tst_Commands::fullDevice()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("this system has no /dev/full");
+    const CommandRun run({"values", "themes", "night"}, "/dev/full");
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY(run.errors.startsWith("hvtheme: standard output: "));
+    QCOMPARE(run.errors.count('\n'), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_Commands)
+#include "tst_commands.moc"

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "commandrun.h"
+
+#include <QImage>
+#include <QSet>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+// The page and the picture that show themes side by side.
+class tst_Sheet : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pageIsWellFormed_data();
+    void pageIsWellFormed();
+    void pageNeedsNothingElse();
+    void pageNamesAllValues();
+    void pageEscapesNames();
+    void contrastIsGraded_data();
+    void contrastIsGraded();
+    void pictureShowsColors();
+    void pictureGrowsWithThemes();
+    void pictureHasAnEnd();
+};
+
+namespace
+{
+
+QByteArray sheet(const QString &suffix, const QStringList &arguments)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("sheet" + suffix);
+    const CommandRun run(QStringList("sheet") + arguments + QStringList{"-o", path});
+    QFile file(path);
+    if (run.exitCode != 0 || !run.errors.isEmpty() || !file.open(QIODevice::ReadOnly))
+        qFatal("no sheet: %s", run.errors.constData());
+    return file.readAll();
+}
+
+QImage picture(const QStringList &arguments)
+{
+    return QImage::fromData(sheet(".png", arguments), "PNG");
+}
+
+QSet<QRgb> colorsOf(const QImage &image)
+{
+    QSet<QRgb> colors;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            colors.insert(image.pixel(x, y));
+    }
+    return colors;
+}
+
+const QStringList twoThemes{"themes", "default", "night", "--app-dir", "images"};
+
+} // namespace
+
+void tst_Sheet::pageIsWellFormed_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+
+    QTest::newRow("two") << twoThemes;
+    QTest::newRow("one") << QStringList{"themes", "night"};
+    QTest::newRow("samples") << QStringList{HVTHEME_TEST_DIR "/../themes", "dark", "light"};
+}
+
+void tst_Sheet::pageIsWellFormed()
+{
+    QFETCH(QStringList, arguments);
+    QXmlStreamReader reader(sheet(".html", arguments));
+    QSet<QString> anchors;
+    QStringList links;
+    QStringList labels;
+    int lastHeading = 0;
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        const QString name = reader.name().toString();
+        const QXmlStreamAttributes attributes = reader.attributes();
+        if (attributes.hasAttribute("id")) {
+            QVERIFY(!anchors.contains(attributes.value("id").toString()));
+            anchors.insert(attributes.value("id").toString());
+        }
+        if (name == "html")
+            QCOMPARE(attributes.value("lang").toString(), QString("en"));
+        if (name == "a")
+            links << attributes.value("href").mid(1).toString();
+        if (attributes.hasAttribute("aria-labelledby"))
+            labels << attributes.value("aria-labelledby").toString();
+        if (name == "th")
+            QVERIFY(attributes.hasAttribute("scope"));
+        if (name == "img")
+            QVERIFY(!attributes.value("alt").isEmpty());
+        if (name.size() == 2 && name.startsWith('h') && name.at(1).isDigit()) {
+            QVERIFY(name.at(1).digitValue() <= lastHeading + 1);
+            lastHeading = name.at(1).digitValue();
+        }
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
+    QVERIFY(links.size() > 3);
+    for (const QString &target : links + labels)
+        QVERIFY2(anchors.contains(target), qPrintable(target));
+}
+
+void tst_Sheet::pageNeedsNothingElse()
+{
+    const QString page = sheet(".html", twoThemes);
+    QVERIFY(page.contains("src=\"data:image/svg+xml;base64,"));
+    QVERIFY(!page.contains("<script"));
+    QVERIFY(!page.contains("<link"));
+    QVERIFY(!page.contains("http:") && !page.contains("https:"));
+    QVERIFY(!page.contains("url("));
+    QVERIFY(page.contains("prefers-color-scheme: dark"));
+    const QString svg = QString(page).section("base64,", 1, 1).section('"', 0, 0);
+    QFile source(dataFolder() + "/images/add.svg");
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    QCOMPARE(QByteArray::fromBase64(svg.toLatin1()), source.readAll());
+}
+
+void tst_Sheet::pageNamesAllValues()
+{
+    const QString page = sheet(".html", twoThemes);
+    for (const char *text :
+         {"Brand_10", "Veil", "Moon", "TitleBackground", "#3a3f47", "#80000000", "Rounded", "Kept",
+          "13 px", "Glow", "0 #80b0ff, 1 #001e6fff", "add in night", "Night, starless", "not set", "missing"})
+        QVERIFY2(page.contains(text), text);
+    QVERIFY(page.indexOf("Brand_2<") < page.indexOf("Brand_10<")); // as in the file
+    QVERIFY(page.contains("linear-gradient(to right, #80b0ff 0%, #1e6fff00 100%)")); // opacity last
+}
+
+void tst_Sheet::pageEscapesNames()
+{
+    const TemporaryTheme theme("[General]\nThemeName=<b>\\x1b\n[Colors]\n%3Ci%3E=#FFF\n"
+                               "[Flags]\n%22%26=1\n");
+    const QString page = sheet(".html", {theme.path(), "default"});
+    QVERIFY(page.contains("&lt;b&gt;\\x1b"));
+    QVERIFY(page.contains("&lt;i&gt;"));
+    QVERIFY(page.contains("&quot;&amp;"));
+    QVERIFY(!page.contains("<b>") && !page.contains("<i>"));
+}
+
+void tst_Sheet::contrastIsGraded_data()
+{
+    QTest::addColumn<QString>("color");
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("black") << "#000000"
+                           << "color"
+                           << ">21.00:1 AAA<";
+    QTest::newRow("AA") << "#767676"
+                        << "color"
+                        << ">4.54:1 AA<";
+    QTest::newRow("just-not-AA") << "#777777"
+                                 << "color"
+                                 << ">4.47:1 AA large<"; // 4.478
+    QTest::newRow("low") << "#999999"
+                         << "color"
+                         << ">2.84:1 low<";
+    QTest::newRow("no-text") << "#999999"
+                             << "background-color"
+                             << ">2.84:1<";
+    QTest::newRow("selection") << "#999999"
+                               << "selection-color"
+                               << ">2.84:1 low<";
+}
+
+void tst_Sheet::contrastIsGraded()
+{
+    QFETCH(QString, color);
+    QFETCH(QString, property);
+    QFETCH(QString, expected);
+    const TemporaryTheme theme("[Colors]\nText=" + color.toLatin1() + "\nGround=#FFFFFF\n");
+    theme.write("a.qss", "a { " + property.toLatin1() + ": global.theme.color.Text }");
+    const QString page = sheet(
+        ".html",
+        {theme.path(), "default", "--background", "Ground", "--templates", theme.path("a.qss")});
+    QVERIFY2(page.contains(expected), qPrintable(page.section("Text</th>", 1, 1).left(400)));
+    QVERIFY(page.contains("Each theme is shown on its own Ground."));
+}
+
+void tst_Sheet::pictureShowsColors()
+{
+    const QString base = "[Palettes]\nOdd_1=#12AB34\n[Colors]\nGround=#C0FFEE\nFill=#FE0123\n";
+    const TemporaryTheme theme(base.toLatin1());
+    const QStringList arguments{theme.path(), "default", "--background", "Ground"};
+    const QSet<QRgb> colors = colorsOf(picture(arguments));
+    for (const QRgb color : {0xff12ab34, 0xffc0ffee, 0xfffe0123})
+        QVERIFY2(colors.contains(color), qPrintable(QString::number(color, 16)));
+
+    theme.write("default.theme", "[Colors]\nGround=#C0FFEE\n");
+    const QSet<QRgb> fewer = colorsOf(picture(arguments));
+    QVERIFY(!fewer.contains(0xff12ab34) && !fewer.contains(0xfffe0123));
+}
+
+void tst_Sheet::pictureGrowsWithThemes()
+{
+    const QImage one = picture({"themes", "night"});
+    const QImage two = picture(twoThemes);
+    QVERIFY(!one.isNull() && !two.isNull());
+    QVERIFY(two.width() > 600 && two.width() >= one.width());
+    QCOMPARE(one.pixel(0, 0), two.pixel(0, 0));
+}
+
+void tst_Sheet::pictureHasAnEnd()
+{
+    QByteArray text = "[Colors]\n";
+    for (int i = 0; i < 2000; ++i)
+        text += "Key" + QByteArray::number(i) + "=#FFF\n";
+    const TemporaryTheme theme(text);
+    const CommandRun run({"sheet", theme.path(), "default", "-o", theme.path("out.png")});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY(run.errors.contains("too many values for a picture"));
+    QVERIFY(!QFile::exists(theme.path("out.png")));
+    QVERIFY(sheet(".html", {theme.path(), "default"}).contains("Key1999"));
+}
+
+QTEST_GUILESS_MAIN(tst_Sheet)
+#include "tst_sheet.moc"
