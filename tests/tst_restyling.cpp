@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "completetheme.h"
+#include "restyledapplication.h"
 #include "samplewindows.h"
-#include "temporaryfolder.h"
 
 #include <QtTest>
 
@@ -17,42 +16,6 @@ Q_DECLARE_METATYPE(MakeWindow)
 
 namespace
 {
-
-// An application's own style: draws a mark, and watches what is done to it.
-class MarkingStyle : public QProxyStyle
-{
-    Q_OBJECT
-
-public:
-    explicit MarkingStyle(const QString &base = "fusion")
-        : QProxyStyle(base)
-    {
-    }
-
-    using QProxyStyle::polish;
-    using QProxyStyle::unpolish;
-    void polish(QApplication *application) override
-    {
-        QProxyStyle::polish(application);
-        ++polished;
-        if (!styleSheet.isEmpty())
-            application->setStyleSheet(styleSheet);
-    }
-    void unpolish(QApplication *application) override
-    {
-        QProxyStyle::unpolish(application);
-        --polished;
-    }
-    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget) const override
-    {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        painter->fillRect(QRect(option->rect.topLeft(), QSize(3, 3)), Qt::magenta);
-    }
-
-    int polished = 0;
-    QString styleSheet;
-};
 
 // Counts how often each widget is told that its style changed.
 class StyleChangeCounter : public QObject
@@ -81,145 +44,6 @@ public:
 
     QHash<QObject *, int> counts;
 };
-
-// Does something when its style changes, the first time.
-class ReactingWidget : public QWidget
-{
-    Q_OBJECT
-
-public:
-    using QWidget::QWidget;
-    std::function<void(ReactingWidget *)> react;
-
-protected:
-    void changeEvent(QEvent *event) override
-    {
-        QWidget::changeEvent(event);
-        if (event->type() == QEvent::StyleChange && react)
-            std::exchange(react, nullptr)(this);
-    }
-};
-
-// Paints whenever anything about it changes, and keeps what it looked like.
-class ImpatientLabel : public QLabel
-{
-    Q_OBJECT
-
-public:
-    using QLabel::QLabel;
-    QVector<QRgb> seen;
-
-protected:
-    void changeEvent(QEvent *event) override
-    {
-        QLabel::changeEvent(event);
-        repaint();
-    }
-    void paintEvent(QPaintEvent *event) override
-    {
-        QLabel::paintEvent(event);
-        seen.append(palette().color(QPalette::WindowText).rgb());
-    }
-};
-
-QWidget *column(const QList<QWidget *> &widgets)
-{
-    auto *window = new QWidget;
-    auto *layout = new QVBoxLayout(window);
-    for (QWidget *widget : widgets)
-        layout->addWidget(widget);
-    return window;
-}
-
-QWidget *windowOfViews()
-{
-    auto *table = new QTableWidget(2, 2);
-    table->setProperty("style", "audioMappingTableWidget");
-    table->setItem(0, 0, new QTableWidgetItem("cell"));
-    auto *tree = new QTreeWidget;
-    tree->setHeaderLabels({"a", "b"});
-    for (int i = 0; i < 20; ++i)
-        new QTreeWidgetItem(tree, {"x", "y"});
-    auto *list = new QListWidget;
-    list->setProperty("style", "simpleList");
-    list->addItems({"one", "two"});
-    auto *tabs = new QTabWidget;
-    tabs->tabBar()->setProperty("style", "floatTabBar");
-    tabs->addTab(list, "list");
-    tabs->addTab(new QLabel("label"), "label");
-    auto *area = new QScrollArea;
-    area->setWidget(controls());
-    return column({table, tree, tabs, area});
-}
-
-QWidget *windowOfBars()
-{
-    auto *window = new QMainWindow;
-    window->setCentralWidget(new QCalendarWidget);
-    window->menuBar()->addMenu("File")->addAction("Open");
-    QToolBar *bar = window->addToolBar("bar");
-    bar->addAction("cut");
-    bar->addWidget(new QComboBox);
-    auto *dock = new QDockWidget("dock");
-    dock->setWidget(controls());
-    window->addDockWidget(Qt::LeftDockWidgetArea, dock);
-    window->statusBar()->showMessage("ready");
-    return window;
-}
-
-QWidget *windowWithOwnStyleSheets()
-{
-    QWidget *page = controls();
-    page->setStyleSheet("QLabel { color: purple } QPushButton { background: lime }");
-    auto *label = new QLabel("label");
-    label->setStyleSheet("border: 2px solid red");
-    return column({page, label});
-}
-
-QWidget *windowWithOwnPalettes()
-{
-    QWidget *page = controls();
-    QPalette palette = page->palette();
-    palette.setColor(QPalette::Window, Qt::darkCyan);
-    palette.setColor(QPalette::WindowText, Qt::yellow);
-    page->setPalette(palette);
-    page->setAutoFillBackground(true);
-    auto *edit = new QLineEdit("edit");
-    palette.setColor(QPalette::Base, Qt::gray);
-    edit->setPalette(palette);
-    return column({page, edit});
-}
-
-QWidget *windowWithOwnFonts()
-{
-    QWidget *page = controls();
-    page->setFont(QFont("DejaVu Serif", 9, QFont::Normal, true));
-    auto *label = new QLabel("label");
-    label->setFont(QFont("DejaVu Sans", 22, QFont::Bold));
-    return column({page, label});
-}
-
-QWidget *windowWithOwnStyle()
-{
-    QWidget *page = controls();
-    auto *style = new MarkingStyle("windows");
-    style->setParent(page);
-    page->setStyle(style);
-    auto *button = new QPushButton("button", page);
-    button->setStyle(style);
-    return column({page, button});
-}
-
-QWidget *windowWithHiddenWidgets()
-{
-    QWidget *hidden = controls();
-    hidden->setObjectName("hidden");
-    QWidget *disabled = controls();
-    QWidget *window = column({hidden, disabled});
-    disabled->setEnabled(false);
-    hidden->hide();
-    return window;
-}
 
 // What an application set up before its windows; undone at the end.
 class ApplicationLook
@@ -260,7 +84,6 @@ class tst_Restyling : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
     void cleanup() { qApp->setStyleSheet(QString()); }
 
     void styleSheet_data();
@@ -272,43 +95,23 @@ private Q_SLOTS:
     void unpolishedToolBar();
     void styleChanges_data();
     void styleChanges();
-    void noFrameInBetween();
     void applicationStyle();
     void applicationStyleWithAStyleSheet();
-    void childrenCreatedMeanwhile();
-    void widgetsDeletedMeanwhile();
-    void switchedMeanwhile();
     void memory();
 
 private:
-    void apply(int variant) { HV::changeAppStyleSheet(&m_theme, "default", folder(variant)); }
-    QString folder(int variant) const { return m_folder.filePath(QString::number(variant)); }
-    QString expectedStyleSheet(int variant) const;
+    void apply(int variant) { m_application.apply(variant); }
 
-    TemporaryFolder m_folder;
-    HV::WorkableTheme m_theme;
+    RestyledApplication m_application;
 };
-
-void tst_Restyling::initTestCase()
-{
-    for (int variant = 0; variant < 3; ++variant)
-        m_folder.write(QString("%1/default.theme").arg(variant), completeTheme(variant));
-}
-
-QString tst_Restyling::expectedStyleSheet(int variant) const
-{
-    HV::WorkableTheme theme;
-    HV::changeTheme(&theme, "default", folder(variant));
-    return HV::findStyleSheet(&theme, QStringLiteral(":/stylesheet"), "global");
-}
 
 void tst_Restyling::styleSheet_data()
 {
     QTest::addColumn<QString>("before");
     QTest::newRow("none") << QString();
     QTest::newRow("other") << "QLabel { color: red }";
-    QTest::newRow("the-library's") << expectedStyleSheet(0);
-    QTest::newRow("equal") << expectedStyleSheet(1);
+    QTest::newRow("the-library's") << m_application.styleSheet(0);
+    QTest::newRow("equal") << m_application.styleSheet(1);
 }
 
 void tst_Restyling::styleSheet()
@@ -319,7 +122,7 @@ void tst_Restyling::styleSheet()
     qApp->setStyleSheet(before);
     apply(1);
     QVERIFY(!qApp->styleSheet().contains("global."));
-    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(1));
+    QCOMPARE(qApp->styleSheet(), m_application.styleSheet(1));
 }
 
 void tst_Restyling::pixels_data()
@@ -486,7 +289,7 @@ void tst_Restyling::styleChanges()
         qApp->removeEventFilter(&counter);
         return qMakePair(counter.sum(), counter.most());
     };
-    const QString styleSheet = expectedStyleSheet(1);
+    const QString styleSheet = m_application.styleSheet(1);
     const auto replaced = counted([&] { qApp->setStyleSheet(styleSheet); });
     const auto switched = counted([this] { apply(1); });
     QVERIFY2(switched.first <= replaced.first,
@@ -495,31 +298,11 @@ void tst_Restyling::styleChanges()
     QCOMPARE(switched.second, replaced.second > 0 ? 1 : 0);
 }
 
-void tst_Restyling::noFrameInBetween()
-{
-    apply(0);
-    auto *label = new ImpatientLabel("label");
-    const Window window(column({label, controls()}));
-    window->setAttribute(Qt::WA_DontShowOnScreen);
-    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
-    window->show();
-    const auto color = [label] { return label->palette().color(QPalette::WindowText).rgb(); };
-    const QRgb before = color();
-    label->seen.clear();
-    apply(1);
-    label->repaint();
-    const QRgb after = color();
-    QVERIFY(before != after);
-    QVERIFY(label->seen.contains(after));
-    for (QRgb seen : qAsConst(label->seen))
-        QVERIFY2(seen == before || seen == after, qPrintable(QColor(seen).name()));
-}
-
 void tst_Restyling::applicationStyle()
 {
     const ApplicationLook look(true);
     const QPointer<QStyle> style = QApplication::style();
-    auto *marking = qobject_cast<MarkingStyle *>(style.data());
+    auto *marking = dynamic_cast<MarkingStyle *>(style.data());
     QVERIFY(marking);
     apply(0);
     const Window window(controls());
@@ -543,72 +326,7 @@ void tst_Restyling::applicationStyleWithAStyleSheet()
     const Window window(controls());
     polish(window.get());
     apply(1);
-    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(1));
-}
-
-void tst_Restyling::childrenCreatedMeanwhile()
-{
-    const auto create = [](ReactingWidget *widget) {
-        QWidget *page = controls(widget);
-        page->show();
-        polish(page);
-    };
-    apply(1);
-    const Window fresh(column({new ReactingWidget}));
-    fresh->resize(400, 700);
-    polish(fresh.get());
-    create(fresh->findChild<ReactingWidget *>());
-    const QImage expected = grabbed(fresh.get());
-
-    apply(0);
-    const Window window(column({new ReactingWidget}));
-    window->resize(400, 700);
-    polish(window.get());
-    window->findChild<ReactingWidget *>()->react = create;
-    apply(1);
-    QCOMPARE(grabbed(window.get()), expected);
-}
-
-void tst_Restyling::widgetsDeletedMeanwhile()
-{
-    apply(0);
-    QVector<QPointer<QWidget>> victims;
-    auto *reacting = new ReactingWidget;
-    const Window window(column({controls(), reacting, controls()}));
-    for (int i = 0; i < 20; ++i)
-        victims << controls(reacting) << controls(window.get()) << new QLabel("window");
-    polish(window.get());
-    for (const QPointer<QWidget> &victim : qAsConst(victims))
-        polish(victim);
-    reacting->react = [&victims](ReactingWidget *) {
-        for (const QPointer<QWidget> &victim : qAsConst(victims))
-            delete victim;
-    };
-    apply(1);
-    for (const QPointer<QWidget> &victim : qAsConst(victims))
-        QVERIFY(!victim);
-
-    const Window fresh(column({controls(), new ReactingWidget, controls()}));
-    polish(fresh.get());
-    QCOMPARE(grabbed(window.get()), grabbed(fresh.get()));
-}
-
-void tst_Restyling::switchedMeanwhile()
-{
-    apply(2);
-    const Window fresh(column({controls(), new ReactingWidget, controls()}));
-    polish(fresh.get());
-    const QImage expected = grabbed(fresh.get());
-
-    apply(0);
-    auto *reacting = new ReactingWidget;
-    const Window window(column({controls(), reacting, controls()}));
-    polish(window.get());
-    reacting->react = [this](ReactingWidget *) { apply(2); };
-    apply(1);
-    QCOMPARE(qApp->styleSheet(), expectedStyleSheet(2));
-    QCOMPARE(grabbed(window.get()), expected);
-    QCOMPARE(grabbed(fresh.get()), expected);
+    QCOMPARE(qApp->styleSheet(), m_application.styleSheet(1));
 }
 
 // What the 100th switch holds, the 400th holds.
