@@ -79,7 +79,7 @@ QWidget *createApplicationPage()
     QWidget *dialog = createDialog();
     dialog->setParent(page);
     dialog->adjustSize();
-    dialog->move(400, 420);
+    dialog->move(400, 436);
     dialog->raise();
     return page;
 }

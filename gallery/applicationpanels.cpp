@@ -82,9 +82,9 @@ QWidget *createFader(const char *sliderStyle, int value)
     auto *layout = new QHBoxLayout(fader);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
-    auto *slider = new QSlider(Qt::Horizontal);
+    auto *slider = new QSlider(Qt::Horizontal, fader);
     slider->setProperty("sliderStyle", QLatin1String(sliderStyle));
-    auto *number = new QSpinBox;
+    auto *number = new QSpinBox(fader);
     number->setFixedWidth(64);
     slider->setRange(0, 100);
     number->setRange(0, 100);

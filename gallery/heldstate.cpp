@@ -73,7 +73,7 @@ void holdHover(QWidget *widget)
     // A button believes in the mouse only once it has moved within the part that can be clicked.
     widget->setMouseTracking(true);
     widget->adjustSize();
-    const QPointF position(6, widget->height() / 2);
+    const QPointF position(6, widget->height() / 2.0);
     QMouseEvent move(QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &move);
 }
