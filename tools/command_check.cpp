@@ -105,18 +105,6 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
     return {};
 }
 
-QVector<Finding> findingsOf(const CheckInput &input, const QStringList &disabledRules)
-{
-    Report report;
-    for (const Rule &rule : allRules()) {
-        if (disabledRules.contains(QLatin1String(rule.name)))
-            continue;
-        report.begin(rule);
-        rule.check(input, report);
-    }
-    return report.findings();
-}
-
 QByteArray formatted(const QVector<Finding> &findings, const QString &format)
 {
     if (format == QLatin1String("json"))
@@ -163,7 +151,7 @@ int runCheck(const QStringList &arguments)
         printError(error);
         return ExitUnusable;
     }
-    const QVector<Finding> findings = findingsOf(*input, options.disabledRules);
+    const QVector<Finding> findings = runRules(*input, options.disabledRules);
     QFile output;
     output.open(stdout, QIODevice::WriteOnly);
     output.write(formatted(findings, options.format));

@@ -53,6 +53,18 @@ const QVector<Rule> &allRules()
 }
 // clang-format on
 
+QVector<Finding> runRules(const CheckInput &input, const QStringList &disabled)
+{
+    Report report;
+    for (const Rule &rule : allRules()) {
+        if (disabled.contains(QLatin1String(rule.name)))
+            continue;
+        report.begin(rule);
+        rule.check(input, report);
+    }
+    return report.findings();
+}
+
 void Report::add(const QString &file, TextPosition position, const QString &message)
 {
     add(file, position, message, m_rule->severity);

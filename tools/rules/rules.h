@@ -62,6 +62,9 @@ struct Rule {
 /*! \brief Returns all rules, in the order of the documentation. */
 const QVector<Rule> &allRules();
 
+/*! \brief Returns what all rules but the \a disabled ones, given by name, find. */
+QVector<Finding> runRules(const CheckInput &input, const QStringList &disabled = {});
+
 /*! \brief Returns every colour text that the library looks at when it loads \a stack. */
 QVector<ColorText> colorTexts(const ThemeStack &stack);
 
