@@ -16,7 +16,7 @@ QString bucketName(const QString &part, const QString &type, const QStringList &
     return part % QLatin1Char('\n') % type % QLatin1Char('\n') % conditions.join(QLatin1Char('\n'));
 }
 
-QStringList conditionsOf(const StyleSelector &selector)
+QStringList conditionsIn(const StyleSelector &selector)
 {
     QStringList conditions = selector.subject().attributes;
     for (const QString &state : selector.states)
@@ -84,7 +84,7 @@ void StyleCascade::add(const StyleRule &rule)
             if (selector.steps.isEmpty())
                 continue;
             m_byText.insert(name, m_entries.size());
-            m_buckets[bucketName(selector.part, selector.subject().type, conditionsOf(selector))]
+            m_buckets[bucketName(selector.part, selector.subject().type, conditionsIn(selector))]
                 .append(m_entries.size());
             m_entries.append({selector, 0, {}});
         }
@@ -100,7 +100,7 @@ void StyleCascade::add(const StyleRule &rule)
 
 StyleValue StyleCascade::value(const StyleSelector &where, const QString &property) const
 {
-    const QStringList conditions = conditionsOf(where);
+    const QStringList conditions = conditionsIn(where);
     const QStringList types = typeAndBases(where.subject().type);
     const Entry *best = nullptr;
     const auto beats = [](const Entry &entry, const Entry &other) {
