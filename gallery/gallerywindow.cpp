@@ -16,6 +16,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -58,14 +59,25 @@ QWidget *createHeader(QComboBox *themes)
     return header;
 }
 
-QListView *createMessageList(MessageLog *log)
+QWidget *createMessagePane(MessageLog *log)
 {
     auto *messages = new QListView;
     messages->setObjectName(QStringLiteral("messages"));
     messages->setModel(log);
     messages->setWordWrap(true);
     messages->setSelectionMode(QAbstractItemView::NoSelection);
-    return messages;
+    auto *title = new QLabel(QStringLiteral("Messages since the last reload"));
+    title->setProperty("fontSize", QStringLiteral("S"));
+    title->setProperty("style", QStringLiteral("grayHint"));
+    title->setContentsMargins(10, 6, 10, 2);
+    auto *pane = new QWidget;
+    pane->setProperty("style", QStringLiteral("BG1"));
+    auto *layout = new QVBoxLayout(pane);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(title);
+    layout->addWidget(messages);
+    return pane;
 }
 
 } // namespace
@@ -94,6 +106,7 @@ void GalleryWindow::buildParts()
     setWindowTitle(QStringLiteral("Theme gallery"));
     m_themes->setObjectName(QStringLiteral("themes"));
     m_themes->setMinimumWidth(140);
+    m_themes->setItemDelegate(new QStyledItemDelegate(m_themes)); // or no row would look selected
     m_area->setObjectName(QStringLiteral("page"));
     m_area->setWidgetResizable(true);
 
@@ -106,7 +119,7 @@ void GalleryWindow::buildParts()
 
     auto *splitter = new QSplitter(Qt::Vertical);
     splitter->addWidget(pagesAndPage);
-    splitter->addWidget(createMessageList(&m_log));
+    splitter->addWidget(createMessagePane(&m_log));
     splitter->setStretchFactor(0, 1);
     splitter->setSizes({700, 100});
 

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
+    void watcherAlone();
     void themeFile_data();
     void themeFile();
     void themeFolderGoneAndBack();
@@ -131,6 +132,27 @@ QByteArray tst_LiveReload::themeWith(const QString &buttonColor) const
     const QByteArray bytes = read(scratch).replace("ThemeName=scratch", "ThemeName=default");
     QFile::remove(scratch);
     return bytes;
+}
+
+void tst_LiveReload::watcherAlone()
+{
+    const QString path = m_extra->filePath(QStringLiteral("watched"));
+    ThemeWatcher watcher;
+    QSignalSpy changed(&watcher, &ThemeWatcher::changed);
+    watcher.setPaths({path}, {});
+    write(path, "1"); // it was not there before
+    QVERIFY(changed.wait());
+    replaceByRename(path, "2");
+    QVERIFY(changed.wait());
+    write(path, "3");
+    write(path, "4");
+    QVERIFY(changed.wait());
+    QVERIFY(QFile::remove(path));
+    QVERIFY(changed.wait());
+    QVERIFY(m_extra->remove());
+    QVERIFY(QDir().mkpath(m_extra->path()));
+    write(path, "5");
+    QVERIFY(changed.wait());
 }
 
 void tst_LiveReload::themeFile_data()
