@@ -161,6 +161,9 @@ void tst_Switching::changeByDisplayName_data()
     QTest::newRow("later-file-names-an-empty-name") << emptyName << "dark"
                                                     << "unnamed" << BaseValues << None;
 
+    QTest::newRow("missing-file-names-nothing") << emptyName << "light"
+                                                << "" << BaseValues << None;
+
     const Files orphan = {{"dark.ini", "ThemeName=Dark\n[Integers]\nDark=2\n"}};
     QTest::newRow("no-files") << Files() << "dark"
                               << "unnamed" << QVariantMap() << None;
@@ -340,9 +343,9 @@ void tst_Switching::linksAndFolders_data()
     QTest::newRow("link") << "linked"
                           << "Dark";
     QTest::newRow("dangling-link") << "dangling"
-                                   << "Default";
+                                   << "";
     QTest::newRow("folder") << "folder"
-                            << "Default";
+                            << "unnamed";
 }
 
 void tst_Switching::linksAndFolders()
@@ -351,7 +354,8 @@ void tst_Switching::linksAndFolders()
     QFETCH(QString, displayName);
 
     const TemporaryFolder folder;
-    folder.write("default.ini", "ThemeName=Default\n[Integers]\nGap=1\n");
+    // With an empty name so far, a file without a name shows that it was read.
+    folder.write("default.ini", "ThemeName=\n[Integers]\nGap=1\n");
     const QString dark = folder.write("dark.ini", "ThemeName=Dark\n");
     QVERIFY(QFile::link(dark, folder.filePath("linked.ini")));
     QVERIFY(QFile::link(folder.filePath("gone"), folder.filePath("dangling.ini")));

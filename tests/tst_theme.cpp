@@ -138,12 +138,12 @@ void tst_Theme::construction()
 void tst_Theme::parentDeletesTheTheme()
 {
     auto parent = std::make_unique<QObject>();
-    const QPointer<HV::Theme> theme = std::make_unique<HV::Theme>("theme", parent.get()).release();
-    const QPointer<QObject> child = std::make_unique<QObject>(theme).release();
+    const QPointer<HV::Theme> theme = new HV::Theme("theme", parent.get());
+    const QPointer<QObject> child = new QObject(theme);
     parent.reset();
     QVERIFY(theme.isNull());
     QVERIFY(child.isNull());
-}
+} // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the parent has deleted them
 
 void tst_Theme::setDisplayName()
 {
