@@ -70,7 +70,7 @@ void tst_CommandInput::badFolder_data()
     QTest::addColumn<QString>("what");
     QTest::addColumn<QString>("reason");
 
-    const QStringList whats{"missing",   "file",   "empty", "pipe",     "device",
+    const QStringList sorts{"missing",   "file",   "empty", "pipe",     "device",
                             "directory", "binary", "large", "own-pipe", "endless-gradient"};
     const QStringList reasons{"no such folder",
                               "not a folder",
@@ -83,10 +83,10 @@ void tst_CommandInput::badFolder_data()
                               "not a regular file",
                               "claims"};
     for (const QString &command : allCommands) {
-        for (int i = 0; i < whats.size(); ++i)
+        for (int i = 0; i < sorts.size(); ++i)
             QTest::addRow("%s-%s", qPrintable(command.section(' ', 0, 0) + command.right(5)),
-                          qPrintable(whats.at(i)))
-                << command << whats.at(i) << reasons.at(i);
+                          qPrintable(sorts.at(i)))
+                << command << sorts.at(i) << reasons.at(i);
     }
 }
 
