@@ -35,22 +35,28 @@ private:
     // From the end of the rule before, so that stray text in between belongs to the rule behind it.
     int startOf(int rule) const { return rule == 0 ? 0 : m_rules.at(rule - 1).end; }
 
+    QString part(int first, int last) const
+    {
+        const int end = last >= m_rules.size() ? m_text.size() : m_rules.at(last - 1).end;
+        return m_text.mid(startOf(first), end - startOf(first));
+    }
+
+    void reject(int rule) { m_rejected.append(startOf(rule) + placeOf(part(rule, rule + 1))); }
+
     void search(int first, int last)
     {
-        const int end = last == m_rules.size() ? m_text.size() : m_rules.at(last - 1).end;
-        const QString part = m_text.mid(startOf(first), end - startOf(first));
-        if (m_rejected.size() >= rejectedLimit || m_parser->accepts(part))
+        if (m_rejected.size() >= rejectedLimit || m_parser->accepts(part(first, last)))
             return;
         if (last - first <= 1) {
-            m_rejected.append(placeOf(part) + startOf(first));
+            reject(first);
             return;
         }
         const int middle = first + (last - first) / 2;
         const int found = m_rejected.size();
         search(first, middle);
         search(middle, last);
-        if (found == m_rejected.size()) // only together are they wrong
-            m_rejected.append(placeOf(part) + startOf(first));
+        if (found == m_rejected.size())
+            reject(first); // whatever makes the difference, a rejected text is never reported clean
     }
 
     static int placeOf(const QString &part)
