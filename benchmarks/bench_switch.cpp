@@ -7,6 +7,7 @@
 
 #include <QSettings>
 
+#include <malloc.h>
 #include <memory>
 
 namespace
@@ -78,7 +79,7 @@ void settingsOfRest(benchmark::State &state)
     }
 }
 
-// What the process holds after the 100th and after the last switch, in kB.
+// What the process has allocated after the 100th and after the last switch, in kB.
 void manySwitches(benchmark::State &state)
 {
     QPushButton button("push");
@@ -89,9 +90,9 @@ void manySwitches(benchmark::State &state)
             fixture().apply(i % 2);
             QCoreApplication::sendPostedEvents();
             if (i == 100)
-                state.counters["kB_at_100"] = statusKilobytes("VmRSS");
+                state.counters["kB_at_100"] = double(mallinfo2().uordblks) / 1024;
         }
-        state.counters["kB_at_end"] = statusKilobytes("VmRSS");
+        state.counters["kB_at_end"] = double(mallinfo2().uordblks) / 1024;
     }
     qApp->setStyleSheet(QString());
 }

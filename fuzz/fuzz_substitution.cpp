@@ -55,6 +55,7 @@ void require(bool condition, const char *what)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name that fuzzing engines call
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     static const QtMessageHandler previous = qInstallMessageHandler(countMissingImages);

@@ -87,6 +87,7 @@ void checkValues(HV::Theme &theme)
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name that fuzzing engines call
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size)
 {
     static int argc = 1;

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 
+// NOLINTNEXTLINE(readability-identifier-naming): the name that fuzzing engines call
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t size);
 
 /*! Runs every file of the folders that are its arguments once. */

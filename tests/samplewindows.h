@@ -76,9 +76,9 @@ public:
 inline QWidget *column(const QList<QWidget *> &widgets)
 {
     auto *window = new QWidget;
-    auto *layout = new QVBoxLayout(window);
+    window->setLayout(new QVBoxLayout);
     for (QWidget *widget : widgets)
-        layout->addWidget(widget);
+        window->layout()->addWidget(widget);
     return window;
 }
 
