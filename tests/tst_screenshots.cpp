@@ -24,7 +24,8 @@ Outcome runGallery(const QStringList &arguments)
     const QTemporaryDir runtime; // Qt wants one that is ours alone
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("PATH"), qEnvironmentVariable("PATH"));
+    for (const char *name : {"PATH", "LSAN_OPTIONS"})
+        environment.insert(QString::fromLatin1(name), qEnvironmentVariable(name));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
     QProcess gallery;
     gallery.setProcessEnvironment(environment);
