@@ -20,6 +20,7 @@ private Q_SLOTS:
     void exitCodes_data();
     void exitCodes();
     void documentedExamples();
+    void laterKindHides();
     void jsonIsWhole();
     void terminalGetsNoControlCharacters();
     void fullDevice();
@@ -163,6 +164,21 @@ void tst_Commands::documentedExamples()
                  qPrintable(line + '\n' + firstDifference(expected.toUtf8(), output.toUtf8())));
     }
     QCOMPARE(count, 5);
+}
+
+// Style sheets see the last of colour, flag, integer and image file.
+void tst_Commands::laterKindHides()
+{
+    const TemporaryTheme theme("[Colors]\na=#FFF\nb=#FFF\n[Flags]\na=1\nc=1\n[Integers]\nb=1\nc=1\n"
+                               "d=1\n[ImageFiles]\nd=:/x\n");
+    const QString text = CommandRun({"values", theme.path(), "default", "--format", "csv"}).output;
+    QStringList seen;
+    for (const QString &line : text.split("\r\n", Qt::SkipEmptyParts).mid(1))
+        seen << line.section('"', 1, 1) + ' ' + line.section('"', 3, 3) + ' '
+                + line.section('"', -2, -2);
+    QCOMPARE(seen,
+             QStringList({"Color a no", "Color b no", "ImageFile d yes", "Flag a yes", "Flag c no",
+                          "Integer b yes", "Integer c yes", "Integer d no"}));
 }
 
 void tst_Commands::jsonIsWhole()

@@ -25,9 +25,15 @@ QByteArray contentOf(const QString &path)
 
 QString dataUri(const QString &path)
 {
-    const QByteArray content = contentOf(path);
+    QByteArray content = contentOf(path);
     const QString type = QMimeDatabase().mimeTypeForFileNameAndData(path, content).name();
-    if (content.isEmpty() || !type.startsWith(QLatin1String("image/")))
+    if (!type.startsWith(QLatin1String("image/")))
+        return {};
+    // Browsers draw vector images without a plugin of Qt's, which may not be installed.
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    const bool isVector = type == QLatin1String("image/svg+xml") && content.contains("<svg");
+    if (!isVector && !QImageReader(&buffer).canRead())
         return {};
     return QLatin1String("data:") % type % QLatin1String(";base64,")
         % QString::fromLatin1(content.toBase64());
