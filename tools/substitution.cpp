@@ -61,7 +61,7 @@ public:
         while (token.start >= 0) {
             int resumeAt = token.end;
             if (mayHoldToken(text, token)) {
-                const QString key = follow(text, token, &resumeAt);
+                QString key = follow(text, token, &resumeAt);
                 if (!key.isNull())
                     return key;
             }

@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = 64 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(64) * 1024 * 1024;
 
 // The same files in the same order as HV::readStyleSheet() finds them in a folder.
 QStringList filesIn(const QString &folder)

@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = 16 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(16) * 1024 * 1024;
 
 const char byteOrderMark[] = "\xEF\xBB\xBF";
 

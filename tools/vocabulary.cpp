@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(1024) * 1024;
 
 std::optional<QStringList> textsOf(const QJsonValue &value)
 {
@@ -42,7 +42,7 @@ Vocabulary Vocabulary::builtIn()
         const QByteArray name = enumerationName(kind).toLatin1();
         const QMetaEnum keys = meta.enumerator(meta.indexOfEnumerator(name.constData()));
         for (int i = 0; i < keys.keyCount(); ++i)
-            vocabulary.m_keys[int(kind)] << QString::fromLatin1(keys.key(i));
+            vocabulary.m_keys[size_t(kind)] << QString::fromLatin1(keys.key(i));
     }
     return vocabulary;
 }
@@ -76,7 +76,7 @@ std::optional<Vocabulary> Vocabulary::read(const QString &path, QString *error)
                         : QLatin1String("\" is not a list of texts"));
             return std::nullopt;
         }
-        vocabulary.m_keys[int(*kind)] = *keys;
+        vocabulary.m_keys[size_t(*kind)] = *keys;
     }
     return vocabulary;
 }

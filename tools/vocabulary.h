@@ -8,6 +8,7 @@
 
 #include <QStringList>
 
+#include <array>
 #include <optional>
 
 /*! \brief The keys that the default file must define, kind by kind. */
@@ -27,10 +28,10 @@ public:
      */
     static std::optional<Vocabulary> read(const QString &path, QString *error);
 
-    QStringList keys(Kind kind) const { return m_keys[int(kind)]; }
+    QStringList keys(Kind kind) const { return m_keys[size_t(kind)]; }
 
 private:
-    QStringList m_keys[kindCount];
+    std::array<QStringList, kindCount> m_keys;
 };
 
 #endif

@@ -60,7 +60,7 @@ QVector<ThemeImage> themeImages(const CheckInput &input)
 
 bool isDefined(const CheckInput &input, const QString &key)
 {
-    const std::vector<const ThemeStack *> themes = input.allThemes();
+    const std::vector<const ThemeStack *> &themes = input.allThemes();
     return std::any_of(themes.cbegin(), themes.cend(), [&key](const ThemeStack *theme) {
         return kindInStyleSheets(*theme, key).has_value();
     });

@@ -9,7 +9,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = 32 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(32) * 1024 * 1024;
 
 QString objection(const QString &path)
 {
