@@ -10,7 +10,7 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     HV::WorkableTheme theme;
-    HV::changeAppStyleSheet(&theme, "dark", "themes"); // reads themes/default.theme, themes/dark.theme
+    HV::changeAppStyleSheet(&theme, "dark", "themes"); // default.theme, then dark.theme
 
     QPushButton apply("Apply");
     apply.setProperty("style", "general"); // a variant of the built-in templates

@@ -136,9 +136,10 @@ public:
     /*!
      * \name Section readers
      *
-     * Each reads one section of \a settings, which must have no group open, and leaves it so. Logged
-     * as critical, with the section's own noun in the place of `<Kind>` ("Interger" for integers):
-     * `The <Kind> Key [ "<key>" ] is exists.` for a key that is already stored, and, if \a required,
+     * Each reads one section below the current group of \a settings, and leaves the group as it is.
+     * Logged as critical, with the section's own noun in the place of `<Kind>` ("Interger" for
+     * integers): `The <Kind> Key [ "<key>" ] is exists.` for a key that is already stored, and, if
+     * \a required,
      * `Theme <Kind> Key [ "<key>" ] is must bu set,but is not set.` for each key of the section's
      * enumeration in \a vocabulary that is not stored afterwards.
      */

@@ -191,7 +191,7 @@ private:
     void widen(int wanted)
     {
         const int size = m_text.size();
-        const int growth = std::max(wanted, size / 4);
+        const int growth = std::max(wanted, size / 16); // few moves, little memory
         m_text.resize(size + growth);
         std::copy_backward(m_text.cbegin() + m_searchStart, m_text.cbegin() + size, m_text.end());
         m_searchStart += growth;

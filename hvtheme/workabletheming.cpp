@@ -16,7 +16,9 @@
 // Q_INIT_RESOURCE declares a function, so it may not stand inside a namespace.
 static void initTemplates()
 {
+#ifdef HVTHEME_STATIC_DEFINE
     Q_INIT_RESOURCE(hvtheme);
+#endif
 }
 
 namespace HV

@@ -124,9 +124,9 @@ void tst_Sheet::pageNeedsNothingElse()
 void tst_Sheet::pageNamesAllValues()
 {
     const QString page = sheet(".html", twoThemes);
-    for (const char *text :
-         {"Brand_10", "Veil", "Moon", "TitleBackground", "#3a3f47", "#80000000", "Rounded", "Kept",
-          "13 px", "Glow", "0 #80b0ff, 1 #001e6fff", "add in night", "Night, starless", "not set", "missing"})
+    for (const char *text : {"Brand_10", "Veil", "Moon", "TitleBackground", "#3a3f47", "#80000000",
+                             "Rounded", "Kept", "13 px", "Glow", "0 #80b0ff, 1 #001e6fff",
+                             "add in night", "Night, starless", "not set", "missing"})
         QVERIFY2(page.contains(text), text);
     QVERIFY(page.indexOf("Brand_2<") < page.indexOf("Brand_10<")); // as in the file
     QVERIFY(page.contains("linear-gradient(to right, #80b0ff 0%, #1e6fff00 100%)")); // opacity last

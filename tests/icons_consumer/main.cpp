@@ -11,7 +11,8 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     HV::WorkableTheme theme;
-    HV::changeTheme(&theme, "forest", QCoreApplication::applicationDirPath() + "/../share/consumer");
+    HV::changeTheme(&theme, "forest",
+                    QCoreApplication::applicationDirPath() + "/../share/consumer");
     for (const char *key : {"add", "leaf"}) {
         QFile file(theme.imageFile(key));
         if (!file.open(QIODevice::ReadOnly))
