@@ -39,7 +39,7 @@ inline QByteArray completeTheme(int variant)
         text += QString("%1=#808080\n").arg(palettes.key(i));
 
     text += "[Colors]\n";
-    int number = 7 * variant;
+    uint number = 7 * uint(variant);
     for (const QString &key : templateKeys("color"))
         text += QString("%1=#%2\n").arg(key).arg((++number * 987654321U) >> 8, 6, 16, QChar('0'));
 
