@@ -47,7 +47,7 @@ QColor over(const QColor &front, const QColor &back)
     const double hidden = below.alphaF() * (1.0 - shown);
     const double alpha = shown + hidden;
     if (alpha <= 0.0)
-        return QColor(0, 0, 0, 0);
+        return {0, 0, 0, 0};
 
     const auto mix = [=](double upper, double lower) {
         return qBound(0.0, (upper * shown + lower * hidden) / alpha, 1.0);
