@@ -17,7 +17,6 @@ bool isUnsafe(QChar character)
     case QChar::Other_Control:
     case QChar::Separator_Line:
     case QChar::Separator_Paragraph:
-        return true;
     case QChar::Other_Format: // among them the bidirectional overrides, which can reorder a report
         return true;
     default:
