@@ -9,6 +9,16 @@
 namespace Gallery
 {
 
+QStringList pageNames(const Options &options)
+{
+    QStringList names;
+    for (const Page &page : pages())
+        names.append(page.name);
+    if (!options.formFile.isEmpty())
+        names.append(QString::fromLatin1(formPageName));
+    return names;
+}
+
 namespace
 {
 
@@ -51,16 +61,6 @@ void describe(QCommandLineParser &parser)
 QStringList splitValues(const QStringList &values)
 {
     return values.join(QLatin1Char(',')).split(QLatin1Char(','), Qt::SkipEmptyParts);
-}
-
-QStringList pageNames(const Options &options)
-{
-    QStringList names;
-    for (const Page &page : pages())
-        names.append(page.name);
-    if (!options.formFile.isEmpty())
-        names.append(QString::fromLatin1(formPageName));
-    return names;
 }
 
 QString errorIn(const Options &options)

@@ -33,6 +33,9 @@ struct Options {
  */
 Options readOptions(const QStringList &arguments, const QString &defaultThemesFolder);
 
+/*! \brief Returns the names of all pages, that of the user's form last. */
+QStringList pageNames(const Options &options);
+
 /*! \brief Returns the text of `--help`. Needs the application object. */
 QString helpText();
 

@@ -64,14 +64,7 @@ QImage joined(const QVector<QImage> &pictures)
 
 QStringList pagesOf(const Options &options)
 {
-    if (!options.pages.isEmpty())
-        return options.pages;
-    QStringList names;
-    for (const Page &page : pages())
-        names.append(page.name);
-    if (!options.formFile.isEmpty())
-        names.append(QString::fromLatin1(formPageName));
-    return names;
+    return options.pages.isEmpty() ? pageNames(options) : options.pages;
 }
 
 QStringList themesOf(const Options &options)
