@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "../tests/temporaryfolder.h"
+#include "../tests/support/temporaryfolder.h"
 #include "measuring.h"
 
-#include <tools/rules/rules.h>
+#include <analysis/rules/rules.h>
 
 #include <QApplication>
 
@@ -43,10 +43,10 @@ QByteArray templateText(int size, int keys)
     return text;
 }
 
-CheckOptions grown(const TemporaryFolder &folder, int megabytes)
+ThemeProjectOptions grown(const TemporaryFolder &folder, int megabytes)
 {
     const int keys = keysPerMegabyte * megabytes;
-    CheckOptions options;
+    ThemeProjectOptions options;
     options.folder = folder.path();
     options.applicationFolder = folder.path();
     folder.write("default.theme", themeText(keys));
@@ -56,17 +56,17 @@ CheckOptions grown(const TemporaryFolder &folder, int megabytes)
     return options;
 }
 
-QVector<Finding> check(const CheckOptions &options)
+QVector<Finding> check(const ThemeProjectOptions &options)
 {
     QString error;
-    const std::unique_ptr<CheckInput> input = CheckInput::read(options, &error);
+    const std::unique_ptr<ThemeProject> input = ThemeProject::read(options, &error);
     require(input != nullptr, qPrintable(error));
     return runRules(*input);
 }
 
 void sampleFolder(benchmark::State &state)
 {
-    CheckOptions options;
+    ThemeProjectOptions options;
     options.folder = QStringLiteral(HVTHEME_SOURCE_DIR "/themes");
     options.applicationFolder = QCoreApplication::applicationDirPath();
     require(!check(options).isEmpty(), "the sample folder");
@@ -78,7 +78,7 @@ void sampleFolder(benchmark::State &state)
 void growing(benchmark::State &state)
 {
     const TemporaryFolder folder;
-    const CheckOptions options = grown(folder, int(state.range(0)));
+    const ThemeProjectOptions options = grown(folder, int(state.range(0)));
     for (const Finding &finding : check(options))
         require(finding.severity != Severity::Error, qPrintable(finding.message));
     for (auto _ : state)

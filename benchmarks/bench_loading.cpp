@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "../tests/completetheme.h"
-#include "../tests/temporaryfolder.h"
+#include "../tests/support/completetheme.h"
+#include "../tests/support/temporaryfolder.h"
 #include "measuring.h"
 
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "../tests/completetheme.h"
-#include "../tests/plainsubstitution.h"
-#include "../tests/temporaryfolder.h"
+#include "../tests/support/completetheme.h"
+#include "../tests/support/plainsubstitution.h"
+#include "../tests/support/temporaryfolder.h"
 #include "measuring.h"
 
 #include <QCoreApplication>

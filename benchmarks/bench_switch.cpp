@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "../tests/restyledapplication.h"
-#include "../tests/samplewindows.h"
+#include "../tests/support/restyledapplication.h"
+#include "../tests/support/samplewindows.h"
 #include "measuring.h"
 
 #include <QSettings>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "../tests/plainsubstitution.h"
+#include "../tests/support/plainsubstitution.h"
 
 #include <hvtheme/theming.h>
 

@@ -4,7 +4,7 @@
 
 #include "copylabel.h"
 
-#include <contrast/contrast.h>
+#include <colormath/contrast.h>
 #include <hvtheme/workabletheming.h>
 
 #include <QGridLayout>

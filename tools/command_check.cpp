@@ -3,11 +3,11 @@
 
 #include <tools/command_check.h>
 
-#include <tools/checkinput.h>
+#include <analysis/rules/rules.h>
+#include <analysis/themeproject.h>
 #include <tools/commandline.h>
 #include <tools/findingwriters.h>
 #include <tools/outputtext.h>
-#include <tools/rules/rules.h>
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +20,7 @@ namespace
 {
 
 struct Options {
-    CheckOptions check;
+    ThemeProjectOptions check;
     QString format;
     Severity failOn = Severity::Warning;
     QStringList disabledRules;
@@ -68,7 +68,7 @@ bool isRule(const QString &name)
 // Returns what is wrong with the values of the options, or a null text.
 QString readOptions(const QCommandLineParser &parser, const KnownOptions &known, Options *options)
 {
-    CheckOptions &check = options->check;
+    ThemeProjectOptions &check = options->check;
     check.folder = parser.positionalArguments().value(0);
     check.themes = parser.positionalArguments().mid(1);
     check.suffix = parser.value(known.suffix);
@@ -146,7 +146,7 @@ int runCheck(const QStringList &arguments)
         return usageError(commandName, mistake);
 
     QString error;
-    const std::unique_ptr<CheckInput> input = CheckInput::read(options.check, &error);
+    const std::unique_ptr<ThemeProject> input = ThemeProject::read(options.check, &error);
     if (!input) {
         printError(error);
         return ExitUnusable;

@@ -3,10 +3,10 @@
 
 #include <tools/command_diff.h>
 
-#include <contrast/distance.h>
+#include <analysis/theme/storedvalues.h>
+#include <colormath/distance.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
-#include <tools/storedvalues.h>
 #include <tools/texttable.h>
 #include <tools/themeoptions.h>
 
@@ -23,7 +23,7 @@ struct Pair {
 // By kind and key; the kinds keep their order.
 using Pairs = QMap<QPair<int, QString>, Pair>;
 
-Pairs pairsOf(const CheckInput &input, const ThemeStack &first, const ThemeStack &second)
+Pairs pairsOf(const ThemeProject &input, const ThemeStack &first, const ThemeStack &second)
 {
     Pairs pairs;
     const auto firstValues = storedValues(first, input.options().applicationFolder);

@@ -3,8 +3,8 @@
 
 #include <tools/command_explain.h>
 
+#include <analysis/explanation.h>
 #include <tools/commandline.h>
-#include <tools/explanation.h>
 #include <tools/outputfile.h>
 #include <tools/themeoptions.h>
 

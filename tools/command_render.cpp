@@ -14,7 +14,7 @@ namespace
 {
 
 // An application logs it for every token; once for every image will do.
-void reportMissingImages(const CheckInput &input, const QVariantMap &values)
+void reportMissingImages(const ThemeProject &input, const QVariantMap &values)
 {
     QStringList keys;
     for (const TemplateToken &token : input.templates().tokens()) {
@@ -30,7 +30,7 @@ void reportMissingImages(const CheckInput &input, const QVariantMap &values)
     }
 }
 
-int render(const CheckInput &input, const ThemeStack &theme, const QString &output)
+int render(const ThemeProject &input, const ThemeStack &theme, const QString &output)
 {
     const FinishedStyleSheet &finished = input.finished(theme);
     if (!finished.endlessKey.isNull()) {

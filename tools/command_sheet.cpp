@@ -3,12 +3,12 @@
 
 #include <tools/command_sheet.h>
 
+#include <sheet/sheetmodel.h>
+#include <sheet/sheetpage.h>
+#include <sheet/sheetpicture.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
-#include <tools/sheetmodel.h>
-#include <tools/sheetpage.h>
-#include <tools/sheetpicture.h>
 #include <tools/themeoptions.h>
 
 #include <limits>

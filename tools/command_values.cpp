@@ -3,10 +3,10 @@
 
 #include <tools/command_values.h>
 
+#include <analysis/theme/storedvalues.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
-#include <tools/storedvalues.h>
 #include <tools/texttable.h>
 #include <tools/themeoptions.h>
 

@@ -4,7 +4,7 @@
 #ifndef TOOLS_FINDINGWRITERS_H
 #define TOOLS_FINDINGWRITERS_H
 
-#include <tools/finding.h>
+#include <analysis/rules/finding.h>
 
 #include <QByteArray>
 #include <QVector>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <analysis/rules/rules.h>
 #include <tools/findingwriters.h>
-#include <tools/rules/rules.h>
 
 #include <QJsonArray>
 #include <QJsonDocument>

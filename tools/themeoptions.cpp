@@ -76,12 +76,12 @@ void ThemeOptions::addTemplates(QCommandLineParser *parser)
     parser->addOption({prefixOption(), "Prefix of tokens (default: global).", "prefix", "global"});
 }
 
-std::unique_ptr<CheckInput> ThemeOptions::read(const QString &name,
-                                               const QCommandLineParser &parser,
-                                               QPair<int, int> themes, int others)
+std::unique_ptr<ThemeProject> ThemeOptions::read(const QString &name,
+                                                 const QCommandLineParser &parser,
+                                                 QPair<int, int> themes, int others)
 {
     const QStringList arguments = parser.positionalArguments();
-    CheckOptions options;
+    ThemeProjectOptions options;
     options.folder = arguments.value(0);
     options.themes = arguments.mid(1, themes.second);
     options.suffix = parser.value(suffixOption());
@@ -107,13 +107,13 @@ std::unique_ptr<CheckInput> ThemeOptions::read(const QString &name,
         return nullptr;
     }
 
-    std::unique_ptr<CheckInput> input = CheckInput::read(options, &error);
+    std::unique_ptr<ThemeProject> input = ThemeProject::read(options, &error);
     if (!input)
         printError(error);
     return input;
 }
 
-const ThemeStack &ThemeOptions::theme(const CheckInput &input, const QString &name)
+const ThemeStack &ThemeOptions::theme(const ThemeProject &input, const QString &name)
 {
     const auto found = std::find_if(input.themes().cbegin(), input.themes().cend(),
                                     [&](const ThemeStack *stack) { return stack->name() == name; });

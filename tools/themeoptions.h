@@ -4,7 +4,7 @@
 #ifndef TOOLS_THEMEOPTIONS_H
 #define TOOLS_THEMEOPTIONS_H
 
-#include <tools/checkinput.h>
+#include <analysis/themeproject.h>
 
 #include <QPair>
 
@@ -29,11 +29,11 @@ void addTemplates(QCommandLineParser *parser);
  * \param others  how many arguments follow that are something else.
  * \return nothing if the arguments or the files do not do; standard error then says why.
  */
-std::unique_ptr<CheckInput> read(const QString &name, const QCommandLineParser &parser,
-                                 QPair<int, int> themes, int others = 0);
+std::unique_ptr<ThemeProject> read(const QString &name, const QCommandLineParser &parser,
+                                   QPair<int, int> themes, int others = 0);
 
 /*! \brief Returns the theme called \a name, which must be one of those that were read. */
-const ThemeStack &theme(const CheckInput &input, const QString &name);
+const ThemeStack &theme(const ThemeProject &input, const QString &name);
 
 } // namespace ThemeOptions
 

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/explanation.h>
+
+#include <analysis/suggestion.h>
+#include <tools/outputtext.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+
+QString place(const QString &file, TextPosition position)
+{
+    return QStringLiteral("%1:%2:%3: ").arg(file).arg(position.line).arg(position.column);
+}
+
+QString shortPlace(const Definition &definition)
+{
+    return QFileInfo(definition.layer->file.path()).fileName() % QLatin1String(", line ")
+        % QString::number(definition.entry()->keyPosition.line);
+}
+
+QString shownEntry(const ThemeFile &file, const ThemeFileEntry &entry, const QString &value)
+{
+    return place(file.path(), entry.keyPosition) % QLatin1Char('[') % entry.section()
+        % QLatin1String("] ") % entry.name() % QLatin1Char('=') % value;
+}
+
+QString shownDefinition(const Definition &definition)
+{
+    const QString value =
+        definition.value->isList() ? QStringLiteral("(a list)") : definition.value->text();
+    return shownEntry(definition.layer->file, *definition.entry(), value);
+}
+
+QString articleFor(const QString &noun)
+{
+    return QLatin1String(QStringLiteral("aeiou").contains(noun.at(0)) ? "an " : "a ") % noun;
+}
+
+} // namespace
+
+Explanation::Explanation(const ThemeProject &input, const ThemeStack &theme, const QString &key)
+    : m_input(input)
+    , m_theme(theme)
+    , m_key(key)
+{
+    const auto values = storedValues(theme, input.options().applicationFolder);
+    for (const StoredValue &value : values) {
+        if (value.key() == key)
+            tellValue(value);
+    }
+    if (!m_isDefined)
+        tellUnknown();
+    tellWithoutEffect();
+    tellUsers();
+    tellTokens();
+}
+
+void Explanation::addLine(int indentation, const QString &line)
+{
+    m_text += QString(indentation, QLatin1Char(' ')) % printable(line) % QLatin1Char('\n');
+}
+
+void Explanation::tellValue(const StoredValue &value)
+{
+    m_isDefined = true;
+    addLine(0,
+            m_key % QLatin1String(" is ") % articleFor(nounOf(value.kind())) % QLatin1String(": ")
+                % valueText(value.value));
+    tellOrigin(*value.definition);
+    if (value.isHidden)
+        addLine(4,
+                QStringLiteral("hidden from style sheets by a value of another kind, see below"));
+}
+
+void Explanation::tellUnknown()
+{
+    QStringList names;
+    for (const Definition &definition : m_theme.definitions())
+        names << definition.key();
+    const QString question = names.contains(m_key) ? QString() : Suggestion(names).question(m_key);
+    addLine(0,
+            QLatin1String("The theme ") % m_theme.name() % QLatin1String(" has no value called ")
+                % m_key % question);
+}
+
+void Explanation::tellOrigin(const Definition &definition)
+{
+    addLine(2, shownDefinition(definition));
+    const QString &text = definition.value->text();
+    const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
+    if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
+        const bool isLate = m_theme.find(Kind::Palette, text) != nullptr;
+        addLine(4,
+                isLate ? QStringLiteral(
+                    "the palette entry of that name is stored only later, so it is black")
+                       : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it "
+                                        "is black"));
+    }
+    if (definition.kind() == Kind::Gradient) {
+        const QString prefix = definition.entry()->key % QLatin1Char('/');
+        for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
+            if (entry.isEffective && entry.key.startsWith(prefix))
+                addLine(2,
+                        shownEntry(definition.layer->file, entry,
+                                   QString::fromUtf8(entry.rawValue.trimmed())));
+        }
+    }
+    if (definition.palette >= 0)
+        tellOrigin(m_theme.definitions().at(definition.palette));
+}
+
+QString Explanation::reasonOf(const Definition &definition) const
+{
+    switch (definition.fate) {
+    case Definition::Fate::Stored:
+        break;
+    case Definition::Fate::Replaced:
+        return shortPlace(m_theme.definitions().at(definition.other))
+            % QLatin1String(" sets the flag again, and of flags the last file's counts");
+    case Definition::Fate::Exists: {
+        const Definition &other = m_theme.definitions().at(definition.other);
+        return other.kind() == definition.kind()
+            ? shortPlace(other) % QLatin1String(" has the key already, and the first file's counts")
+            : shortPlace(other) % QLatin1String(" has an integer of this name, which keeps it out");
+    }
+    case Definition::Fate::Invalid:
+        return QStringLiteral(
+            "not a whole gradient: it needs a size, and \"pos\" and \"color\" for "
+            "every stop");
+    }
+    return {};
+}
+
+void Explanation::tellWithoutEffect()
+{
+    QVector<QPair<QString, QString>> found; // what, and why
+    for (const Definition &definition : m_theme.definitions()) {
+        if (definition.key() == m_key && definition.fate != Definition::Fate::Stored)
+            found.append({shownDefinition(definition), reasonOf(definition)});
+    }
+    QVector<const ThemeLayer *> layers{&m_theme.base()};
+    if (m_theme.own() && m_theme.own() != &m_theme.base())
+        layers << m_theme.own();
+    for (const ThemeLayer *layer : qAsConst(layers)) {
+        const bool isRead = layer == &m_theme.base() || m_theme.isOwnRead();
+        for (const ThemeFileEntry &entry : layer->file.entries()) {
+            if (entry.name() != m_key || (isRead && entry.isEffective))
+                continue;
+            found.append(
+                {shownEntry(layer->file, entry, QString::fromUtf8(entry.rawValue.trimmed())),
+                 isRead ? QStringLiteral("the key is given again in the same file")
+                        : QStringLiteral("the file is never read: the default theme is "
+                                         "itself called \"%1\"")
+                              .arg(m_theme.displayName())});
+        }
+    }
+    if (!found.isEmpty())
+        addLine(0, QStringLiteral("Without effect:"));
+    for (const auto &entry : qAsConst(found)) {
+        addLine(2, entry.first);
+        addLine(4, entry.second);
+    }
+}
+
+void Explanation::tellUsers()
+{
+    const Definition *entry = m_theme.find(Kind::Palette, m_key);
+    if (!entry)
+        return;
+    const auto isUser = [&](const Definition &definition) {
+        if (definition.fate != Definition::Fate::Stored)
+            return false;
+        for (const GradientStopValue &stop : definition.value->stops) {
+            if (stop.color.toString() == m_key)
+                return true;
+        }
+        return definition.palette >= 0 && &m_theme.definitions().at(definition.palette) == entry;
+    };
+    int count = 0;
+    for (const Definition &definition : m_theme.definitions()) {
+        if (!isUser(definition))
+            continue;
+        if (++count == 1)
+            addLine(0, QStringLiteral("Taken by:"));
+        addLine(2, shownDefinition(definition));
+    }
+    if (count == 0)
+        addLine(0, QStringLiteral("No colour, palette entry or gradient takes it."));
+}
+
+void Explanation::tellTokens()
+{
+    const TemplateText &templates = m_input.templates();
+    const StyleRules &rules = m_input.styleRules();
+    int count = 0;
+    for (const TemplateToken &token : templates.tokens()) {
+        if (token.key != m_key)
+            continue;
+        if (++count == 1)
+            addLine(0, QStringLiteral("Used by templates:"));
+        const StyleRule *rule = rules.ruleAt(token.offset);
+        const StyleDeclaration *declaration = rule ? rule->declarationAt(token.offset) : nullptr;
+        QString where = rules.isComment(token.offset) ? QStringLiteral("in a comment")
+            : declaration
+            ? rule->selector % QLatin1String(" { ") % declaration->property % QLatin1String(" }")
+            : QStringLiteral("outside a declaration");
+        if (m_isDefined && !m_theme.find(token.kind, m_key))
+            where +=
+                QLatin1String(", by ") % articleFor(nounOf(token.kind)) % QLatin1String(" token");
+        addLine(
+            2,
+            place(templates.fileAt(token.offset).input.path(), templates.positionAt(token.offset))
+                % where);
+    }
+    const bool isVisible = std::any_of(std::begin(allKinds), std::end(allKinds), [&](Kind kind) {
+        return isInStyleSheets(kind) && m_theme.find(kind, m_key);
+    });
+    if (m_isDefined && !isVisible)
+        addLine(0, QStringLiteral("Style sheets see neither palette entries nor gradients."));
+    else if (count == 0)
+        addLine(0, QStringLiteral("No template uses it."));
+}

@@ -1,0 +1,219 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+#include <analysis/style/stylecascade.h>
+#include <colormath/contrast.h>
+#include <colormath/distance.h>
+#include <hvtheme/workabletheming.h>
+
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace
+{
+
+// A colour of the style sheet and how the templates name it.
+struct NamedColor {
+    QColor color;
+    QString name;
+    QString key; // empty if the template gives the colour itself
+};
+
+using Ground = QVector<NamedColor>; // several for a gradient
+
+class Colors
+{
+public:
+    Colors(const ThemeStack &theme, const QString &prefix)
+        : m_theme(theme)
+        , m_token(QLatin1Char('^') % prefix % QLatin1String("\\.theme\\.color\\.(\\w+)$"))
+    {
+    }
+
+    // Nothing if the value has colours that only the running application knows, or none.
+    Ground read(const QString &value) const
+    {
+        static const QRegularExpression gradient(
+            QStringLiteral("stop\\s*:\\s*[\\d.]+[\\s,]+([^\\s,()]+(?:\\([^)]*\\))?)"));
+        Ground ground;
+        if (value.contains(QLatin1String("url(")) || value.contains(QLatin1String("palette(")))
+            return {};
+        if (value.contains(QLatin1String("gradient("))) {
+            QRegularExpressionMatchIterator matches = gradient.globalMatch(value);
+            while (matches.hasNext())
+                ground.append(single(matches.next().captured(1)));
+        } else {
+            ground.append(single(value));
+        }
+        for (const NamedColor &color : qAsConst(ground)) {
+            if (!color.color.isValid())
+                return {};
+        }
+        return ground;
+    }
+
+private:
+    NamedColor single(const QString &text) const
+    {
+        const QRegularExpressionMatch match = m_token.match(text);
+        if (match.hasMatch()) {
+            const QString key = match.captured(1);
+            const bool isColor = kindInStyleSheets(m_theme, key) == Kind::Color;
+            return {isColor ? m_theme.theme().color(key) : QColor(), key, key};
+        }
+        if (text == QLatin1String("none"))
+            return {QColor(Qt::transparent), text, QString()};
+        return {QColor::isValidColor(text) ? QColor(text) : QColor(), text, QString()};
+    }
+
+    const ThemeStack &m_theme;
+    const QRegularExpression m_token;
+};
+
+// The colours that can stand behind the text: what shines through shows the layer below. Nothing if
+// that has no end, for the templates do not say what stands behind a translucent widget.
+Ground opaqueGround(const Colors &colors, const QVector<StyleValue> &layers)
+{
+    Ground ground;
+    for (int i = layers.size() - 1; i >= 0; --i) {
+        if (layers.at(i).offset < 0)
+            continue;
+        const Ground layer = colors.read(layers.at(i).text);
+        if (layer.isEmpty())
+            return {};
+        Ground mixed;
+        for (const NamedColor &front : layer) {
+            if (front.color.alpha() == 255)
+                mixed.append(front);
+            for (const NamedColor &back : qAsConst(ground)) {
+                if (front.color.alpha() == 0)
+                    mixed.append(back);
+                else if (front.color.alpha() < 255)
+                    mixed.append({ColorMath::over(front.color, back.color),
+                                  front.name % QLatin1String(" over ") % back.name, QString()});
+            }
+        }
+        ground = mixed;
+        if (ground.isEmpty() && i == 0)
+            return {};
+    }
+    return ground;
+}
+
+double leastContrast(const QColor &text, const Ground &ground, QString *where = nullptr)
+{
+    double least = 21.0;
+    for (const NamedColor &background : ground) {
+        const double ratio = ColorMath::contrastRatio(text, background.color);
+        if (ratio <= least && where)
+            *where = background.name;
+        least = qMin(least, ratio);
+    }
+    return least;
+}
+
+QString ratioText(double ratio)
+{
+    // Rounded down, so that what fails never reads as if it passed.
+    return QString::number(std::floor(ratio * 100.0) / 100.0, 'f', 2) + QLatin1String(":1");
+}
+
+// The palette of one theme, taken apart once.
+class Palette
+{
+public:
+    explicit Palette(const ThemeStack &theme)
+    {
+        QStringList names = storedKeys(theme, Kind::Palette);
+        names.sort();
+        for (const QString &name : qAsConst(names)) {
+            const QColor color = theme.theme().readNamedColor(name).first;
+            m_entries.append({name, color, ColorMath::toLab(color)});
+        }
+    }
+
+    QString advice(const QColor &text, const Ground &ground, double minimum)
+    {
+        if (++m_advised > adviceLimit)
+            return {};
+        const ColorMath::Lab wanted = ColorMath::toLab(text);
+        const Entry *best = nullptr;
+        double bestDistance = 0.0;
+        for (const Entry &entry : qAsConst(m_entries)) {
+            const double distance = ColorMath::distance(wanted, entry.lab);
+            const bool isNearer = !best || distance < bestDistance;
+            if (isNearer && leastContrast(entry.color, ground) >= minimum) {
+                best = &entry;
+                bestDistance = distance;
+            }
+        }
+        if (!best)
+            return QStringLiteral("; no palette entry would pass");
+        return QStringLiteral("; the nearest palette entry that passes is %1 with %2")
+            .arg(best->name, ratioText(leastContrast(best->color, ground)));
+    }
+
+private:
+    // Each piece of advice looks at the whole palette: given without end it would take time with
+    // the square of a theme's size.
+    static constexpr int adviceLimit = 100;
+
+    struct Entry {
+        QString name;
+        QColor color;
+        ColorMath::Lab lab;
+    };
+    QVector<Entry> m_entries;
+    int m_advised = 0;
+};
+
+void checkPair(const ThemeProject &input, const ThemeStack &theme, const StylePair &pair,
+               const Colors &colors, Palette *palette, QSet<QString> *known, Report &report)
+{
+    const Ground text = colors.read(pair.foreground.text);
+    const Ground ground = opaqueGround(colors, pair.backgrounds);
+    if (text.size() != 1 || ground.isEmpty())
+        return;
+    QString background;
+    const double minimum = input.options().minimalContrast;
+    const double ratio = leastContrast(text.first().color, ground, &background);
+    const QString identity = text.first().name % QLatin1Char('\n') % background;
+    if (ratio >= minimum || known->contains(identity))
+        return;
+    known->insert(identity);
+    const TextPosition place = input.templates().positionAt(pair.foreground.offset);
+    const InputFile &file = input.templates().fileAt(pair.foreground.offset).input;
+    const QString message =
+        QStringLiteral("%1 on %2 has a contrast of %3 in theme %4, less than %5 (%6, %7:%8)%9")
+            .arg(text.first().name, background, ratioText(ratio), theme.name(), ratioText(minimum),
+                 pair.selector.text, file.path().section(QLatin1Char('/'), -1),
+                 QString::number(place.line), palette->advice(text.first().color, ground, minimum));
+    const Definition *definition = theme.find(Kind::Color, text.first().key);
+    const Severity severity = pair.drawsText ? Severity::Warning : Severity::Info;
+    if (definition)
+        report.add(definition->layer->file.path(), definition->entry()->keyPosition, message,
+                   severity);
+    else
+        report.add(file.path(), place, message, severity);
+}
+
+} // namespace
+
+void Rules::contrast(const ThemeProject &input, Report &report)
+{
+    const QVector<StylePair> pairs = StyleCascade(input.styleRules()).pairs();
+    for (const ThemeStack *theme : input.themes()) {
+        const Colors colors(*theme, input.options().prefix);
+        Palette palette(*theme);
+        QSet<QString> known;
+        // Certain text first: a pair is told of once, with the greater severity.
+        for (const bool drawsText : {true, false}) {
+            for (const StylePair &pair : pairs) {
+                if (pair.drawsText == drawsText)
+                    checkPair(input, *theme, pair, colors, &palette, &known, report);
+            }
+        }
+    }
+}

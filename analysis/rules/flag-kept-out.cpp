@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+
+void Rules::flagKeptOut(const ThemeProject &input, Report &report)
+{
+    for (const ThemeStack *theme : input.themes()) {
+        for (const Definition &definition : theme->definitions()) {
+            if (definition.fate != Definition::Fate::Exists || definition.kind() != Kind::Flag)
+                continue;
+            const Definition &integer = theme->definitions().at(definition.other);
+            report.addAtKey(definition,
+                            QStringLiteral("flag %1 is not stored, because %2 has an integer of "
+                                           "this name")
+                                .arg(definition.key(), placeOf(integer)));
+        }
+    }
+}

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+
+#include <QtMath>
+
+namespace
+{
+
+QString objection(const GradientStopValue &stop, double last)
+{
+    bool isNumber = false;
+    const double position = stop.position.toDouble(&isNumber);
+    const QString text = stop.position.toString();
+    if (!isNumber)
+        return QStringLiteral("\"%1\" is no number and is stored as 0").arg(text);
+    if (!(position >= 0.0 && position <= 1.0))
+        return QStringLiteral("%1 is not between 0 and 1").arg(text);
+    if (position < last)
+        return QStringLiteral("%1 comes after %2; stops stay in the order of the file")
+            .arg(text)
+            .arg(last);
+    return {};
+}
+
+} // namespace
+
+void Rules::gradientPosition(const ThemeProject &input, Report &report)
+{
+    for (const ThemeStack *theme : input.allThemes()) {
+        for (const Definition &definition : theme->definitions()) {
+            if (definition.kind() != Kind::Gradient || definition.fate != Definition::Fate::Stored)
+                continue;
+            double last = 0.0;
+            for (int i = 0; i < definition.value->stops.size(); ++i) {
+                const GradientStopValue &stop = definition.value->stops.at(i);
+                const QString text = objection(stop, last);
+                last = qMax(last, stop.position.toDouble());
+                const ThemeFileEntry *entry = stopEntry(definition, i, QStringLiteral("pos"));
+                if (!text.isEmpty() && entry)
+                    report.add(definition.layer->file.path(), entry->valuePosition,
+                               QStringLiteral("position of stop %1 of gradient %2: ")
+                                       .arg(i + 1)
+                                       .arg(definition.key())
+                                   % text);
+            }
+        }
+    }
+}

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+bool ColorText::isNamedTooEarly(const ThemeStack &stack) const
+{
+    return !isResolved && stack.find(Kind::Palette, text());
+}
+
+// A palette entry is stored once and stays, so whether it was there in time is a matter of order.
+QVector<ColorText> colorTexts(const ThemeStack &stack)
+{
+    QVector<ColorText> texts;
+    for (int i = 0; i < stack.definitions().size(); ++i) {
+        const Definition &definition = stack.definitions().at(i);
+        const auto append = [&](const ThemeFileEntry *entry, const QVariant &value) {
+            const int palette = stack.stored(Kind::Palette).value(value.toString(), -1);
+            texts.append({&definition, entry, value, palette >= 0 && palette < i});
+        };
+        if (definition.fate == Definition::Fate::Exists)
+            continue;
+        if (definition.kind() == Kind::Palette || definition.kind() == Kind::Color)
+            append(definition.entry(), definition.value->value);
+        for (int stop = 0; stop < definition.value->stops.size(); ++stop) {
+            const GradientStopValue &value = definition.value->stops.at(stop);
+            const ThemeFileEntry *entry = stopEntry(definition, stop, QStringLiteral("color"));
+            if (value.hasPosition && value.hasColor && entry)
+                append(entry, value.color);
+        }
+    }
+    return texts;
+}
+
+const ThemeFileEntry *stopEntry(const Definition &gradient, int stop, const QString &key)
+{
+    return gradient.layer->file.find(sectionName(Kind::Gradient) % QLatin1Char('/') % gradient.key()
+                                     % QLatin1Char('/') % QString::number(stop + 1)
+                                     % QLatin1Char('/') % key);
+}
+
+QVector<ThemeImage> themeImages(const ThemeProject &input)
+{
+    QVector<ThemeImage> images;
+    for (const ThemeStack *theme : input.allThemes()) {
+        for (const int index : theme->stored(Kind::ImageFile)) {
+            const Definition &definition = theme->definitions().at(index);
+            const QString path =
+                imageFilePath(input.options().applicationFolder, definition.value->text());
+            if (!path.startsWith(QLatin1String(":/")))
+                images.append({&definition, path});
+        }
+    }
+    return images;
+}
+
+bool isDefined(const ThemeProject &input, const QString &key)
+{
+    const std::vector<const ThemeStack *> &themes = input.allThemes();
+    return std::any_of(themes.cbegin(), themes.cend(), [&key](const ThemeStack *theme) {
+        return kindInStyleSheets(*theme, key).has_value();
+    });
+}
+
+QString placeOf(const Definition &definition)
+{
+    const QString file = QFileInfo(definition.layer->file.path()).fileName();
+    return file % QLatin1Char(':') % QString::number(definition.entry()->keyPosition.line);
+}
+
+QStringList storedKeys(const ThemeStack &stack, Kind kind)
+{
+    return stack.stored(kind).keys();
+}
+
+TextPosition sectionPosition(const ThemeFile &file, Kind kind)
+{
+    for (const ThemeFileSection &section : file.sections()) {
+        if (section.name == sectionName(kind))
+            return section.position;
+    }
+    return {1, 1};
+}
+
+std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key)
+{
+    for (const Kind kind : {Kind::ImageFile, Kind::Integer, Kind::Flag, Kind::Color}) {
+        if (stack.stored(kind).contains(key))
+            return kind;
+    }
+    return std::nullopt;
+}

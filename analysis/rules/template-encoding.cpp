@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+
+#include <QTextCodec>
+
+namespace
+{
+
+// Line ends and NUL never are parts of a character of several bytes, so lines can be decoded alone.
+void checkLine(const InputFile &file, const QByteArray &line, int number, Report &report)
+{
+    QTextCodec::ConverterState state;
+    const QString text =
+        QTextCodec::codecForName("UTF-8")->toUnicode(line.constData(), line.size(), &state);
+    if (state.invalidChars == 0 && state.remainingChars == 0)
+        return;
+    const int column = qMax(0, text.indexOf(QChar(QChar::ReplacementCharacter))) + 1;
+    report.add(file.path(), {number, column},
+               QStringLiteral("these bytes are not UTF-8 and come out as replacement characters"));
+}
+
+} // namespace
+
+void Rules::templateEncoding(const ThemeProject &input, Report &report)
+{
+    for (const TemplateText::File &file : input.templates().files()) {
+        const QByteArray content = file.input.content();
+        const int end = content.indexOf('\0');
+        const QByteArray read = content.left(end < 0 ? content.size() : end);
+        int number = 0;
+        for (int start = 0; start <= read.size(); ++number) {
+            const int lineEnd = read.indexOf('\n', start);
+            const int stop = lineEnd < 0 ? read.size() : lineEnd;
+            checkLine(file.input, read.mid(start, stop - start), number + 1, report);
+            if (lineEnd < 0 && end >= 0)
+                report.add(file.input.path(), {number + 1, stop - start + 1},
+                           QStringLiteral("a NUL byte: the library reads nothing behind it"));
+            start = stop + 1;
+        }
+    }
+}

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/rules/rules.h>
+
+void Rules::unusedKey(const ThemeProject &input, Report &report)
+{
+    QSet<QString> used;
+    for (const TemplateToken &token : input.tokens())
+        used.insert(token.key);
+    for (const ThemeStack *theme : input.allThemes()) {
+        // Flags are for the application's code; no token is meant for them.
+        for (const Kind kind : {Kind::Color, Kind::ImageFile, Kind::Integer}) {
+            for (const int index : theme->stored(kind)) {
+                const Definition &definition = theme->definitions().at(index);
+                if (!used.contains(definition.key()))
+                    report.addAtKey(definition,
+                                    QStringLiteral("no template uses the %1 %2")
+                                        .arg(nounOf(kind), definition.key()));
+            }
+        }
+    }
+}

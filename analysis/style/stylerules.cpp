@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/style/stylerules.h>
+
+#include <algorithm>
+
+namespace
+{
+
+// Takes a text apart whose comments are blanked.
+class RuleScanner
+{
+public:
+    explicit RuleScanner(const QString &text)
+        : m_text(text)
+    {
+    }
+
+    QVector<StyleRule> rules()
+    {
+        QVector<StyleRule> result;
+        while (skipBlanks()) {
+            StyleRule rule;
+            rule.start = m_at;
+            const int brace = endOfPart();
+            m_at = brace + 1;
+            if (brace >= m_text.size() || m_text.at(brace) != u'{')
+                continue; // a stray character, or a statement such as @import
+            rule.selector = m_text.mid(rule.start, brace - rule.start).simplified();
+            rule.declarations = declarations();
+            rule.end = m_at;
+            result.append(rule);
+        }
+        return result;
+    }
+
+private:
+    QVector<StyleDeclaration> declarations()
+    {
+        QVector<StyleDeclaration> result;
+        bool isOpen = true;
+        while (isOpen && skipBlanks()) {
+            StyleDeclaration declaration;
+            declaration.start = m_at;
+            declaration.end = endOfPart();
+            const QString text = m_text.mid(m_at, declaration.end - m_at);
+            const int colon = text.indexOf(u':');
+            if (colon >= 0) {
+                declaration.property = text.left(colon).simplified();
+                declaration.value = text.mid(colon + 1).simplified();
+                result.append(declaration);
+            }
+            isOpen = declaration.end < m_text.size() && m_text.at(declaration.end) != u'}';
+            m_at = std::min(declaration.end + 1, m_text.size());
+        }
+        return result;
+    }
+
+    bool skipBlanks()
+    {
+        while (m_at < m_text.size() && m_text.at(m_at).isSpace())
+            ++m_at;
+        return m_at < m_text.size();
+    }
+
+    // Returns where the next brace or semicolon stands that is not quoted, or the text's end. As in
+    // style sheets, a line end closes a quotation that was left open.
+    int endOfPart() const
+    {
+        QChar quote;
+        for (int at = m_at; at < m_text.size(); ++at) {
+            const QChar character = m_text.at(at);
+            if (!quote.isNull()) {
+                if (character == quote || character == u'\n')
+                    quote = QChar();
+            } else if (character == u'"' || character == u'\'') {
+                quote = character;
+            } else if (character == u'{' || character == u'}' || character == u';') {
+                return at;
+            }
+        }
+        return m_text.size();
+    }
+
+    const QString m_text;
+    int m_at = 0;
+};
+
+} // namespace
+
+const StyleDeclaration *StyleRule::declarationAt(int offset) const
+{
+    for (const StyleDeclaration &declaration : declarations) {
+        if (offset >= declaration.start && offset < declaration.end)
+            return &declaration;
+    }
+    return nullptr;
+}
+
+StyleRules::StyleRules(const QString &text)
+{
+    const QLatin1String opening("/*");
+    const QLatin1String closing("*/");
+    QString blanked = text;
+    for (int start = text.indexOf(opening); start >= 0;) {
+        const int close = text.indexOf(closing, start + opening.size());
+        const int end = close < 0 ? text.size() : close + closing.size();
+        m_comments.append({start, end});
+        std::fill(blanked.begin() + start, blanked.begin() + end, QChar(u' '));
+        start = text.indexOf(opening, end);
+    }
+    m_rules = RuleScanner(blanked).rules();
+}
+
+const StyleRule *StyleRules::ruleAt(int offset) const
+{
+    const auto next =
+        std::upper_bound(m_rules.cbegin(), m_rules.cend(), offset,
+                         [](int place, const StyleRule &rule) { return place < rule.start; });
+    if (next == m_rules.cbegin() || offset >= std::prev(next)->end)
+        return nullptr;
+    return &*std::prev(next);
+}
+
+bool StyleRules::isComment(int offset) const
+{
+    const auto next =
+        std::upper_bound(m_comments.cbegin(), m_comments.cend(), offset,
+                         [](int place, const Comment &comment) { return place < comment.start; });
+    return next != m_comments.cbegin() && offset < std::prev(next)->end;
+}

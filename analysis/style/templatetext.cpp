@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/style/templatetext.h>
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr qint64 sizeLimit = qint64(64) * 1024 * 1024;
+
+// The same files in the same order as HV::readStyleSheet() finds them in a folder.
+QStringList filesIn(const QString &folder)
+{
+    QStringList paths;
+    QDir directory(folder);
+    directory.setNameFilters({QStringLiteral("*.qss"), QStringLiteral("*.css")});
+    directory.setFilter(QDir::Files);
+    const QStringList names = directory.entryList();
+    for (const QString &name : names)
+        paths << folder % QLatin1Char('/') % name;
+    return paths;
+}
+
+// Read through a text device, so that line ends become what the library sees; fromUtf8() ends the
+// text at a NUL byte, as it does for the library.
+QString decoded(const QByteArray &content)
+{
+    QByteArray bytes = content;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly | QIODevice::Text);
+    return QString::fromUtf8(buffer.readAll());
+}
+
+Kind kindOfPass(const QString &name)
+{
+    if (name == QLatin1String("color"))
+        return Kind::Color;
+    return name == QLatin1String("image") ? Kind::ImageFile : Kind::Integer;
+}
+
+} // namespace
+
+std::optional<TemplateText> TemplateText::read(const QStringList &sources, const QString &prefix,
+                                               QString *error)
+{
+    TemplateText templates;
+    templates.m_prefix = prefix;
+    templates.m_lineStarts.append(0);
+    for (const QString &source : sources) {
+        const bool isFolder = QFileInfo(source).isDir();
+        const QStringList paths = isFolder ? filesIn(source) : QStringList(source);
+        if (paths.isEmpty()) {
+            *error = source % QLatin1String(": no templates (*.qss, *.css) in this folder");
+            return std::nullopt;
+        }
+        for (const QString &path : paths) {
+            if (!templates.append(path, error))
+                return std::nullopt;
+        }
+    }
+    for (int i = 0; i < templates.m_text.size(); ++i) {
+        if (templates.m_text.at(i) == QLatin1Char('\n'))
+            templates.m_lineStarts.append(i + 1);
+    }
+    templates.findTokens();
+    return templates;
+}
+
+bool TemplateText::append(const QString &path, QString *error)
+{
+    const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
+    if (!input)
+        return false;
+    m_files.append({*input, m_text.size()});
+    m_text += decoded(input->content());
+    return true;
+}
+
+void TemplateText::findTokens()
+{
+    const QRegularExpression pattern(QLatin1String("(?:") % m_prefix
+                                     % QLatin1String(")\\.theme\\.(?<kind>color|image|integer)"
+                                                     "\\.(?<key>\\w+)"));
+    QRegularExpressionMatchIterator matches = pattern.globalMatch(m_text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        m_tokens.append({kindOfPass(match.captured(QStringLiteral("kind"))),
+                         match.captured(QStringLiteral("key")), match.capturedStart(),
+                         match.capturedLength()});
+    }
+}
+
+const TemplateText::File &TemplateText::fileAt(int offset) const
+{
+    const auto next =
+        std::upper_bound(m_files.cbegin(), m_files.cend(), offset,
+                         [](int value, const File &file) { return value < file.offset; });
+    return next == m_files.cbegin() ? *next : *std::prev(next);
+}
+
+TextPosition TemplateText::positionAt(int offset) const
+{
+    const int fileStart = fileAt(offset).offset;
+    const auto lineAt = [this](int place) {
+        return std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), place);
+    };
+    const auto line = lineAt(offset);
+    const int lineStart = qMax(fileStart, *std::prev(line));
+    return {int(line - lineAt(fileStart)) + 1, offset - lineStart + 1};
+}

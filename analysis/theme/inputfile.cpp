@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/theme/inputfile.h>
+
+#include <QFile>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace
+{
+
+bool isResource(const QString &path)
+{
+    return path.startsWith(QLatin1String(":/"));
+}
+
+QString systemReason(int number)
+{
+    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
+}
+
+QByteArray stampOf(const struct stat &status)
+{
+    return QByteArray::number(qulonglong(status.st_dev)) + ' '
+        + QByteArray::number(qulonglong(status.st_ino)) + ' '
+        + QByteArray::number(qlonglong(status.st_size)) + ' '
+        + QByteArray::number(qlonglong(status.st_mtim.tv_sec)) + ' '
+        + QByteArray::number(qlonglong(status.st_mtim.tv_nsec));
+}
+
+class Descriptor
+{
+public:
+    explicit Descriptor(int number)
+        : m_number(number)
+    {
+    }
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            ::close(m_number);
+    }
+    Q_DISABLE_COPY_MOVE(Descriptor)
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+QString tooLarge(const QString &path, qint64 limit)
+{
+    return QStringLiteral("%1: larger than %2 MB, which no file of this kind is")
+        .arg(path)
+        .arg(limit / 1024 / 1024);
+}
+
+} // namespace
+
+std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QString *error)
+{
+    InputFile input;
+    input.m_path = path;
+    QFile file(path);
+    // Opened without blocking and looked at through the descriptor: opening a pipe that nobody
+    // writes to would wait for ever, and a test before the opening could be outrun.
+    const Descriptor descriptor(isResource(path) ? -1
+                                                 : ::open(QFile::encodeName(path).constData(),
+                                                          O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (isResource(path)) {
+        if (!file.open(QIODevice::ReadOnly)) {
+            *error = path % QLatin1String(": ") % file.errorString();
+            return std::nullopt;
+        }
+    } else {
+        struct stat status = {};
+        if (descriptor.number() < 0 || ::fstat(descriptor.number(), &status) != 0) {
+            *error = path % QLatin1String(": ") % systemReason(errno);
+            return std::nullopt;
+        }
+        if (!S_ISREG(status.st_mode)) {
+            *error = path % QLatin1String(": not a regular file");
+            return std::nullopt;
+        }
+        if (status.st_size > limit) {
+            *error = tooLarge(path, limit);
+            return std::nullopt;
+        }
+        input.m_stamp = stampOf(status);
+        file.open(descriptor.number(), QIODevice::ReadOnly, QFile::DontCloseHandle);
+    }
+    input.m_content = file.read(limit + 1);
+    if (input.m_content.size() > limit) {
+        *error = tooLarge(path, limit);
+        return std::nullopt;
+    }
+    return input;
+}
+
+bool InputFile::isUnchanged() const
+{
+    if (isResource(m_path))
+        return true;
+    struct stat status = {};
+    return ::stat(QFile::encodeName(m_path).constData(), &status) == 0
+        && stampOf(status) == m_stamp;
+}

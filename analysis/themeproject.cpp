@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/themeproject.h>
+
+#include <analysis/messagelog.h>
+#include <analysis/theme/themefolder.h>
+
+#include <QFileInfo>
+
+namespace
+{
+
+// The library counts to the size that a gradient claims; a slip of some digits takes it minutes.
+constexpr int gradientSizeLimit = 10000;
+
+std::unique_ptr<ThemeLayer> readLayer(const ThemeFolder &folder, const QString &name,
+                                      QString *error)
+{
+    const std::optional<ThemeFile> file = folder.read(name, error);
+    if (!file)
+        return nullptr;
+    const MessageLog silence; // QSettings warns of empty keys
+    auto layer =
+        std::make_unique<ThemeLayer>(ThemeLayer{*file, ThemeValues::read(file->path()), name});
+    for (const ThemeValue &value : layer->values.values) {
+        if (value.gradientSize > gradientSizeLimit) {
+            *error = QStringLiteral("%1: gradient %2 claims %3 stops, which takes the library "
+                                    "minutes to read")
+                         .arg(file->path(), value.key)
+                         .arg(value.gradientSize);
+            return nullptr;
+        }
+    }
+    return layer;
+}
+
+} // namespace
+
+std::unique_ptr<ThemeProject> ThemeProject::read(const ThemeProjectOptions &options, QString *error)
+{
+    std::unique_ptr<ThemeProject> input(new ThemeProject);
+    input->m_options = options;
+    input->m_vocabulary = Vocabulary::builtIn();
+    if (!options.vocabularyFile.isEmpty()) {
+        const std::optional<Vocabulary> vocabulary =
+            Vocabulary::read(options.vocabularyFile, error);
+        if (!vocabulary)
+            return nullptr;
+        input->m_vocabulary = *vocabulary;
+    }
+    if (!input->readThemes(error) || !input->readTemplates(error) || !input->isUnchanged(error))
+        return nullptr;
+    return input;
+}
+
+bool ThemeProject::readThemes(QString *error)
+{
+    const std::optional<ThemeFolder> folder =
+        ThemeFolder::open(m_options.folder, m_options.suffix, error);
+    if (!folder)
+        return false;
+    QStringList names = m_options.themes.isEmpty() ? folder->themeNames() : m_options.themes;
+    const bool hasDefault = names.removeAll(folder->themeNames().constFirst()) > 0;
+    names.removeDuplicates();
+
+    m_layers.push_back(readLayer(*folder, folder->themeNames().constFirst(), error));
+    if (!m_layers.back())
+        return false;
+    const ThemeLayer *base = m_layers.front().get();
+    m_base =
+        std::make_unique<ThemeStack>(base->name, m_options.folder, m_options.suffix, base, nullptr);
+    if (hasDefault && (!m_options.themes.isEmpty() || names.isEmpty()))
+        m_themes.push_back(m_base.get());
+    m_allThemes.push_back(m_base.get());
+    for (const QString &name : qAsConst(names)) {
+        m_layers.push_back(readLayer(*folder, name, error));
+        if (!m_layers.back())
+            return false;
+        m_stacks.push_back(std::make_unique<ThemeStack>(name, m_options.folder, m_options.suffix,
+                                                        base, m_layers.back().get()));
+        m_themes.push_back(m_stacks.back().get());
+        m_allThemes.push_back(m_stacks.back().get());
+    }
+    return true;
+}
+
+bool ThemeProject::readTemplates(QString *error)
+{
+    m_templates = TemplateText::read(m_options.templates, m_options.prefix, error);
+    if (!m_templates)
+        return false;
+    m_styleRules.emplace(m_templates->text());
+    for (const TemplateToken &token : m_templates->tokens()) {
+        if (!m_styleRules->isComment(token.offset))
+            m_tokens.append(token);
+    }
+    for (const ThemeStack *theme : m_themes)
+        m_finished[theme] = finishedStyleSheet(
+            m_options.prefix, theme->values(m_options.applicationFolder), m_templates->text());
+    return true;
+}
+
+// The library opens the files a second time, by their names.
+bool ThemeProject::isUnchanged(QString *error) const
+{
+    for (const auto &layer : m_layers) {
+        if (!layer->file.isUnchanged()) {
+            *error = layer->file.path() % QLatin1String(": changed while it was read, try again");
+            return false;
+        }
+    }
+    return true;
+}

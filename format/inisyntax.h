@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef FORMAT_INISYNTAX_H
+#define FORMAT_INISYNTAX_H
+
+#include <QByteArray>
+#include <QString>
+
+/*!
+ * \brief The lexical rules of INI files as QSettings reads them: where a line ends, what a key is.
+ *
+ * QSettings keeps them to itself; they are told again here because positions need them. The tests
+ * hold both against each other.
+ */
+namespace IniSyntax
+{
+
+/*! \brief One logical line: offsets into the file's bytes. */
+struct Line {
+    int start = 0;
+    int end = 0;
+    int equals = -1; //!< of the first "=" outside quotation marks, or -1
+};
+
+/*!
+ * \brief Finds the next logical line from \a position on and moves \a position behind it.
+ *
+ * Blank lines and comments are passed over. \return false at the end of \a text.
+ */
+bool nextLine(const QByteArray &text, int *position, Line *line);
+
+/*! \brief Returns the bytes of \a escaped as QSettings names them: "\\" is "/", %XX, %UXXXX. */
+QString unescapedKey(const QByteArray &escaped);
+
+} // namespace IniSyntax
+
+#endif

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <sheet/sheetimage.h>
+
+#include <analysis/theme/inputfile.h>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QMimeDatabase>
+
+namespace
+{
+
+constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+
+QByteArray contentOf(const QString &path)
+{
+    QString error;
+    const std::optional<InputFile> input = InputFile::read(path, sizeLimit, &error);
+    return input ? input->content() : QByteArray();
+}
+
+} // namespace
+
+QString dataUri(const QString &path)
+{
+    QByteArray content = contentOf(path);
+    const QString type = QMimeDatabase().mimeTypeForFileNameAndData(path, content).name();
+    if (!type.startsWith(QLatin1String("image/")))
+        return {};
+    // Browsers draw vector images without a plugin of Qt's, which may not be installed.
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    const bool isVector = type == QLatin1String("image/svg+xml") && content.contains("<svg");
+    if (!isVector && !QImageReader(&buffer).canRead())
+        return {};
+    return QLatin1String("data:") % type % QLatin1String(";base64,")
+        % QString::fromLatin1(content.toBase64());
+}
+
+QImage fittedImage(const QString &path, QSize size, double scale)
+{
+    QByteArray content = contentOf(path);
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const QSize own = reader.size();
+    if (!own.isValid())
+        return {};
+    const QSize wanted = own * scale;
+    const bool isLarge = wanted.width() > size.width() || wanted.height() > size.height();
+    QSize fitted = isLarge ? own.scaled(size, Qt::KeepAspectRatio) : wanted;
+    // The groove of a slider is drawn wide and stretched where it is used; as a hairline nobody
+    // would see it.
+    fitted.setHeight(qMax(fitted.height(), qMin(int(8 * scale), size.height())));
+    reader.setScaledSize(fitted);
+    return reader.read();
+}
