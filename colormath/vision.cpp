@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <colormath/distance.h>
+#include <colormath/vision.h>
+
+#include <QImage>
+
+#include <array>
+#include <cmath>
+
+namespace
+{
+
+using ColorMath::Vision;
+using Matrix = std::array<std::array<double, 3>, 3>;
+
+constexpr Matrix protan = {{{0.152286, 1.052583, -0.204868},
+                            {0.114503, 0.786281, 0.099216},
+                            {-0.003882, -0.048116, 1.051998}}};
+constexpr Matrix deutan = {{{0.367322, 0.860646, -0.227968},
+                            {0.280085, 0.672501, 0.047413},
+                            {-0.011820, 0.042940, 0.968881}}};
+constexpr Matrix tritan = {{{1.255528, -0.076749, -0.178779},
+                            {-0.078411, 0.930809, 0.147602},
+                            {0.004733, 0.691367, 0.303900}}};
+
+const Matrix &matrixOf(Vision vision)
+{
+    switch (vision) {
+    case Vision::Protan:
+        return protan;
+    case Vision::Deutan:
+        return deutan;
+    default:
+        return tritan;
+    }
+}
+
+std::array<double, 256> decodingTable()
+{
+    std::array<double, 256> table{};
+    for (size_t i = 0; i < table.size(); ++i) {
+        const double value = double(i) / 255.0;
+        table[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    }
+    return table;
+}
+
+int encoded(double linear)
+{
+    const double channel = qBound(0.0, linear, 1.0);
+    return qRound(
+        255.0
+        * (channel <= 0.0031308 ? 12.92 * channel : 1.055 * std::pow(channel, 1 / 2.4) - 0.055));
+}
+
+QRgb seen(const Matrix &matrix, QRgb color)
+{
+    static const std::array<double, 256> decoded = decodingTable();
+    const double red = decoded[size_t(qRed(color))];
+    const double green = decoded[size_t(qGreen(color))];
+    const double blue = decoded[size_t(qBlue(color))];
+    const auto channel = [&](size_t row) {
+        return encoded(matrix[row][0] * red + matrix[row][1] * green + matrix[row][2] * blue);
+    };
+    return qRgba(channel(0), channel(1), channel(2), qAlpha(color));
+}
+
+} // namespace
+
+namespace ColorMath
+{
+
+QColor seenBy(Vision vision, const QColor &color)
+{
+    if (vision == Vision::Normal)
+        return color;
+    return QColor::fromRgba(seen(matrixOf(vision), color.rgba()));
+}
+
+QImage seenBy(Vision vision, const QImage &image)
+{
+    if (vision == Vision::Normal)
+        return image;
+    QImage result = image.convertToFormat(QImage::Format_ARGB32);
+    const Matrix &matrix = matrixOf(vision);
+    for (int y = 0; y < result.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
+        for (int x = 0; x < result.width(); ++x)
+            line[x] = seen(matrix, line[x]);
+    }
+    return result;
+}
+
+double leastDistance(const QColor &first, const QColor &second, Vision *worst)
+{
+    double least = 1000.0;
+    for (const Vision vision : {Vision::Normal, Vision::Protan, Vision::Deutan, Vision::Tritan}) {
+        const double value = distance(toLab(seenBy(vision, first)), toLab(seenBy(vision, second)));
+        if (value >= least)
+            continue;
+        least = value;
+        if (worst)
+            *worst = vision;
+    }
+    return least;
+}
+
+} // namespace ColorMath
