@@ -4,7 +4,7 @@
 #include <analysis/explanation.h>
 
 #include <analysis/suggestion.h>
-#include <tools/outputtext.h>
+#include <format/printabletext.h>
 
 #include <QFileInfo>
 

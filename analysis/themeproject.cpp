@@ -8,6 +8,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -52,6 +54,13 @@ std::unique_ptr<ThemeProject> ThemeProject::read(const ThemeProjectOptions &opti
     if (!input->readThemes(error) || !input->readTemplates(error) || !input->isUnchanged(error))
         return nullptr;
     return input;
+}
+
+const ThemeStack &ThemeProject::theme(const QString &name) const
+{
+    const auto found = std::find_if(m_themes.cbegin(), m_themes.cend(),
+                                    [&](const ThemeStack *stack) { return stack->name() == name; });
+    return found == m_themes.cend() ? base() : **found;
 }
 
 bool ThemeProject::readThemes(QString *error)

@@ -59,6 +59,9 @@ public:
     /*! \brief Returns base() and themes(), each once. */
     const std::vector<const ThemeStack *> &allThemes() const { return m_allThemes; }
 
+    /*! \brief Returns the theme called \a name, or base() if it is not one of themes(). */
+    const ThemeStack &theme(const QString &name) const;
+
     /*! \brief Returns the templates with the values of \a theme, which is one of themes(). */
     const FinishedStyleSheet &finished(const ThemeStack &theme) const
     {

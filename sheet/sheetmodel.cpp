@@ -4,7 +4,6 @@
 #include <sheet/sheetmodel.h>
 
 #include <colormath/contrast.h>
-#include <tools/themeoptions.h>
 
 #include <QRegularExpression>
 
@@ -71,7 +70,7 @@ SheetModel::SheetModel(const ThemeProject &input, const QStringList &names,
     : m_textKeys(textKeys(input))
 {
     for (const QString &name : names)
-        addTheme(ThemeOptions::theme(input, name), input.options().applicationFolder, groundKey);
+        addTheme(input.theme(name), input.options().applicationFolder, groundKey);
 }
 
 void SheetModel::addTheme(const ThemeStack &stack, const QString &applicationFolder,

@@ -3,9 +3,9 @@
 
 #include <sheet/sheetpicture.h>
 
+#include <format/printabletext.h>
 #include <sheet/sheetimage.h>
 #include <sheet/sheetmodel.h>
-#include <tools/outputtext.h>
 
 #include <QBuffer>
 #include <QLinearGradient>

@@ -95,8 +95,7 @@ int runDiff(const QStringList &arguments)
         return ExitUnusable;
 
     const QStringList names = parser.positionalArguments().mid(1);
-    const Pairs pairs = pairsOf(*input, ThemeOptions::theme(*input, names.at(0)),
-                                ThemeOptions::theme(*input, names.at(1)));
+    const Pairs pairs = pairsOf(*input, input->theme(names.at(0)), input->theme(names.at(1)));
     TextTable table({QStringLiteral("KIND"), QStringLiteral("KEY"), QStringLiteral("DISTANCE"),
                      names.at(0), names.at(1)});
     int differing = 0;

@@ -31,8 +31,7 @@ int runExplain(const QStringList &arguments)
     if (!input)
         return ExitUnusable;
 
-    const Explanation explanation(*input, ThemeOptions::theme(*input, positional.at(1)),
-                                  positional.at(2));
+    const Explanation explanation(*input, input->theme(positional.at(1)), positional.at(2));
     if (!writeStandardOutput(explanation.text()))
         return ExitUnusable;
     return explanation.isDefined() ? ExitDone : ExitFindings;

@@ -74,6 +74,6 @@ int runRender(const QStringList &arguments)
     const auto input = ThemeOptions::read(name, parser, {1, 1});
     if (!input)
         return ExitUnusable;
-    return render(*input, ThemeOptions::theme(*input, parser.positionalArguments().at(1)),
+    return render(*input, input->theme(parser.positionalArguments().at(1)),
                   parser.value(outputOption));
 }

@@ -137,7 +137,7 @@ int runValues(const QStringList &arguments)
     if (!input)
         return ExitUnusable;
 
-    const ThemeStack &theme = ThemeOptions::theme(*input, parser.positionalArguments().at(1));
+    const ThemeStack &theme = input->theme(parser.positionalArguments().at(1));
     const auto values = storedValues(theme, input->options().applicationFolder);
     const QString text = format == QLatin1String("json") ? asJson(theme, values)
         : format == QLatin1String("csv")                 ? asCsv(values)

@@ -4,16 +4,7 @@
 #ifndef TOOLS_OUTPUTTEXT_H
 #define TOOLS_OUTPUTTEXT_H
 
-#include <QString>
-
-/*!
- * \brief Returns \a text with everything that a terminal could obey made visible.
- *
- * Control characters, line and paragraph separators and the characters that turn the writing
- * direction become `\x1b` or `\u202e`; what remains stays as it is. Reports pass every text that
- * comes from a file or the command line through it.
- */
-QString printable(const QString &text);
+#include <format/printabletext.h>
 
 /*! \brief Writes `hvtheme: ` and the printable() \a message as one line to standard error. */
 void printError(const QString &message);

@@ -112,10 +112,3 @@ std::unique_ptr<ThemeProject> ThemeOptions::read(const QString &name,
         printError(error);
     return input;
 }
-
-const ThemeStack &ThemeOptions::theme(const ThemeProject &input, const QString &name)
-{
-    const auto found = std::find_if(input.themes().cbegin(), input.themes().cend(),
-                                    [&](const ThemeStack *stack) { return stack->name() == name; });
-    return found == input.themes().cend() ? input.base() : **found;
-}

@@ -32,9 +32,6 @@ void addTemplates(QCommandLineParser *parser);
 std::unique_ptr<ThemeProject> read(const QString &name, const QCommandLineParser &parser,
                                    QPair<int, int> themes, int others = 0);
 
-/*! \brief Returns the theme called \a name, which must be one of those that were read. */
-const ThemeStack &theme(const ThemeProject &input, const QString &name);
-
 } // namespace ThemeOptions
 
 #endif
