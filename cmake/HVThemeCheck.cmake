@@ -5,7 +5,8 @@
 #               [VOCABULARY <file>] [PREFIX <prefix>] [SUFFIX <suffix>] [MIN_CONTRAST <ratio>]
 #               [DISABLE <rule>...] [FAIL_ON error|warning|info])
 #
-# Adds a test that runs "hvtheme check" on a folder of themes and fails if it finds something.
+# Adds a test that runs "hvtheme check" on a folder of themes and fails if it finds something. Relative
+# paths are taken from the current source folder.
 function(hvtheme_check)
     cmake_parse_arguments(PARSE_ARGV 0 check "" "NAME;FOLDER;APP_DIR;VOCABULARY;PREFIX;SUFFIX;MIN_CONTRAST;FAIL_ON"
         "THEMES;TEMPLATES;DISABLE")
@@ -17,6 +18,25 @@ function(hvtheme_check)
     endif()
     if(NOT TARGET HVTheme::hvtheme-command)
         message(FATAL_ERROR "hvtheme_check: HVTheme was built without its command")
+    endif()
+    # The test runs in the build folder. Generator expressions and paths of resources are left alone.
+    foreach(paths FOLDER TEMPLATES APP_DIR VOCABULARY)
+        set(absolute "")
+        foreach(path IN LISTS check_${paths})
+            if(NOT path MATCHES "^(:/|\\$<)")
+                get_filename_component(path "${path}" ABSOLUTE)
+            endif()
+            list(APPEND absolute "${path}")
+        endforeach()
+        if(DEFINED check_${paths})
+            set(check_${paths} "${absolute}")
+        endif()
+    endforeach()
+    # As a part of another project the command is built only if something needs it.
+    get_target_property(command HVTheme::hvtheme-command ALIASED_TARGET)
+    if(command)
+        add_custom_target(${check_NAME}_command ALL)
+        add_dependencies(${check_NAME}_command ${command})
     endif()
     set(options)
     foreach(option APP_DIR VOCABULARY PREFIX SUFFIX MIN_CONTRAST FAIL_ON)

@@ -149,6 +149,10 @@ int run(const QStringList &arguments)
         QTextStream(stdout) << usage;
         return Success;
     }
+    if (arguments.size() == 2 && arguments[1] == QLatin1String("--version")) {
+        QTextStream(stdout) << "hvtheme-icons " << HVTHEME_VERSION << '\n';
+        return Success;
+    }
     if (arguments.size() < 5) {
         QTextStream(stderr) << usage;
         return WrongUsage;

@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 
 # Installs the project, builds the project in "consumer" against it and runs it; then changes the theme and a
-# picture and looks whether the copies follow. Needs BUILD_DIR, SOURCE_DIR, WORK_DIR and GENERATOR.
+# picture and looks whether the copies follow. Needs BUILD_DIR, CONFIG, SOURCE_DIR, WORK_DIR and
+# GENERATOR.
 
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
@@ -33,7 +34,7 @@ set(source ${WORK_DIR}/consumer)
 set(build ${WORK_DIR}/build)
 set(copies ${build}/share/consumer/forest)
 
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/installed)
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --config ${CONFIG} --prefix ${WORK_DIR}/installed)
 run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${WORK_DIR}/installed)
 run(${CMAKE_COMMAND} --build ${build})
 run(${build}/bin/icons_consumer)

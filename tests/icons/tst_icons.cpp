@@ -72,6 +72,7 @@ private Q_SLOTS:
     void sourceIsNeverReplaced();
     void wrongUsage();
     void help();
+    void version();
     void drawings_data();
     void drawings();
 };
@@ -197,6 +198,14 @@ void tst_Icons::help()
     const Outcome outcome = run({"--help"});
     QCOMPARE(outcome.exitCode, 0);
     QVERIFY(outcome.output.startsWith("Usage: hvtheme-icons "));
+    QCOMPARE(outcome.error, QString());
+}
+
+void tst_Icons::version()
+{
+    const Outcome outcome = run({"--version"});
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(outcome.output, QStringLiteral("hvtheme-icons " HVTHEME_VERSION "\n"));
     QCOMPARE(outcome.error, QString());
 }
 

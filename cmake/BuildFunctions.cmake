@@ -1,0 +1,53 @@
+# SPDX-FileCopyrightText: 2026 The HVTheme authors
+# SPDX-License-Identifier: MIT
+
+# What the folders of this project have in common; none of it is installed.
+
+# Language level, warnings, visibility and sanitizers of every target.
+function(hvtheme_set_defaults target)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_USE_QSTRINGBUILDER
+        QT_STRICT_ITERATORS QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+        -Wnon-virtual-dtor -Woverloaded-virtual -Wsuggest-override $<$<BOOL:${HVTHEME_WERROR}>:-Werror>)
+    if(HVTHEME_SANITIZE)
+        target_compile_options(${target} PRIVATE -fsanitize=${HVTHEME_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${HVTHEME_SANITIZE})
+    endif()
+endfunction()
+
+# Lets what is installed in the folder find the installed libraries, also after the tree was moved. A
+# folder is relative to the prefix or absolute; between one of each there is no fixed way, so the run
+# path is then the library folder itself.
+function(hvtheme_set_run_path target folder)
+    set(library_folder "${CMAKE_INSTALL_LIBDIR}")
+    if(IS_ABSOLUTE "${library_folder}" AND NOT IS_ABSOLUTE "${folder}")
+        set(run_path "${library_folder}")
+    else()
+        if(IS_ABSOLUTE "${folder}" AND NOT IS_ABSOLUTE "${library_folder}")
+            set(library_folder "${CMAKE_INSTALL_FULL_LIBDIR}")
+        endif()
+        get_filename_component(from "${folder}" ABSOLUTE BASE_DIR /)
+        get_filename_component(to "${library_folder}" ABSOLUTE BASE_DIR /)
+        file(RELATIVE_PATH way "${from}" "${to}")
+        set(run_path "$ORIGIN/${way}")
+        string(REGEX REPLACE "/$" "" run_path "${run_path}")
+    endif()
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "${run_path}")
+endfunction()
+
+# hvtheme_install_program(<target> COMPONENT <component> [EXPORT <export>])
+#
+# Installs a program so that it starts from any prefix.
+function(hvtheme_install_program target)
+    hvtheme_set_run_path(${target} ${CMAKE_INSTALL_BINDIR})
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "COMPONENT;EXPORT" "")
+    set(export "")
+    if(arg_EXPORT)
+        set(export EXPORT ${arg_EXPORT})
+    endif()
+    install(TARGETS ${target} ${export} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${arg_COMPONENT})
+endfunction()

@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The HVTheme authors
+# SPDX-License-Identifier: MIT
+"""Installs the project, moves the tree and runs each installed program from its new place.
+
+  installed_programs.py CMAKE BUILD_DIR CONFIG WORK_DIR VERSION
+
+Then removes the installation again, from where it was installed. Exit codes: 0 all programs start,
+1 one does not, 2 wrong usage.
+"""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+
+PNG = b"\x89PNG\r\n\x1a\n"
+
+
+class Failure(Exception):
+    pass
+
+
+def run(*command, **options):
+    result = subprocess.run(list(map(str, command)), capture_output=True, text=True, **options)
+    if result.returncode != 0:
+        raise Failure(f"{' '.join(map(str, command))}: {result.returncode}\n{result.stdout}{result.stderr}")
+    return result.stdout
+
+
+def expect(condition, what):
+    if not condition:
+        raise Failure(what)
+
+
+def expect_version(program, version, environment):
+    output = run(program, "--version", env=environment)
+    expect(output == f"{program.name} {version}\n", f"{program} --version printed {output!r}")
+
+
+def use_command(prefix, work, environment):
+    themes = prefix / "share/hvtheme/themes"
+    sheet = run(prefix / "bin/hvtheme", "render", themes, "dark", env=environment)
+    path = f"{prefix}/share/hvtheme/themes/dark/checkbox_on.svg"
+    expect(path in sheet, f"the style sheet does not name {path}")
+
+
+def use_icons(prefix, work, environment):
+    icons = sorted((prefix / "share/hvtheme/icons").glob("*.svg"))[:3]
+    run(prefix / "bin/hvtheme-icons", prefix / "share/hvtheme/themes", "light", work / "tinted", *icons, env=environment)
+    expect(len(list((work / "tinted").glob("*.svg"))) == 3, "hvtheme-icons did not write three icons")
+
+
+def use_gallery(prefix, work, environment):
+    command = (prefix / "bin/hvtheme-gallery", "--screenshot", work / "pictures", "--page", "labels", "--theme", "dark")
+    run(*command, env=environment)
+    picture = work / "pictures/labels-dark.png"
+    expect(picture.read_bytes().startswith(PNG), f"{picture} is no picture")
+
+
+# What each program must do besides telling its version.
+USES = {"hvtheme": use_command, "hvtheme-icons": use_icons, "hvtheme-gallery": use_gallery}
+
+
+def check(cmake, build, config, work, version):
+    shutil.rmtree(work, ignore_errors=True)
+    installed = work / "first place"
+    moved = work / "second place/with ü"
+    run(cmake, "--install", build, "--config", config, "--prefix", installed)
+    files = [path for path in installed.rglob("*") if not path.is_dir()]
+
+    moved.parent.mkdir(parents=True)
+    shutil.copytree(installed, moved, symlinks=True)
+    installed.rename(work / "away")
+    # Neither a run path into the build folder nor the caller's libraries may help.
+    environment = {key: value for key, value in os.environ.items() if key != "LD_LIBRARY_PATH"}
+    environment.update(QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(work))
+    programs = sorted(path for path in (moved / "bin").iterdir())
+    expect(programs, "no program is installed")
+    for program in programs:
+        expect(program.name in USES, f"{program.name} is installed, and nothing here says how to try it")
+        expect_version(program, version, environment)
+        USES[program.name](moved, work, environment)
+        libraries = run("ldd", program, env=environment)
+        for line in libraries.splitlines():
+            strange = "libhvtheme" in line and not line.split(" => ")[1].startswith(f"{moved}/")
+            expect(not strange, f"{program.name} takes a library from elsewhere: {line}")
+
+    (work / "away").rename(installed)
+    foreign = installed / "share/hvtheme/themes/mine.theme"
+    foreign.write_text("[General]\nThemeName=Mine\n")
+    run(cmake, "--build", build, "--config", config, "--target", "uninstall")
+    left = [path for path in installed.rglob("*") if not path.is_dir()]
+    expect(left == [foreign], f"uninstalling {len(files)} files left {left}")
+    expect(not (installed / "bin").exists(), "uninstalling left an empty folder")
+
+
+def main(arguments):
+    if len(arguments) != 5:
+        print(__doc__, file=sys.stderr)
+        return 2
+    cmake, build, config, work, version = arguments
+    try:
+        check(cmake, pathlib.Path(build), config, pathlib.Path(work), version)
+    except (Failure, OSError) as failure:
+        print(failure, file=sys.stderr)
+        return 1
+    shutil.rmtree(work)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
