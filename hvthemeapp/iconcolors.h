@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_ICONCOLORS_H
+#define HVTHEMEAPP_ICONCOLORS_H
+
+#include <QColor>
+#include <QIcon>
+#include <QString>
+#include <QVariantMap>
+
+/*! \brief What icons are drawn with: the values of the theme in force. Internal to the library. */
+namespace HV::IconColors
+{
+
+/*!
+ * \brief Draws all icons with \a values, as Theme::values() gives them, from now on.
+ *
+ * Pictures that Qt remembers by their path are forgotten (QPixmapCache). Call it on the GUI thread
+ * between the palette and the style sheet; whoever calls it sees to it that windows are painted.
+ */
+void setValues(const QVariantMap &values);
+
+/*! \brief Returns a number that is another one after each setValues(). Thread-safe. */
+int generation();
+
+/*! \brief Returns whether a theme is in force. Thread-safe. */
+bool hasValues();
+
+/*! \brief Returns the path of the image that the theme in force has under \a key, else a null
+ *         string. Thread-safe. */
+QString imageFile(const QString &key);
+
+/*!
+ * \brief Returns the colour for the token \a key in an icon of \a mode.
+ *
+ * A key that the theme lacks has a colour of the application's palette. Thread-safe for the mode
+ * QIcon::Normal.
+ *
+ * \param found  may be null; set to whether the theme has the colour, or there is no theme.
+ */
+QColor color(const QString &key, QIcon::Mode mode, bool *found = nullptr);
+
+/*! \brief Returns what `currentColor` stands for: the colour of most strokes. */
+QColor ink(QIcon::Mode mode);
+
+} // namespace HV::IconColors
+
+#endif // HVTHEMEAPP_ICONCOLORS_H
