@@ -1,14 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The HVTheme authors
 # SPDX-License-Identifier: MIT
 
-# hvtheme_check(NAME <test> FOLDER <folder> [THEMES <theme>...] [TEMPLATES <folder|file>...] [APP_DIR <folder>]
-#               [VOCABULARY <file>] [PREFIX <prefix>] [SUFFIX <suffix>] [MIN_CONTRAST <ratio>]
+# hvtheme_check(NAME <test> FOLDER <folder> [THEMES <theme>...] [TEMPLATES <folder|file>...] [NO_BUILTIN]
+#               [APP_DIR <folder>] [VOCABULARY <file>] [PREFIX <prefix>] [SUFFIX <suffix>] [MIN_CONTRAST <ratio>]
 #               [DISABLE <rule>...] [FAIL_ON error|warning|info])
 #
 # Adds a test that runs "hvtheme check" on a folder of themes and fails if it finds something. Relative
 # paths are taken from the current source folder.
 function(hvtheme_check)
-    cmake_parse_arguments(PARSE_ARGV 0 check "" "NAME;FOLDER;APP_DIR;VOCABULARY;PREFIX;SUFFIX;MIN_CONTRAST;FAIL_ON"
+    cmake_parse_arguments(PARSE_ARGV 0 check "NO_BUILTIN" "NAME;FOLDER;APP_DIR;VOCABULARY;PREFIX;SUFFIX;MIN_CONTRAST;FAIL_ON"
         "THEMES;TEMPLATES;DISABLE")
     if(NOT check_NAME OR NOT check_FOLDER)
         message(FATAL_ERROR "hvtheme_check: NAME and FOLDER are required")
@@ -49,6 +49,9 @@ function(hvtheme_check)
     foreach(source IN LISTS check_TEMPLATES)
         list(APPEND options --templates ${source})
     endforeach()
+    if(check_NO_BUILTIN)
+        list(APPEND options --no-builtin)
+    endif()
     foreach(rule IN LISTS check_DISABLE)
         list(APPEND options --disable ${rule})
     endforeach()

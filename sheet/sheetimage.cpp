@@ -14,6 +14,16 @@ namespace
 
 constexpr qint64 sizeLimit = 4 * 1024 * 1024;
 
+// Of four bytes each: 128 MB. Most formats are decoded whole even to be drawn small.
+constexpr qint64 pixelLimit = 32 * 1024 * 1024;
+
+// Vector images have any size.
+bool isTooLarge(const QImageReader &reader)
+{
+    const QSize size = reader.size();
+    return !reader.format().startsWith("svg") && qint64(size.width()) * size.height() > pixelLimit;
+}
+
 QByteArray contentOf(const QString &path)
 {
     QString error;
@@ -33,10 +43,20 @@ QString dataUri(const QString &path)
     QBuffer buffer(&content);
     buffer.open(QIODevice::ReadOnly);
     const bool isVector = type == QLatin1String("image/svg+xml") && content.contains("<svg");
-    if (!isVector && !QImageReader(&buffer).canRead())
+    const QImageReader reader(&buffer);
+    if (!isVector && (!reader.canRead() || isTooLarge(reader)))
         return {};
     return QLatin1String("data:") % type % QLatin1String(";base64,")
         % QString::fromLatin1(content.toBase64());
+}
+
+QSize sizeIfTooLarge(const QString &path)
+{
+    QByteArray content = contentOf(path);
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::ReadOnly);
+    const QImageReader reader(&buffer);
+    return isTooLarge(reader) ? reader.size() : QSize();
 }
 
 QImage fittedImage(const QString &path, QSize size, double scale)
@@ -46,7 +66,7 @@ QImage fittedImage(const QString &path, QSize size, double scale)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     const QSize own = reader.size();
-    if (!own.isValid())
+    if (!own.isValid() || isTooLarge(reader))
         return {};
     const QSize wanted = own * scale;
     const bool isLarge = wanted.width() > size.width() || wanted.height() > size.height();

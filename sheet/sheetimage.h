@@ -16,4 +16,11 @@ QString dataUri(const QString &path);
  */
 QImage fittedImage(const QString &path, QSize size, double scale);
 
+/*!
+ * \brief Returns the size of the image file at \a path if it has too many pixels to be drawn.
+ *
+ * Above 32 million, both functions take it for no readable image. Vector images are never too large.
+ */
+QSize sizeIfTooLarge(const QString &path);
+
 #endif

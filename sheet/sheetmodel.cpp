@@ -141,6 +141,12 @@ SheetContrast SheetModel::contrast(const SheetTheme &theme, const StoredValue &c
     return contrast;
 }
 
+bool SheetModel::hasGround() const
+{
+    return std::any_of(m_themes.cbegin(), m_themes.cend(),
+                       [](const SheetTheme &theme) { return !theme.groundKey.isEmpty(); });
+}
+
 QString SheetModel::note() const
 {
     QString key;

@@ -63,6 +63,9 @@ public:
     /*! \brief Tells whether templates give the colour of \a key to text. */
     bool isText(const QString &key) const { return m_textKeys.contains(key); }
 
+    /*! \brief Tells whether any theme has the colour that colours are to be shown on. */
+    bool hasGround() const;
+
     /*! \brief Returns what a reader must know of the colours and their contrast, in sentences. */
     QString note() const;
 

@@ -7,41 +7,31 @@
 #include <analysis/themeproject.h>
 #include <tools/commandline.h>
 #include <tools/findingwriters.h>
+#include <tools/outputfile.h>
 #include <tools/outputtext.h>
+#include <tools/themeoptions.h>
 
 #include <QDir>
-#include <QFile>
-#include <QRegularExpression>
 
 #include <algorithm>
-#include <cstdio>
+#include <limits>
 
 namespace
 {
 
 struct Options {
-    ThemeProjectOptions check;
+    ThemeProjectOptions project;
     QString format;
     Severity failOn = Severity::Warning;
     QStringList disabledRules;
 };
 
 struct KnownOptions {
-    const QCommandLineOption suffix{
-        "suffix", "Suffix of theme files, without the dot (default: theme).", "suffix", "theme"};
-    const QCommandLineOption templates{
-        "templates",
-        "Style sheet templates, a folder or a file; repeatable (default: the built-in ones).",
-        "dir|file"};
-    const QCommandLineOption prefix{"prefix", "Prefix of tokens (default: global).", "prefix",
-                                    "global"};
-    const QCommandLineOption folder{
-        "app-dir",
-        "The application's folder, which image paths start from (default: this program's).", "dir"};
     const QCommandLineOption vocabulary{
         "vocabulary", "JSON file with the keys that the application requires.", "file"};
     const QCommandLineOption contrast{
         "min-contrast", "Least contrast of text, 1 to 21 (default: 4.5).", "ratio", "4.5"};
+    const QCommandLineOption notes{"notes", "Show notes too, and not only count them."};
     const QCommandLineOption format{"format", "text, json or sarif (default: text).", "format",
                                     "text"};
     const QCommandLineOption fail{
@@ -52,11 +42,14 @@ struct KnownOptions {
     const QCommandLineOption rules{"rules", "List all rules and end."};
 };
 
-void listRules()
+QString ruleList()
 {
+    QString text;
     for (const Rule &rule : allRules())
-        std::printf("%-21s %-8s %s\n", rule.name, qPrintable(severityName(rule.severity)),
-                    rule.summary);
+        text += QString(QLatin1String(rule.name)).leftJustified(21) % QLatin1Char(' ')
+            % severityName(rule.severity).leftJustified(8) % QLatin1Char(' ')
+            % QLatin1String(rule.summary) % QLatin1Char('\n');
+    return text;
 }
 
 bool isRule(const QString &name)
@@ -68,26 +61,15 @@ bool isRule(const QString &name)
 // Returns what is wrong with the values of the options, or a null text.
 QString readOptions(const QCommandLineParser &parser, const KnownOptions &known, Options *options)
 {
-    ThemeProjectOptions &check = options->check;
-    check.folder = parser.positionalArguments().value(0);
-    check.themes = parser.positionalArguments().mid(1);
-    check.suffix = parser.value(known.suffix);
-    if (parser.isSet(known.templates))
-        check.templates = parser.values(known.templates);
-    check.prefix = parser.value(known.prefix);
-    static const QRegularExpression word(QStringLiteral("^[A-Za-z0-9_]+$"));
-    if (!word.match(check.prefix).hasMatch())
-        return QStringLiteral("a prefix is made of letters, digits and underscores");
-    check.applicationFolder = parser.isSet(known.folder)
-        ? QDir(parser.value(known.folder)).absolutePath()
-        : QCoreApplication::applicationDirPath();
-    if (!QDir(check.applicationFolder).exists())
-        return check.applicationFolder + QLatin1String(": no such folder");
-    check.vocabularyFile = parser.value(known.vocabulary);
+    const QString folder = options->project.applicationFolder;
+    if (!QDir(folder).exists())
+        return folder % QLatin1String(": no such folder");
+    options->project.vocabularyFile = parser.value(known.vocabulary);
     bool isNumber = false;
-    check.minimalContrast = parser.value(known.contrast).toDouble(&isNumber);
-    if (!isNumber || !(check.minimalContrast >= 1.0 && check.minimalContrast <= 21.0))
+    const double contrast = parser.value(known.contrast).toDouble(&isNumber);
+    if (!isNumber || !(contrast >= 1.0 && contrast <= 21.0))
         return QStringLiteral("a contrast is a number from 1 to 21");
+    options->project.minimalContrast = contrast;
 
     options->format = parser.value(known.format);
     if (!QStringList({"text", "json", "sarif"}).contains(options->format))
@@ -105,13 +87,32 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
     return {};
 }
 
-QByteArray formatted(const QVector<Finding> &findings, const QString &format)
+QByteArray formatted(const QVector<Finding> &findings, const QString &format, bool areNotesShown)
 {
     if (format == QLatin1String("json"))
         return FindingWriters::json(findings);
     if (format == QLatin1String("sarif"))
         return FindingWriters::sarif(findings);
-    return FindingWriters::text(findings, isColorTerminal());
+    FindingWriters::TextStyle style;
+    style.isColored = isColorTerminal();
+    style.areNotesShown = areNotesShown;
+    return FindingWriters::text(findings, style);
+}
+
+int check(const Options &options, bool areNotesShown)
+{
+    const std::unique_ptr<ThemeProject> project = ThemeOptions::open(options.project);
+    if (!project)
+        return ExitUnusable;
+    const QVector<Finding> findings = runRules(*project, options.disabledRules);
+    // What fails the check is shown.
+    areNotesShown = areNotesShown || options.failOn == Severity::Info;
+    if (!writeReport(formatted(findings, options.format, areNotesShown)))
+        return ExitUnusable;
+    const bool hasFailed =
+        std::any_of(findings.cbegin(), findings.cend(),
+                    [&](const Finding &finding) { return finding.severity >= options.failOn; });
+    return hasFailed ? ExitFindings : ExitDone;
 }
 
 } // namespace
@@ -122,41 +123,29 @@ int runCheck(const QStringList &arguments)
     const KnownOptions known;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Reports what is wrong with the themes of a folder, one finding a line.\n\n"
+        QStringLiteral("Reports what is wrong with the themes of a folder, one finding a line, and "
+                       "sums it up.\n\n"
                        "Exit code: 0 clean, 1 findings at or above the level of --fail-on, 2 wrong "
                        "usage or\nnothing to read."));
-    parser.addPositionalArgument(QStringLiteral("FOLDER"),
-                                 QStringLiteral("Folder with a default theme file."));
+    ThemeOptions::add(&parser);
     parser.addPositionalArgument(QStringLiteral("THEME"),
                                  QStringLiteral("Themes to check (default: all)."),
                                  QStringLiteral("[THEME...]"));
-    parser.addOptions({known.suffix, known.templates, known.prefix, known.folder, known.vocabulary,
-                       known.contrast, known.format, known.fail, known.disable, known.rules});
+    parser.addOptions({known.vocabulary, known.contrast, known.notes, known.format, known.fail,
+                       known.disable, known.rules});
     if (const std::optional<int> code = parseArguments(parser, commandName, arguments))
         return *code;
-    if (parser.isSet(known.rules)) {
-        listRules();
-        return ExitDone;
-    }
-    if (parser.positionalArguments().isEmpty())
-        return usageError(commandName, QStringLiteral("a folder is missing"));
+    if (parser.isSet(known.rules))
+        return writeStandardOutput(ruleList()) ? ExitDone : ExitUnusable;
+
     Options options;
+    const auto project =
+        ThemeOptions::read(commandName, parser, {0, std::numeric_limits<int>::max()});
+    if (!project)
+        return ExitUnusable;
+    options.project = *project;
     const QString mistake = readOptions(parser, known, &options);
     if (!mistake.isNull())
         return usageError(commandName, mistake);
-
-    QString error;
-    const std::unique_ptr<ThemeProject> input = ThemeProject::read(options.check, &error);
-    if (!input) {
-        printError(error);
-        return ExitUnusable;
-    }
-    const QVector<Finding> findings = runRules(*input, options.disabledRules);
-    QFile output;
-    output.open(stdout, QIODevice::WriteOnly);
-    output.write(formatted(findings, options.format));
-    const bool hasFailed =
-        std::any_of(findings.cbegin(), findings.cend(),
-                    [&](const Finding &finding) { return finding.severity >= options.failOn; });
-    return hasFailed ? ExitFindings : ExitDone;
+    return check(options, parser.isSet(known.notes));
 }

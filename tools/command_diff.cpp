@@ -90,7 +90,7 @@ int runDiff(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("THEME_B"), QStringLiteral("Another one."));
     if (const std::optional<int> code = parseArguments(parser, name, arguments))
         return *code;
-    const auto input = ThemeOptions::read(name, parser, {2, 2});
+    const auto input = ThemeOptions::readProject(name, parser, {2, 2});
     if (!input)
         return ExitUnusable;
 

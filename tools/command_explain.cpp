@@ -21,13 +21,12 @@ int runExplain(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("THEME"), QStringLiteral("The name of the theme."));
     parser.addPositionalArgument(QStringLiteral("KEY"),
                                  QStringLiteral("The key, without its section: Brand_1."));
-    ThemeOptions::addTemplates(&parser);
     if (const std::optional<int> code = parseArguments(parser, name, arguments))
         return *code;
     const QStringList positional = parser.positionalArguments();
     if (positional.size() == 2)
         return usageError(name, QStringLiteral("KEY is missing"));
-    const auto input = ThemeOptions::read(name, parser, {1, 1}, 1);
+    const auto input = ThemeOptions::readProject(name, parser, {1, 1}, 1);
     if (!input)
         return ExitUnusable;
 

@@ -41,10 +41,10 @@ int render(const ThemeProject &input, const ThemeStack &theme, const QString &ou
     }
     reportMissingImages(input, theme.values(input.options().applicationFolder));
 
-    if (output.isEmpty())
+    if (output == QLatin1String("-"))
         return writeStandardOutput(finished.text) ? ExitDone : ExitUnusable;
     QString error;
-    if (writeFile(output, finished.text.toUtf8(), &error))
+    if (writeFile(output, finished.text.toUtf8(), ThemeOptions::files(input), &error))
         return ExitDone;
     printError(error);
     return ExitUnusable;
@@ -65,13 +65,15 @@ int runRender(const QStringList &arguments)
         "never end, 2 wrong usage or nothing to read."));
     ThemeOptions::add(&parser);
     parser.addPositionalArgument(QStringLiteral("THEME"), QStringLiteral("The name of the theme."));
-    ThemeOptions::addTemplates(&parser);
     parser.addOption({{QStringLiteral("o"), outputOption},
-                      "File to write, whole or not at all (default: standard output).",
-                      "file"});
+                      "File to write, whole or not at all (default: -, standard output).",
+                      "file",
+                      "-"});
     if (const std::optional<int> code = parseArguments(parser, name, arguments))
         return *code;
-    const auto input = ThemeOptions::read(name, parser, {1, 1});
+    if (parser.value(outputOption).isEmpty())
+        return usageError(name, QStringLiteral("--output needs the name of a file"));
+    const auto input = ThemeOptions::readProject(name, parser, {1, 1});
     if (!input)
         return ExitUnusable;
     return render(*input, input->theme(parser.positionalArguments().at(1)),

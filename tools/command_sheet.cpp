@@ -3,6 +3,8 @@
 
 #include <tools/command_sheet.h>
 
+#include <analysis/suggestion.h>
+#include <sheet/sheetimage.h>
 #include <sheet/sheetmodel.h>
 #include <sheet/sheetpage.h>
 #include <sheet/sheetpicture.h>
@@ -36,13 +38,31 @@ void addOptions(QCommandLineParser *parser)
     ThemeOptions::add(parser);
     parser->addPositionalArgument(QStringLiteral("THEME"), QStringLiteral("Names of themes."),
                                   QStringLiteral("THEME..."));
-    ThemeOptions::addTemplates(parser);
     parser->addOption({backgroundOption(),
                        "Colour or palette entry to show colours on (default: BackgroundColor_3).",
                        "key", "BackgroundColor_3"});
     parser->addOption({{QStringLiteral("o"), outputOption()},
                        "File to write: a picture (.png) or a page (.html).",
                        "file"});
+}
+
+void reportLargeImages(const SheetModel &model)
+{
+    QStringList reported;
+    for (const SheetTheme &theme : model.themes()) {
+        for (const StoredValue &image : theme.values[int(Kind::ImageFile)]) {
+            const QString path = image.value.toString();
+            const QSize size = sizeIfTooLarge(path);
+            if (size.isEmpty() || reported.contains(path))
+                continue;
+            reported << path;
+            printError(QLatin1String("image file ") % image.key() % QLatin1String(": ") % path
+                       % QStringLiteral(" has %1 x %2 pixels, too many for a sheet, which shows it "
+                                        "as missing")
+                             .arg(size.width())
+                             .arg(size.height()));
+        }
+    }
 }
 
 } // namespace
@@ -58,16 +78,25 @@ int runSheet(const QStringList &arguments)
     const bool isPage = file.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
     if (!isPage && !file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
         return usageError(name, QStringLiteral("--output must name a .png or .html file"));
-    const auto input = ThemeOptions::read(name, parser, {1, std::numeric_limits<int>::max() - 1});
+    const auto input =
+        ThemeOptions::readProject(name, parser, {1, std::numeric_limits<int>::max()});
     if (!input)
         return ExitUnusable;
 
     QStringList themes = parser.positionalArguments().mid(1);
     themes.removeDuplicates();
-    const SheetModel model(*input, themes, parser.value(backgroundOption()));
+    const QString background = parser.value(backgroundOption());
+    const SheetModel model(*input, themes, background);
+    if (parser.isSet(backgroundOption()) && !model.hasGround())
+        return usageError(name,
+                          QLatin1String("no theme has a colour or palette entry called ")
+                              % background
+                              % Suggestion(model.keys(Kind::Color) + model.keys(Kind::Palette))
+                                    .question(background));
+    reportLargeImages(model);
     QString error;
     const QByteArray content = isPage ? sheetPage(model) : sheetPicture(model, &error);
-    if (!content.isEmpty() && writeFile(file, content, &error))
+    if (!content.isEmpty() && writeFile(file, content, ThemeOptions::files(*input), &error))
         return ExitDone;
     printError(error);
     return ExitUnusable;

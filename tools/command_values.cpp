@@ -133,7 +133,7 @@ int runValues(const QStringList &arguments)
     if (!QStringList{QStringLiteral("table"), QStringLiteral("json"), QStringLiteral("csv")}
              .contains(format))
         return usageError(name, QLatin1String("no format is called ") % format);
-    const auto input = ThemeOptions::read(name, parser, {1, 1});
+    const auto input = ThemeOptions::readProject(name, parser, {1, 1});
     if (!input)
         return ExitUnusable;
 

@@ -3,12 +3,10 @@
 
 #include <tools/commandline.h>
 
+#include <tools/outputfile.h>
 #include <tools/outputtext.h>
 
 #include <QCoreApplication>
-#include <QTextStream>
-
-#include <cstdio>
 
 std::optional<int> parseArguments(QCommandLineParser &parser, const QString &name,
                                   const QStringList &arguments)
@@ -25,8 +23,7 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QString &nam
         const int start = text.indexOf(program);
         if (start >= 0)
             text.replace(start, program.size(), QLatin1String("hvtheme ") + name);
-        QTextStream(stdout) << text;
-        return ExitDone;
+        return writeStandardOutput(text) ? ExitDone : ExitUnusable;
     }
     return std::nullopt;
 }

@@ -13,8 +13,18 @@
 namespace FindingWriters
 {
 
-/*! \brief One line each: `FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]`; \a color for a terminal. */
-QByteArray text(const QVector<Finding> &findings, bool color);
+/*! \brief How the findings are told to people. */
+struct TextStyle {
+    bool isColored = false; //!< for a terminal
+    bool areNotesShown = false; //!< or only counted
+};
+
+/*!
+ * \brief One line each: `FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]`, and one that sums them up.
+ *
+ * The last line is like `2 errors, 1 warning; 36 notes, see --notes`.
+ */
+QByteArray text(const QVector<Finding> &findings, TextStyle style);
 
 /*! \brief A JSON object with the list `findings` and their numbers by severity in `summary`. */
 QByteArray json(const QVector<Finding> &findings);

@@ -8,12 +8,11 @@
 #include <tools/command_sheet.h>
 #include <tools/command_values.h>
 #include <tools/commandline.h>
+#include <tools/outputfile.h>
 #include <tools/outputtext.h>
 
 #include <QApplication>
-#include <QTextStream>
 
-#include <cstdio>
 #include <memory>
 
 namespace
@@ -89,12 +88,11 @@ int main(int argc, char **argv)
             return runCommand(command, argc, argv);
     }
     if (name == QLatin1String("-h") || name == QLatin1String("--help")) {
-        QTextStream(stdout) << helpText();
-        return ExitDone;
+        return writeStandardOutput(helpText()) ? ExitDone : ExitUnusable;
     }
     if (name == QLatin1String("-v") || name == QLatin1String("--version")) {
-        QTextStream(stdout) << "hvtheme " HVTHEME_VERSION "\n";
-        return ExitDone;
+        return writeStandardOutput(QStringLiteral("hvtheme " HVTHEME_VERSION "\n")) ? ExitDone
+                                                                                    : ExitUnusable;
     }
     printError(name.isEmpty()
                    ? QStringLiteral("a command is missing (see hvtheme --help)")

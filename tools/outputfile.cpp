@@ -3,13 +3,19 @@
 
 #include <tools/outputfile.h>
 
+#include <format/printabletext.h>
 #include <tools/outputtext.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace
@@ -31,17 +37,97 @@ QString printableLines(const QString &text)
     return result;
 }
 
+QString systemReason(int number)
+{
+    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
+}
+
+bool isSameFile(const struct stat &a, const struct stat &b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+bool isAmong(const struct stat &file, const QStringList &others)
+{
+    return std::any_of(others.cbegin(), others.cend(), [&](const QString &other) {
+        struct stat status = {};
+        return ::stat(QFile::encodeName(other).constData(), &status) == 0
+            && isSameFile(status, file);
+    });
+}
+
+// Makes the new file as much like the old one as it can be; other names of it would keep the old
+// content.
+bool canReplace(int newFile, const struct stat &old)
+{
+    return old.st_nlink == 1 && ::fchown(newFile, old.st_uid, old.st_gid) == 0
+        && ::fchmod(newFile, old.st_mode & 07777) == 0;
+}
+
+bool writeAll(int file, const QByteArray &content)
+{
+    for (qint64 written = 0; written < content.size();) {
+        const ssize_t count =
+            ::write(file, content.constData() + written, size_t(content.size() - written));
+        if (count < 0 && errno != EINTR)
+            return false;
+        written += qMax(count, ssize_t(0));
+    }
+    return ::ftruncate(file, content.size()) == 0;
+}
+
+// Returns 0 or the number of the error. Room is made first: a full disk leaves the file as it was.
+int writeInPlace(const QString &path, const QByteArray &content)
+{
+    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        return errno;
+    int error = content.isEmpty() ? 0 : ::posix_fallocate(file, 0, content.size());
+    if (error == EOPNOTSUPP || error == EINVAL)
+        error = 0; // this file system cannot
+    if (error == 0 && !writeAll(file, content))
+        error = errno;
+    if (::close(file) != 0 && error == 0)
+        error = errno;
+    return error;
+}
+
 } // namespace
 
-bool writeFile(const QString &path, const QByteArray &content, QString *error)
+bool writeFile(const QString &path, const QByteArray &content, const QStringList &inputs,
+               QString *error)
 {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
+    struct stat old = {};
+    const bool isThere = ::stat(QFile::encodeName(path).constData(), &old) == 0;
+    if (isThere && !S_ISREG(old.st_mode)) {
         *error = path % QLatin1String(": not a regular file, so it is not replaced");
         return false;
     }
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit())
+    if (isThere && isAmong(old, inputs)) {
+        *error = path
+            % QLatin1String(": read by this very command, so it is not replaced; name another "
+                            "file");
+        return false;
+    }
+    const QString target = isThere ? QFileInfo(path).canonicalFilePath() : path;
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly)) {
+        *error = path % QLatin1String(": ") % file.errorString();
+        return false;
+    }
+    // Not through the file's own write(), which has no reason to tell when the disk is full.
+    if (!writeAll(file.handle(), content)) {
+        *error = path % QLatin1String(": ") % systemReason(errno);
+        return false;
+    }
+    if (isThere && !canReplace(file.handle(), old)) {
+        file.cancelWriting();
+        const int number = writeInPlace(target, content);
+        if (number != 0)
+            *error = path % QLatin1String(": ") % systemReason(number);
+        return number == 0;
+    }
+    if (file.commit())
         return true;
     *error = path % QLatin1String(": ") % file.errorString();
     return false;
@@ -50,11 +136,14 @@ bool writeFile(const QString &path, const QByteArray &content, QString *error)
 bool writeStandardOutput(const QString &text)
 {
     const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;
-    const QByteArray bytes = (isTerminal ? printableLines(text) : text).toUtf8();
-    QFile output;
-    if (output.open(stdout, QIODevice::WriteOnly) && output.write(bytes) == bytes.size()
-        && output.flush())
+    return writeReport((isTerminal ? printableLines(text) : text).toUtf8());
+}
+
+bool writeReport(const QByteArray &report)
+{
+    const auto size = size_t(report.size());
+    if (std::fwrite(report.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
         return true;
-    printError(QLatin1String("standard output: ") % output.errorString());
+    printError(QLatin1String("standard output: ") % systemReason(errno));
     return false;
 }

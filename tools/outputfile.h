@@ -5,16 +5,22 @@
 #define TOOLS_OUTPUTFILE_H
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 /*!
  * \brief Writes \a content to the file at \a path: whole or not at all.
  *
  * The content is written beside the file and then put in its place, so nobody ever reads a half.
- * Only a regular file is replaced, never a device.
+ * A file that is there keeps its owner, its permissions and its links: one with several names, or
+ * of another user, is written in place, after the disk has made room for all of it. Only a regular
+ * file is replaced, never a device.
+ *
+ * \param inputs  files that the content was made from; none of them is overwritten, by whatever
+ *                name.
  * \return false if nothing was written; \a error is then one sentence that says why.
  */
-bool writeFile(const QString &path, const QByteArray &content, QString *error);
+bool writeFile(const QString &path, const QByteArray &content, const QStringList &inputs,
+               QString *error);
 
 /*!
  * \brief Writes \a text to standard output as UTF-8.
@@ -23,5 +29,8 @@ bool writeFile(const QString &path, const QByteArray &content, QString *error);
  * \return false, after a line on standard error, if not all of it could be written.
  */
 bool writeStandardOutput(const QString &text);
+
+/*! \brief Writes \a report as it is, colours included; result and errors as above. */
+bool writeReport(const QByteArray &report);
 
 #endif

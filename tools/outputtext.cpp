@@ -3,6 +3,8 @@
 
 #include <tools/outputtext.h>
 
+#include <format/printabletext.h>
+
 #include <QTextStream>
 
 #include <cstdio>

@@ -3,7 +3,7 @@
 
 #include <tools/texttable.h>
 
-#include <tools/outputtext.h>
+#include <format/printabletext.h>
 
 TextTable::TextTable(const QStringList &headings)
     : m_rows{headings}

@@ -3,6 +3,7 @@
 
 #include <tools/themeoptions.h>
 
+#include <analysis/theme/storedvalues.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
 
@@ -12,7 +13,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <limits>
 
 namespace
 {
@@ -30,6 +30,11 @@ QString applicationOption()
 QString templatesOption()
 {
     return QStringLiteral("templates");
+}
+
+QString builtInOption()
+{
+    return QStringLiteral("no-builtin");
 }
 
 QString prefixOption()
@@ -65,20 +70,17 @@ void ThemeOptions::add(QCommandLineParser *parser)
         {applicationOption(),
          "The application's folder, which image paths start from (default: this program's).",
          "dir"});
-}
-
-void ThemeOptions::addTemplates(QCommandLineParser *parser)
-{
-    parser->addOption(
-        {templatesOption(),
-         "Style sheet templates, a folder or a file; repeatable (default: the built-in ones).",
-         "dir|file"});
+    parser->addOption({templatesOption(),
+                       "Style sheet templates behind the built-in ones, a folder or a file; "
+                       "repeatable.",
+                       "dir|file"});
+    parser->addOption({builtInOption(), "Leave the built-in templates out."});
     parser->addOption({prefixOption(), "Prefix of tokens (default: global).", "prefix", "global"});
 }
 
-std::unique_ptr<ThemeProject> ThemeOptions::read(const QString &name,
-                                                 const QCommandLineParser &parser,
-                                                 QPair<int, int> themes, int others)
+std::optional<ThemeProjectOptions> ThemeOptions::read(const QString &name,
+                                                      const QCommandLineParser &parser,
+                                                      QPair<int, int> themes, int others)
 {
     const QStringList arguments = parser.positionalArguments();
     ThemeProjectOptions options;
@@ -88,27 +90,59 @@ std::unique_ptr<ThemeProject> ThemeOptions::read(const QString &name,
     options.applicationFolder = parser.isSet(applicationOption())
         ? applicationFolder(parser.value(applicationOption()))
         : QCoreApplication::applicationDirPath();
-    if (parser.optionNames().contains(templatesOption()))
-        options.templates = parser.values(templatesOption());
-    if (parser.optionNames().contains(prefixOption()))
-        options.prefix = parser.value(prefixOption());
+    if (parser.isSet(builtInOption()))
+        options.templates.clear();
+    options.templates += parser.values(templatesOption());
+    options.prefix = parser.value(prefixOption());
 
-    QString error;
+    QString mistake;
     if (options.folder.isEmpty())
-        error = QStringLiteral("FOLDER is missing");
+        mistake = QStringLiteral("FOLDER is missing");
     else if (options.themes.size() < themes.first)
-        error = QStringLiteral("the name of a theme is missing");
-    else if (arguments.size() > 1 + themes.second + others)
-        error = QLatin1String("one argument too many: ") % arguments.constLast();
+        mistake = QStringLiteral("the name of a theme is missing");
+    else if (arguments.size() - 1 - others > themes.second)
+        mistake = QLatin1String("one argument too many: ") % arguments.constLast();
+    else if (parser.isSet(applicationOption()) && parser.value(applicationOption()).isEmpty())
+        mistake = QStringLiteral("--app-dir needs the name of a folder");
     else if (!isWord(options.prefix))
-        error = QStringLiteral("a prefix is made of letters, digits and underscores");
-    if (!error.isEmpty()) {
-        usageError(name, error);
-        return nullptr;
-    }
+        mistake = QStringLiteral("a prefix is made of letters, digits and underscores");
+    else if (options.templates.isEmpty())
+        mistake = QStringLiteral("--no-builtin leaves no templates: name some with --templates");
+    if (mistake.isEmpty())
+        return options;
+    usageError(name, mistake);
+    return std::nullopt;
+}
 
-    std::unique_ptr<ThemeProject> input = ThemeProject::read(options, &error);
-    if (!input)
+std::unique_ptr<ThemeProject> ThemeOptions::open(const ThemeProjectOptions &options)
+{
+    QString error;
+    std::unique_ptr<ThemeProject> project = ThemeProject::read(options, &error);
+    if (!project)
         printError(error);
-    return input;
+    return project;
+}
+
+std::unique_ptr<ThemeProject> ThemeOptions::readProject(const QString &name,
+                                                        const QCommandLineParser &parser,
+                                                        QPair<int, int> themes, int others)
+{
+    const std::optional<ThemeProjectOptions> options = read(name, parser, themes, others);
+    return options ? open(*options) : nullptr;
+}
+
+QStringList ThemeOptions::files(const ThemeProject &project)
+{
+    QStringList files;
+    for (const auto &layer : project.layers())
+        files << layer->file.path();
+    for (const TemplateText::File &file : project.templates().files())
+        files << file.input.path();
+    for (const ThemeStack *theme : project.allThemes()) {
+        const auto images =
+            storedValues(*theme, project.options().applicationFolder, Kind::ImageFile);
+        for (const StoredValue &image : images)
+            files << image.value.toString();
+    }
+    return files;
 }

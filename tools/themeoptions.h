@@ -9,28 +9,40 @@
 #include <QPair>
 
 #include <memory>
+#include <optional>
 
 class QCommandLineParser;
 
-/*! \brief The arguments that the commands which look at single themes have in common. */
+/*! \brief The arguments that all commands have in common: which themes are read, and how. */
 namespace ThemeOptions
 {
 
-/*! \brief Declares FOLDER and the options that say how themes are read. */
+/*!
+ * \brief Declares FOLDER and the options of every command.
+ *
+ * They are `--suffix`, `--app-dir`, `--templates`, `--no-builtin` and `--prefix`.
+ */
 void add(QCommandLineParser *parser);
-
-/*! \brief Declares `--templates` and `--prefix`. */
-void addTemplates(QCommandLineParser *parser);
 
 /*!
  * \brief Reads what the arguments of the command called \a name say.
  *
  * \param themes  how many of the arguments behind FOLDER are names of themes: from, to.
  * \param others  how many arguments follow that are something else.
- * \return nothing if the arguments or the files do not do; standard error then says why.
+ * \return nothing if the arguments do not do; standard error then says why.
  */
-std::unique_ptr<ThemeProject> read(const QString &name, const QCommandLineParser &parser,
-                                   QPair<int, int> themes, int others = 0);
+std::optional<ThemeProjectOptions> read(const QString &name, const QCommandLineParser &parser,
+                                        QPair<int, int> themes, int others = 0);
+
+/*! \brief Reads the files; if they do not do, returns null, and standard error says why. */
+std::unique_ptr<ThemeProject> open(const ThemeProjectOptions &options);
+
+/*! \brief Does both, for a command without further options of a project. */
+std::unique_ptr<ThemeProject> readProject(const QString &name, const QCommandLineParser &parser,
+                                          QPair<int, int> themes, int others = 0);
+
+/*! \brief Returns the files that \a project was read from, and the images of its themes. */
+QStringList files(const ThemeProject &project);
 
 } // namespace ThemeOptions
 

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void pictureShowsColors();
     void pictureGrowsWithThemes();
     void pictureHasAnEnd();
+    void largeImagesStayOut_data();
+    void largeImagesStayOut();
 };
 
 namespace
@@ -176,9 +178,9 @@ void tst_Sheet::contrastIsGraded()
     QFETCH(QString, expected);
     const TemporaryTheme theme("[Colors]\nText=" + color.toLatin1() + "\nGround=#FFFFFF\n");
     theme.write("a.qss", "a { " + property.toLatin1() + ": global.theme.color.Text }");
-    const QString page = sheet(
-        ".html",
-        {theme.path(), "default", "--background", "Ground", "--templates", theme.path("a.qss")});
+    const QString page = sheet(".html",
+                               {theme.path(), "default", "--background", "Ground", "--no-builtin",
+                                "--templates", theme.path("a.qss")});
     QVERIFY2(page.contains(expected), qPrintable(page.section("Text</th>", 1, 1).left(400)));
     QVERIFY(page.contains("Each theme is shown on its own Ground."));
 }
@@ -217,6 +219,38 @@ void tst_Sheet::pictureHasAnEnd()
     QVERIFY(run.errors.contains("too many values for a picture"));
     QVERIFY(!QFile::exists(theme.path("out.png")));
     QVERIFY(sheet(".html", {theme.path(), "default"}).contains("Key1999"));
+}
+
+// A picture of 900 million pixels, in a file of some hundred bytes.
+void tst_Sheet::largeImagesStayOut_data()
+{
+    QTest::addColumn<QString>("output");
+
+    QTest::newRow("page") << "out.html";
+    QTest::newRow("picture") << "out.png";
+}
+
+void tst_Sheet::largeImagesStayOut()
+{
+    QFETCH(QString, output);
+    const TemporaryTheme theme("[ImageFiles]\nlarge=large.png\n");
+    QImage image(30000, 30000, QImage::Format_Mono);
+    image.fill(1);
+    QVERIFY(image.save(theme.path("large.png"), "PNG"));
+    QProcess shell;
+    shell.start("bash",
+                {"-c", "ulimit -v 2000000; exec \"$@\"", "bash", commandPath(), "sheet",
+                 theme.path(), "default", "--app-dir", theme.path(), "-o", theme.path(output)});
+    QVERIFY(shell.waitForFinished());
+    QCOMPARE(QString(shell.readAllStandardError()),
+             "hvtheme: image file large: " + QFileInfo(theme.path()).canonicalFilePath()
+                 + "/large.png has 30000 x 30000 pixels, too many for a sheet, which shows it as "
+                   "missing\n");
+    QCOMPARE(shell.exitCode(), 0);
+    QFile file(theme.path(output));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.size() > 500);
+    QVERIFY(!file.readAll().contains("src=\"data:"));
 }
 
 QTEST_GUILESS_MAIN(tst_Sheet)

@@ -93,9 +93,13 @@ void writeTheme(const QTemporaryDir &folder)
 
 QStringList checkArguments(const QTemporaryDir &folder)
 {
-    return {"check",        folder.path(),
-            "--vocabulary", folder.filePath("nothing.json"),
-            "--templates",  folder.filePath("plain.qss")};
+    return {"check",
+            folder.path(),
+            "--vocabulary",
+            folder.filePath("nothing.json"),
+            "--no-builtin",
+            "--templates",
+            folder.filePath("plain.qss")};
 }
 
 } // namespace
@@ -111,7 +115,7 @@ void tst_Cli::usage_data()
         << QStringList("paint") << "hvtheme: no command is called \"paint\" (see hvtheme --help)\n";
     const QString seeHelp = QStringLiteral(" (see hvtheme check --help)\n");
     QTest::newRow("no-folder") << QStringList("check")
-                               << "hvtheme: check: a folder is missing" + seeHelp;
+                               << "hvtheme: check: FOLDER is missing" + seeHelp;
     QTest::newRow("unknown-option") << QStringList({"check", "--fast", "."})
                                     << "hvtheme: check: Unknown option 'fast'." + seeHelp;
     QTest::newRow("format") << QStringList({"check", "--format", "xml", "."})

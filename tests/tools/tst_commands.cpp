@@ -23,6 +23,7 @@ private Q_SLOTS:
     void laterKindHides();
     void jsonIsWhole();
     void terminalGetsNoControlCharacters();
+    void fullDevice_data();
     void fullDevice();
 };
 
@@ -32,7 +33,7 @@ void tst_Commands::output_data()
     QTest::addColumn<QString>("golden");
 
     const char *const app = " --app-dir /opt/demo/bin";
-    const char *const templates = " --templates templates";
+    const char *const templates = " --no-builtin --templates templates";
     const auto row = [&](const char *name, const QString &arguments) {
         QTest::newRow(name) << arguments << QString(name);
     };
@@ -44,7 +45,7 @@ void tst_Commands::output_data()
     row("diff-none", "diff themes night night");
     row("render", QString("render themes night") + templates + app);
     row("render-files",
-        QString("render themes night --templates templates/b.qss"
+        QString("render themes night --no-builtin --templates templates/b.qss"
                 " --templates templates/A.css")
             + app);
     row("render-prefix", QString("render themes night --prefix local") + templates + app);
@@ -108,6 +109,9 @@ void tst_Commands::wrongUsage_data()
     QTest::newRow("unknown-option") << "values themes night --fast" << "hvtheme: values: Unknown option 'fast'. (see hvtheme values --help)\n";
     QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called xml (see hvtheme values --help)\n";
     QTest::newRow("prefix") << "render themes night --prefix g+" << "hvtheme: render: a prefix is made of letters, digits and underscores (see hvtheme render --help)\n";
+    QTest::newRow("no-templates") << "values themes night --no-builtin" << "hvtheme: values: --no-builtin leaves no templates: name some with --templates (see hvtheme values --help)\n";
+    QTest::newRow("no-background") << "sheet themes night -o /nowhere/a.png --background TitelColor" << "hvtheme: sheet: no theme has a colour or palette entry called TitelColor; did you mean TitleColor? (see hvtheme sheet --help)\n";
+    QTest::newRow("picture-on-standard-output") << "sheet themes night -o -" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
     QTest::newRow("no-output") << "sheet themes night" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
     QTest::newRow("no-picture") << "sheet themes night -o a.pdf" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
     // clang-format on
@@ -129,7 +133,7 @@ void tst_Commands::exitCodes_data()
     QTest::addColumn<int>("expected");
 
     QTest::newRow("values") << "values themes night" << 0;
-    QTest::newRow("render") << "render themes night --templates templates" << 0;
+    QTest::newRow("render") << "render themes night --no-builtin --templates templates" << 0;
     QTest::newRow("explain-defined") << "explain themes night Veil" << 0;
     QTest::newRow("explain-undefined") << "explain themes night Half" << 1;
     QTest::newRow("diff-same") << "diff themes night night" << 0;
@@ -202,7 +206,7 @@ void tst_Commands::terminalGetsNoControlCharacters()
     const TemporaryTheme theme("[ImageFiles]\nevil=\"\\x1b[31m\\x9b\\x7\"\n");
     const QStringList commands{"values FOLDER default", "values FOLDER default --format csv",
                                "values FOLDER default --format json",
-                               "render FOLDER default --templates FOLDER/evil.qss",
+                               "render FOLDER default --no-builtin --templates FOLDER/evil.qss",
                                "explain FOLDER default evil"};
     theme.write("evil.qss", "/* \x1b]0;evil\x07 \xc2\x9b */ a { b: url(global.theme.image.evil) }");
     for (const QString &command : commands) {
@@ -219,14 +223,25 @@ void tst_Commands::terminalGetsNoControlCharacters()
     }
 }
 
+void tst_Commands::fullDevice_data()
+{
+    QTest::addColumn<QString>("arguments");
+    for (const char *arguments :
+         {"--help", "--version", "check --help", "check --rules", "check themes",
+          "check themes --format json", "check themes --format sarif", "render themes night",
+          "values themes night", "explain themes night Veil", "diff themes default night"})
+        QTest::newRow(arguments) << arguments;
+}
+
 void tst_Commands::fullDevice()
 {
+    QFETCH(QString, arguments);
     if (!QFile::exists("/dev/full"))
         QSKIP("this system has no /dev/full");
-    const CommandRun run({"values", "themes", "night"}, "/dev/full");
+    const CommandRun run(arguments.split(' '), "/dev/full");
+    QVERIFY2(run.errors.endsWith("hvtheme: standard output: No space left on device\n"),
+             run.errors.constData());
     QCOMPARE(run.exitCode, 2);
-    QVERIFY(run.errors.startsWith("hvtheme: standard output: "));
-    QCOMPARE(run.errors.count('\n'), 1);
 }
 
 QTEST_GUILESS_MAIN(tst_Commands)

@@ -45,7 +45,7 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
 
 QStringList templateOptions(const QStringList &templates)
 {
-    QStringList options;
+    QStringList options{"--no-builtin"};
     for (const QString &path : templates)
         options << "--templates" << path;
     return options;
@@ -98,8 +98,8 @@ void tst_Render::applicationBehindALink()
     QVERIFY(QDir(folder.path()).mkdir("real"));
     QVERIFY(QFile::link(folder.filePath("real"), folder.filePath("link")));
     const QString probe = installedProbe(folder.filePath("real"));
-    const CommandRun run({"render", "themes", "night", "--templates", "templates", "--app-dir",
-                          folder.filePath("link")});
+    const CommandRun run({"render", "themes", "night", "--no-builtin", "--templates", "templates",
+                          "--app-dir", folder.filePath("link")});
     QCOMPARE(run.output, outputOf(probe, {"themes", "night", "templates"}));
     QVERIFY(run.output.contains("/images/add.svg"));
 }
@@ -107,8 +107,14 @@ void tst_Render::applicationBehindALink()
 void tst_Render::builtInTemplates()
 {
     const CommandRun implicit({"render", HVTHEME_TEST_DIR "/../themes", "dark"});
-    const CommandRun named(
-        {"render", HVTHEME_TEST_DIR "/../themes", "dark", "--templates", ":/stylesheet"});
+    const CommandRun named({"render", HVTHEME_TEST_DIR "/../themes", "dark", "--no-builtin",
+                            "--templates", ":/stylesheet"});
+    const CommandRun more({"render", HVTHEME_TEST_DIR "/../themes", "dark", "--templates",
+                           dataFolder() + "/templates/A.css"});
+    const CommandRun alone({"render", HVTHEME_TEST_DIR "/../themes", "dark", "--no-builtin",
+                            "--templates", dataFolder() + "/templates/A.css"});
+    QVERIFY(alone.output.size() > 10);
+    QCOMPARE(more.output, QByteArray(implicit.output + alone.output));
     QVERIFY(implicit.output.contains("QPushButton"));
     QVERIFY(!implicit.output.contains("global.theme"));
     QCOMPARE(implicit.output, named.output);
@@ -118,7 +124,8 @@ void tst_Render::writesTheFileWhole()
 {
     const TemporaryTheme folder("");
     folder.write("out.qss", QByteArray(99999, ' '));
-    const QStringList arguments{"render", "themes", "night", "--templates", "templates"};
+    const QStringList arguments{"render",       "themes",      "night",
+                                "--no-builtin", "--templates", "templates"};
     const CommandRun run(arguments + QStringList{"-o", folder.path("out.qss")});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.output, QByteArray());
@@ -148,8 +155,8 @@ void tst_Render::refusesEndlessSubstitution()
     QFETCH(QByteArray, styleSheet);
     const TemporaryTheme folder(theme);
     folder.write("a.qss", styleSheet);
-    const CommandRun run({"render", folder.path(), "default", "--templates", folder.path("a.qss"),
-                          "-o", folder.path("out.qss")});
+    const CommandRun run({"render", folder.path(), "default", "--no-builtin", "--templates",
+                          folder.path("a.qss"), "-o", folder.path("out.qss")});
     QVERIFY(run.isFinished);
     QCOMPARE(run.exitCode, 1);
     QVERIFY(run.errors.contains("leads back to its own token"));
@@ -172,7 +179,8 @@ void tst_Render::keepsWhatItCannotReplace()
     QFETCH(QString, output);
     const TemporaryTheme folder("");
     const QString file = output.replace("FOLDER", folder.path());
-    const CommandRun run({"render", "themes", "night", "--templates", "templates", "-o", file});
+    const CommandRun run(
+        {"render", "themes", "night", "--no-builtin", "--templates", "templates", "-o", file});
     QCOMPARE(run.exitCode, 2);
     QCOMPARE(run.output, QByteArray());
     QVERIFY(run.errors.endsWith('\n') && run.errors.contains(file.toUtf8()));
@@ -185,7 +193,7 @@ void tst_Render::namesMissingImagesOnce()
     const TemporaryTheme folder("[ImageFiles]\nlost=lost.png\nspare=spare.png\n");
     folder.write("a.qss", "global.theme.image.lost global.theme.image.lost");
     const CommandRun run({"render", folder.path(), "default", "--app-dir", folder.path(),
-                          "--templates", folder.path("a.qss")});
+                          "--no-builtin", "--templates", folder.path("a.qss")});
     QCOMPARE(run.exitCode, 0);
     const QString path = QFileInfo(folder.path()).canonicalFilePath() + "/lost.png";
     QCOMPARE(QString(run.errors), "hvtheme: image file lost: " + path + " does not exist\n");
