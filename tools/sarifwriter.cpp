@@ -4,6 +4,8 @@
 #include <analysis/rules/rules.h>
 #include <tools/findingwriters.h>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -28,14 +30,30 @@ QString uriOf(const QString &file)
     return isAbsolute ? QLatin1String("file://") + path : path;
 }
 
+// The page of a rule, installed beside this program unless the packager named a place in the web.
+QString pageOf(const QString &rule)
+{
+    const QString base = QStringLiteral(HVTHEME_RULES_URL);
+    const QString page = rule % QLatin1String(".md");
+    if (!base.isEmpty())
+        return base % QLatin1Char('/') % page;
+    const QDir programs(QCoreApplication::applicationDirPath());
+    return QUrl::fromLocalFile(
+               QDir::cleanPath(programs.filePath(QStringLiteral(HVTHEME_RULES_DIR "/") % page)))
+        .toString(QUrl::FullyEncoded);
+}
+
 QJsonArray describedRules()
 {
     QJsonArray rules;
-    for (const Rule &rule : allRules())
+    for (const Rule &rule : allRules()) {
+        const QString name = QLatin1String(rule.name);
         rules.append(
-            QJsonObject{{"id", QLatin1String(rule.name)},
+            QJsonObject{{"id", name},
                         {"shortDescription", QJsonObject{{"text", QLatin1String(rule.summary)}}},
+                        {"helpUri", pageOf(name)},
                         {"defaultConfiguration", QJsonObject{{"level", levelOf(rule.severity)}}}});
+    }
     return rules;
 }
 
@@ -50,8 +68,9 @@ int ruleIndex(const QString &name)
 
 QJsonObject resultOf(const Finding &finding)
 {
-    const QJsonObject region{{"startLine", finding.position.line},
-                             {"startColumn", finding.position.column}};
+    // The format has no line 0, whatever a finding says.
+    const QJsonObject region{{"startLine", qMax(1, finding.position.line)},
+                             {"startColumn", qMax(1, finding.position.column)}};
     const QJsonObject place{{"artifactLocation", QJsonObject{{"uri", uriOf(finding.file)}}},
                             {"region", region}};
     return {{"ruleId", finding.rule},
