@@ -12,36 +12,21 @@ Then removes the installation again, from where it was installed. Exit codes: 0 
 import os
 import pathlib
 import shutil
-import subprocess
 import sys
+
+from steps import Failure, expect, run
 
 PNG = b"\x89PNG\r\n\x1a\n"
 
 
-class Failure(Exception):
-    pass
-
-
-def run(*command, **options):
-    result = subprocess.run(list(map(str, command)), capture_output=True, text=True, **options)
-    if result.returncode != 0:
-        raise Failure(f"{' '.join(map(str, command))}: {result.returncode}\n{result.stdout}{result.stderr}")
-    return result.stdout
-
-
-def expect(condition, what):
-    if not condition:
-        raise Failure(what)
-
-
 def expect_version(program, version, environment):
-    output = run(program, "--version", env=environment)
+    output, _ = run(program, "--version", env=environment)
     expect(output == f"{program.name} {version}\n", f"{program} --version printed {output!r}")
 
 
 def use_command(prefix, work, environment):
     themes = prefix / "share/hvtheme/themes"
-    sheet = run(prefix / "bin/hvtheme", "render", themes, "dark", env=environment)
+    sheet, _ = run(prefix / "bin/hvtheme", "render", themes, "dark", env=environment)
     path = f"{prefix}/share/hvtheme/themes/dark/checkbox_on.svg"
     expect(path in sheet, f"the style sheet does not name {path}")
 
@@ -82,7 +67,7 @@ def check(cmake, build, config, work, version):
         expect(program.name in USES, f"{program.name} is installed, and nothing here says how to try it")
         expect_version(program, version, environment)
         USES[program.name](moved, work, environment)
-        libraries = run("ldd", program, env=environment)
+        libraries, _ = run("ldd", program, env=environment)
         for line in libraries.splitlines():
             strange = "libhvtheme" in line and not line.split(" => ")[1].startswith(f"{moved}/")
             expect(not strange, f"{program.name} takes a library from elsewhere: {line}")

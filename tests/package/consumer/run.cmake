@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 
 # Usage: cmake -DBUILD_DIR=<project's build folder> -DWORK_DIR=<folder> -DCONFIG=<build type>
-#              -DCXX=<compiler> -DCXX_FLAGS=<flags> -DLIBDIR=<library folder below the prefix>
+#              -DCTEST=<ctest> -DCXX=<compiler> -DCXX_FLAGS=<flags> -DLIBDIR=<library folder, absolute or below the prefix>
 #              [-DGENERATOR=<name> | -DPKG_CONFIG=<program>] -P run.cmake
 #
 # Installs the project below WORK_DIR, builds the program beside this script against the installed
@@ -21,22 +21,24 @@ function(run)
 endfunction()
 
 set(prefix ${WORK_DIR}/prefix)
+get_filename_component(library_folder ${LIBDIR} ABSOLUTE BASE_DIR ${prefix})
 set(program ${WORK_DIR}/build/consumer)
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR}/build)
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --config ${CONFIG})
 
 if(PKG_CONFIG)
-    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    set(ENV{PKG_CONFIG_PATH} ${library_folder}/pkgconfig)
     run(${PKG_CONFIG} --cflags --libs "hvtheme >= 1.0")
     separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS} ${CMAKE_CURRENT_LIST_DIR}/main.cpp ${output}")
     run(${CXX} -o ${program} ${flags})
-    set(ENV{LD_LIBRARY_PATH} ${prefix}/${LIBDIR}:$ENV{LD_LIBRARY_PATH})
+    set(ENV{LD_LIBRARY_PATH} ${library_folder}:$ENV{LD_LIBRARY_PATH})
 else()
     run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
-        -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
+        -DHVTheme_DIR=${library_folder}/cmake/HVTheme -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CONFIGURATION_TYPES=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
         -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
     run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
+    run(${CTEST} -C ${CONFIG} --test-dir ${WORK_DIR}/build)
 endif()
 
 run(${program} ${CMAKE_CURRENT_LIST_DIR}/themes)

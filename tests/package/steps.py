@@ -1,0 +1,22 @@
+# SPDX-FileCopyrightText: 2026 The HVTheme authors
+# SPDX-License-Identifier: MIT
+"""What the tests of this folder have in common."""
+
+import subprocess
+
+
+class Failure(Exception):
+    """A step that did not do what it should; the text says which and what it printed."""
+
+
+def run(*command, **options):
+    """Runs a command that must succeed; returns its standard output and its standard error."""
+    result = subprocess.run(list(map(str, command)), capture_output=True, text=True, **options)
+    if result.returncode != 0:
+        raise Failure(f"{' '.join(map(str, command))}: {result.returncode}\n{result.stdout}{result.stderr}")
+    return result.stdout, result.stderr
+
+
+def expect(condition, what):
+    if not condition:
+        raise Failure(what)
