@@ -30,8 +30,9 @@ run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --config ${CONFIG
 if(PKG_CONFIG)
     set(ENV{PKG_CONFIG_PATH} ${library_folder}/pkgconfig)
     run(${PKG_CONFIG} --cflags --libs "hvtheme >= 1.0")
-    separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS} ${CMAKE_CURRENT_LIST_DIR}/main.cpp ${output}")
-    run(${CXX} -o ${program} ${flags})
+    separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS}")
+    separate_arguments(libraries UNIX_COMMAND "${output}")
+    run(${CXX} -o ${program} ${flags} ${CMAKE_CURRENT_LIST_DIR}/main.cpp ${libraries})
     set(ENV{LD_LIBRARY_PATH} ${library_folder}:$ENV{LD_LIBRARY_PATH})
 else()
     run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
