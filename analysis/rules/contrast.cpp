@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <analysis/rules/rules.h>
-#include <analysis/style/stylecascade.h>
+#include <analysis/style/textpairs.h>
 #include <colormath/contrast.h>
 #include <colormath/distance.h>
 #include <hvtheme/workabletheming.h>
@@ -169,7 +169,7 @@ private:
     int m_advised = 0;
 };
 
-void checkPair(const ThemeProject &input, const ThemeStack &theme, const StylePair &pair,
+void checkPair(const ThemeProject &input, const ThemeStack &theme, const TextPair &pair,
                const Colors &colors, Palette *palette, QSet<QString> *known, Report &report)
 {
     const Ground text = colors.read(pair.foreground.text);
@@ -203,14 +203,14 @@ void checkPair(const ThemeProject &input, const ThemeStack &theme, const StylePa
 
 void Rules::contrast(const ThemeProject &input, Report &report)
 {
-    const QVector<StylePair> pairs = StyleCascade(input.styleRules()).pairs();
+    const QVector<TextPair> pairs = textPairs(input.styleRules());
     for (const ThemeStack *theme : input.themes()) {
         const Colors colors(*theme, input.options().prefix);
         Palette palette(*theme);
         QSet<QString> known;
         // Certain text first: a pair is told of once, with the greater severity.
         for (const bool drawsText : {true, false}) {
-            for (const StylePair &pair : pairs) {
+            for (const TextPair &pair : pairs) {
                 if (pair.drawsText == drawsText)
                     checkPair(input, *theme, pair, colors, &palette, &known, report);
             }

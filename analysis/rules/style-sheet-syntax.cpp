@@ -15,7 +15,8 @@ int templateOffset(const ThemeProject &input, const QString &finished, int offse
     int start = 0;
     for (int i = 0; i < line; ++i)
         start = templates.indexOf(QLatin1Char('\n'), start) + 1;
-    const int finishedStart = finished.lastIndexOf(QLatin1Char('\n'), offset - 1) + 1;
+    const int finishedStart =
+        offset == 0 ? 0 : finished.lastIndexOf(QLatin1Char('\n'), offset - 1) + 1;
     const int lineEnd = templates.indexOf(QLatin1Char('\n'), start);
     const int length = (lineEnd < 0 ? templates.size() : lineEnd) - start;
     return start + qMin(offset - finishedStart, length);
@@ -25,10 +26,9 @@ int templateOffset(const ThemeProject &input, const QString &finished, int offse
 
 void Rules::styleSheetSyntax(const ThemeProject &input, Report &report)
 {
-    StyleParser parser;
     for (const ThemeStack *theme : input.themes()) {
         const QString finished = input.finished(*theme).text;
-        for (const int offset : parser.rejectedRules(finished))
+        for (const int offset : StyleParser::rejectedRules(finished))
             report.addAtTemplate(input.templates(), templateOffset(input, finished, offset),
                                  QStringLiteral("Qt cannot parse the style sheet from this rule "
                                                 "on, and drops what follows"));

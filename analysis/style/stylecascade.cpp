@@ -3,171 +3,232 @@
 
 #include <analysis/style/stylecascade.h>
 
+#include <analysis/style/stylerules.h>
+#include <analysis/style/stylevocabulary.h>
+
+#include <QMap>
 #include <QSet>
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
 
 namespace
 {
 
-// More conditions than these on one selector would make too many combinations to look up.
-constexpr int conditionLimit = 10;
+// As Qt weighs them: each of these steps outweighs a few hundred of the one before, not any number.
+constexpr int specificityWeight = 0x100;
+constexpr int sheetWeight = 0x100000;
 
-QString bucketName(const QString &part, const QString &type, const QStringList &conditions)
-{
-    return part % QLatin1Char('\n') % type % QLatin1Char('\n') % conditions.join(QLatin1Char('\n'));
-}
+// Qt keeps rules that end in a name, in a class and in neither apart, which decides between equals.
+enum class Subject {
+    Class,
+    Name,
+    Any
+};
 
-QStringList conditionsIn(const StyleSelector &selector)
-{
-    QStringList conditions = selector.subject().attributes;
-    for (const QString &state : selector.states)
-        conditions << QLatin1Char(':') + state;
-    return conditions.mid(0, conditionLimit);
-}
+struct Candidate {
+    const StyleSelector *selector = nullptr;
+    const StyleRule *rule = nullptr;
+    int weight = 0;
+    Subject subject = Subject::Any;
+    int order = 0; // among equals
 
-bool showsText(const QString &part)
-{
-    static const QSet<QString> parts{QString(),
-                                     QStringLiteral("item"),
-                                     QStringLiteral("section"),
-                                     QStringLiteral("tab"),
-                                     QStringLiteral("title"),
-                                     QStringLiteral("text")};
-    return parts.contains(part);
-}
-
-bool isTextWidget(const QString &type)
-{
-    static const QStringList classes{
-        "QLabel",      "QAbstractButton",   "QLineEdit", "QTextEdit",  "QPlainTextEdit",
-        "QComboBox",   "QAbstractSpinBox",  "QMenu",     "QMenuBar",   "QTabBar",
-        "QGroupBox",   "QAbstractItemView", "QToolTip",  "QStatusBar", "QProgressBar",
-        "QDockWidget", "QCalendarWidget"};
-    const QStringList types = typeAndBases(type);
-    for (const QString &name : classes) {
-        if (types.contains(name))
-            return true;
+    bool operator<(const Candidate &other) const
+    {
+        return std::tie(weight, subject, order)
+            < std::tie(other.weight, other.subject, other.order);
     }
-    return false;
+};
+
+Candidate candidate(const StyleSelector &selector, const StyleRule &rule, int number,
+                    const StyleNode &node)
+{
+    Candidate result{&selector, &rule, number + selector.specificity() * specificityWeight,
+                     Subject::Any, -number};
+    const StyleSelector::Step &subject = selector.subject();
+    if (!subject.ids.isEmpty()) {
+        result.subject = Subject::Name;
+        result.order = number;
+    } else if (subject.type != QLatin1String("*")) {
+        result.subject = Subject::Class;
+        result.order = number - node.classes.indexOf(subject.type) * sheetWeight;
+    }
+    return result;
 }
 
-bool isPlain(const QString &type)
+bool isBare(const QString &styleSheet)
 {
-    return type == QLatin1String("*") || type == QLatin1String("QWidget")
-        || type == QLatin1String("QFrame");
+    return !styleSheet.contains(QLatin1Char('{'));
 }
 
-QString settled(const QString &property)
+StyleMatch match(const StyleDeclaration &declaration, const StyleSelector &selector)
 {
-    const QString lower = property.toLower();
-    return lower == QLatin1String("background") ? QStringLiteral("background-color") : lower;
+    const QLatin1String mark("!important");
+    StyleMatch result;
+    result.property = declaration.property.toLower();
+    result.value = declaration.value;
+    result.isImportant = declaration.value.endsWith(mark, Qt::CaseInsensitive);
+    if (result.isImportant)
+        result.value = declaration.value.chopped(mark.size()).trimmed();
+    result.selector = selector.text;
+    result.specificity = selector.specificity();
+    result.offset = declaration.start;
+    return result;
 }
 
 } // namespace
 
-StyleCascade::StyleCascade(const StyleRules &rules)
+class StyleCascade::Sheet
 {
-    for (const StyleRule &rule : rules.rules())
-        add(rule);
-}
-
-// Equal selectors share an entry, so that templates which repeat themselves cost no more.
-void StyleCascade::add(const StyleRule &rule)
-{
-    static const QSet<QString> wanted{QStringLiteral("color"), QStringLiteral("background-color"),
-                                      QStringLiteral("selection-color"),
-                                      QStringLiteral("selection-background-color")};
-    const QStringList selectors = rule.selector.split(QLatin1Char(','));
-    for (const QString &text : selectors) {
-        const QString name = text.simplified();
-        if (!m_byText.contains(name)) {
-            const StyleSelector selector = StyleSelector::parsed(name);
-            if (selector.steps.isEmpty())
-                continue;
-            m_byText.insert(name, m_entries.size());
-            m_buckets[bucketName(selector.part, selector.subject().type, conditionsIn(selector))]
-                .append(m_entries.size());
-            m_entries.append({selector, 0, {}});
-        }
-        Entry &entry = m_entries[m_byText.value(name)];
-        entry.order = rule.start;
-        for (const StyleDeclaration &declaration : rule.declarations) {
-            const QString property = settled(declaration.property);
-            if (wanted.contains(property))
-                entry.values.insert(property, {declaration.value, declaration.start});
-        }
+public:
+    explicit Sheet(const TemplateText &templates)
+        : m_templates(templates)
+        , m_text(templates.text())
+        , m_rules(m_text)
+    {
     }
-}
 
-StyleValue StyleCascade::value(const StyleSelector &where, const QString &property) const
-{
-    const QStringList conditions = conditionsIn(where);
-    const QStringList types = typeAndBases(where.subject().type);
-    const Entry *best = nullptr;
-    const auto beats = [](const Entry &entry, const Entry &other) {
-        const int difference = entry.selector.specificity() - other.selector.specificity();
-        return difference != 0 ? difference > 0 : entry.order > other.order;
-    };
-    for (uint chosen = 0; chosen < 1U << uint(conditions.size()); ++chosen) {
-        QStringList subset;
-        for (int i = 0; i < conditions.size(); ++i) {
-            if (chosen & (1U << uint(i)))
-                subset << conditions.at(i);
-        }
-        for (const QString &type : types) {
-            const QVector<int> bucket = m_buckets.value(bucketName(where.part, type, subset));
-            for (const int index : bucket) {
-                const Entry &entry = m_entries.at(index);
-                if (entry.values.contains(property) && isWherever(entry.selector.steps, where.steps)
-                    && (!best || beats(entry, *best)))
-                    best = &entry;
+    // Without a brace it is what a widget may have: declarations for it and all in it.
+    explicit Sheet(const QString &text)
+        : m_opening(isBare(text) ? QStringLiteral("*{") : QString())
+        , m_text(m_opening % text)
+        , m_rules(m_text)
+    {
+    }
+
+    const QVector<StyleRule> &rules() const { return m_rules.rules(); }
+
+    // Adds what matches the path's first object, the strongest first.
+    void collect(const StyleElement &element, QVector<StyleMatch> *matches) const
+    {
+        QVector<Candidate> candidates;
+        for (int number = 0; number < rules().size(); ++number) {
+            const StyleRule &rule = rules().at(number);
+            for (const StyleSelector &selector : rule.selectors) {
+                if (selector.isValid() && matchesObject(selector, element.path)
+                    && matchesState(selector, element))
+                    candidates.append(candidate(selector, rule, number, element.path.constFirst()));
             }
         }
-    }
-    return best ? best->values.value(property) : StyleValue();
-}
-
-StylePair StyleCascade::pair(const Entry &entry, const QString &foreground,
-                             const QString &background) const
-{
-    StylePair result;
-    result.selector = entry.selector;
-    result.foreground = value(entry.selector, foreground);
-    result.backgrounds.append(value(entry.selector, background));
-    if (!entry.selector.part.isEmpty()) {
-        StyleSelector widget = entry.selector;
-        widget.part.clear();
-        widget.states.clear();
-        if (result.foreground.offset < 0)
-            result.foreground = value(widget, foreground);
-        result.backgrounds.append(value(widget, background));
-    }
-    const QString type = entry.selector.subject().type;
-    const bool setsBoth = entry.values.contains(foreground) && entry.values.contains(background);
-    result.drawsText = setsBoth || isTextWidget(type);
-    return result;
-}
-
-QVector<StylePair> StyleCascade::pairs() const
-{
-    const QString properties[][2] = {
-        {QStringLiteral("color"), QStringLiteral("background-color")},
-        {QStringLiteral("selection-color"), QStringLiteral("selection-background-color")}};
-    QVector<StylePair> result;
-    for (const Entry &entry : m_entries) {
-        const QString type = entry.selector.subject().type;
-        const bool isDisabled = entry.selector.states.contains(QStringLiteral("disabled"))
-            || entry.selector.states.contains(QStringLiteral("!enabled"));
-        if (isDisabled || !showsText(entry.selector.part))
-            continue;
-        if (!isTextWidget(type) && !isPlain(type))
-            continue;
-        for (const auto &property : properties) {
-            if (!entry.values.contains(property[0]) && !entry.values.contains(property[1]))
-                continue;
-            const StylePair found = pair(entry, property[0], property[1]);
-            if (found.foreground.offset >= 0)
-                result.append(found);
+        std::sort(candidates.begin(), candidates.end());
+        const StyleRule *last = nullptr;
+        for (auto it = candidates.crbegin(); it != candidates.crend(); ++it) {
+            if (it->rule != last) // its declarations are told once, for the strongest selector
+                append(*it, matches);
+            last = it->rule;
         }
     }
-    return result;
+
+private:
+    void append(const Candidate &candidate, QVector<StyleMatch> *matches) const
+    {
+        const QVector<StyleDeclaration> &declarations = candidate.rule->declarations;
+        for (auto it = declarations.crbegin(); it != declarations.crend(); ++it) {
+            if (it->value.isEmpty())
+                continue;
+            StyleMatch found = match(*it, *candidate.selector);
+            place(&found);
+            matches->append(found);
+        }
+    }
+
+    void place(StyleMatch *found) const
+    {
+        if (m_templates) {
+            found->file = m_templates->fileAt(found->offset).input.path();
+            found->position = m_templates->positionAt(found->offset);
+            return;
+        }
+        const QString before = m_text.left(found->offset);
+        const int lineStart = before.lastIndexOf(QLatin1Char('\n')) + 1;
+        const int opening = lineStart == 0 ? m_opening.size() : 0;
+        found->position = {before.count(QLatin1Char('\n')) + 1,
+                           found->offset - lineStart - opening + 1};
+        found->offset -= m_opening.size();
+    }
+
+    const std::optional<TemplateText> m_templates;
+    const QString m_opening;
+    const QString m_text;
+    const StyleRules m_rules;
+};
+
+StyleCascade::StyleCascade(const TemplateText &templates)
+    : m_sheet(std::make_unique<Sheet>(templates))
+{
+}
+
+StyleCascade::StyleCascade(const QString &styleSheet)
+    : m_sheet(std::make_unique<Sheet>(styleSheet))
+{
+}
+
+StyleCascade::~StyleCascade() = default;
+
+QStringList StyleCascade::attributes() const
+{
+    return attributesIn(m_sheet->rules());
+}
+
+// A nearer style sheet outweighs what any reasonable specificity could add up to.
+QVector<StyleMatch> StyleCascade::own(const StyleElement &element) const
+{
+    QVector<StyleMatch> matches;
+    for (int i = 0; i < element.path.size(); ++i) {
+        if (element.path.at(i).styleSheet.isEmpty())
+            continue;
+        const int known = matches.size();
+        Sheet(element.path.at(i).styleSheet).collect(element, &matches);
+        for (int j = known; j < matches.size(); ++j)
+            matches[j].sheet = i;
+    }
+    m_sheet->collect(element, &matches);
+    return matches;
+}
+
+QVector<StyleMatch> StyleCascade::matches(const StyleElement &element) const
+{
+    if (element.path.isEmpty())
+        return {};
+    QVector<StyleMatch> all = own(element);
+    const auto inherit = [&](const StyleElement &from, int node) {
+        const QVector<StyleMatch> matches = own(from);
+        for (StyleMatch match : matches) {
+            if (!StyleVocabulary::isInherited(match.property))
+                continue;
+            match.node = node;
+            match.sheet += match.sheet == StyleMatch::application ? 0 : node;
+            match.isOfWidget = !element.subControl.isEmpty() && node == 0;
+            all.append(match);
+        }
+    };
+    StyleElement widget = element;
+    widget.subControl.clear();
+    if (!element.subControl.isEmpty())
+        inherit(widget, 0);
+    widget.states.intersect({QStringLiteral("enabled"), QStringLiteral("disabled")});
+    for (int node = 1; element.isPropagating && node < element.path.size(); ++node) {
+        widget.path.removeFirst();
+        inherit(widget, node);
+    }
+    return all;
+}
+
+QVector<StyleProperty> StyleCascade::properties(const StyleElement &element) const
+{
+    QMap<QString, StyleProperty> byName;
+    const QVector<StyleMatch> all = matches(element);
+    for (const StyleMatch &match : all) {
+        const QStringList names = StyleVocabulary::longhands(match.property);
+        for (const QString &name : names) {
+            StyleProperty &property = byName[name];
+            property.name = name;
+            property.matches.append(match);
+        }
+    }
+    QVector<StyleProperty> properties;
+    for (const StyleProperty &property : qAsConst(byName))
+        properties.append(property);
+    return properties;
 }

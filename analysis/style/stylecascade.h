@@ -4,60 +4,87 @@
 #ifndef ANALYSIS_STYLE_STYLECASCADE_H
 #define ANALYSIS_STYLE_STYLECASCADE_H
 
-#include <analysis/style/stylerules.h>
-#include <analysis/style/styleselector.h>
+#include <analysis/style/styleelement.h>
+#include <analysis/style/templatetext.h>
 
-#include <QHash>
+#include <QStringList>
 #include <QVector>
 
-/*! \brief A declaration that is in force for a selector; none if the offset is negative. */
-struct StyleValue {
-    QString text; //!< of the value, with its tokens
-    int offset = -1; //!< of the declaration
+#include <memory>
+
+/*! \brief A declaration of a rule that matches an element: what it says, why it counts and where it stands. */
+struct StyleMatch {
+    /*! \brief Whose style sheet it comes from: that of the application, or of a widget. */
+    static constexpr int application = -1;
+
+    QString property; //!< as the rule names it, in lower case: perhaps a shorthand such as "border"
+    QString value; //!< as written, with its tokens
+    bool isImportant = false; //!< marked `!important`, which Qt reads and then takes no notice of
+
+    QString selector; //!< the one of the rule's selectors that matches
+    int specificity = 0; //!< of that selector
+    int sheet = application; //!< or the index in the element's path of the widget that has it
+    int node = 0; //!< index in the path of the object that matches: not 0 where it is inherited
+    bool isOfWidget = false; //!< the element is a sub-control that takes this from its widget
+
+    QString file; //!< of the template; empty in a widget's own style sheet
+    TextPosition position; //!< of the declaration in that file or style sheet
+    int offset = 0; //!< of the declaration in the whole text
 };
 
-/*! \brief Text and what stands behind it, as the templates put them together. */
-struct StylePair {
-    StyleSelector selector; //!< where they meet
-    StyleValue foreground;
-    QVector<StyleValue> backgrounds; //!< the nearest first; what shines through reaches the next
-    bool drawsText = true; //!< false for a widget of no certain class
+/*! \brief One property of an element and all that want to set it. */
+struct StyleProperty {
+    QString
+        name; //!< never a shorthand: "border" is told twelve times, as "border-top-width" and so on
+    QVector<StyleMatch> matches; //!< never empty; the first is in force, it overrides the others
+
+    const StyleMatch &winner() const { return matches.constFirst(); }
 };
 
 /*!
- * \brief Which declarations are in force where, worked out from the selectors alone.
+ * \brief Tells which declarations of a style sheet are in force for an element, and which would be.
  *
- * A rule is in force for a selector if its own selector matches wherever that one does: as a class
- * or one it is derived from, with the same or fewer attributes, states and ancestors. Of several
- * the most specific, then the last, wins, as for Qt. A sub-control without a colour has that of its
- * widget, and shows its widget's background where it has none.
+ * ```
+ * const StyleCascade cascade(templates);
+ * const StyleElement element = StyleElement::of(widget, cascade.attributes());
+ * for (const StyleProperty &property : cascade.properties(element))
+ *     qInfo() << property.name << property.winner().value << property.winner().position.line;
+ * ```
+ *
+ * The order is Qt's, and not in all things that of the web: a style sheet that is nearer to the
+ * widget wins, then the greater sum of 256 times the specificity and the number of the rule in its
+ * style sheet (so the 257th rule beats the first even if that is a little more specific), then the
+ * later declaration. `!important` changes nothing. A declaration whose value Qt cannot read still
+ * overrides others. Sub-controls take colour and font from their widget; widgets take them from
+ * their parent only if StyleElement::isPropagating says so.
+ *
+ * Qt's own built-in style sheet, which any other overrides, is left out, and so are rules below
+ * `@media`. Needs no QApplication; const functions may be called from several threads.
  */
 class StyleCascade
 {
 public:
-    explicit StyleCascade(const StyleRules &rules);
+    /*! \brief Reads the application's style sheet, with its tokens, from \a templates. */
+    explicit StyleCascade(const TemplateText &templates);
+    /*! \brief Reads the application's style sheet from a text without files. */
+    explicit StyleCascade(const QString &styleSheet);
+    ~StyleCascade();
+    Q_DISABLE_COPY_MOVE(StyleCascade)
 
-    /*!
-     * \brief Returns every meeting of text and background, in the order of the rules.
-     *
-     * Left out are sub-controls that show no text, and disabled widgets, of which WCAG asks nothing.
-     */
-    QVector<StylePair> pairs() const;
+    /*! \brief Returns the properties of objects that selectors ask for, sorted. */
+    QStringList attributes() const;
+
+    /*! \brief Returns every declaration of every rule that matches \a element, the strongest first. */
+    QVector<StyleMatch> matches(const StyleElement &element) const;
+
+    /*! \brief Returns every property that anything sets for \a element, sorted by name. */
+    QVector<StyleProperty> properties(const StyleElement &element) const;
 
 private:
-    struct Entry {
-        StyleSelector selector;
-        int order = 0;
-        QHash<QString, StyleValue> values; // by property
-    };
+    class Sheet;
+    QVector<StyleMatch> own(const StyleElement &element) const;
 
-    void add(const StyleRule &rule);
-    StyleValue value(const StyleSelector &where, const QString &property) const;
-    StylePair pair(const Entry &entry, const QString &foreground, const QString &background) const;
-
-    QVector<Entry> m_entries;
-    QHash<QString, int> m_byText;
-    QHash<QString, QVector<int>> m_buckets;
+    std::unique_ptr<Sheet> m_sheet;
 };
 
 #endif

@@ -3,11 +3,12 @@
 
 #include <analysis/style/styleparser.h>
 
-#include <analysis/messagelog.h>
 #include <analysis/style/stylerules.h>
 
-#include <QApplication>
-#include <QWidget>
+#include <QGuiApplication>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QVariant>
 
 namespace
 {
@@ -15,12 +16,18 @@ namespace
 // A text with hundreds of mistakes is no style sheet; asking about each would take long.
 constexpr int rejectedLimit = 100;
 
+// A document that opens no picture which the style sheet names.
+class SilentDocument final : public QTextDocument
+{
+protected:
+    QVariant loadResource(int, const QUrl &) override { return QByteArray(); }
+};
+
 class Search
 {
 public:
-    Search(StyleParser *parser, const QString &text)
-        : m_parser(parser)
-        , m_text(text)
+    explicit Search(const QString &text)
+        : m_text(text)
         , m_rules(StyleRules(text).rules())
     {
     }
@@ -45,7 +52,7 @@ private:
 
     void search(int first, int last)
     {
-        if (m_rejected.size() >= rejectedLimit || m_parser->accepts(part(first, last)))
+        if (m_rejected.size() >= rejectedLimit || StyleParser::accepts(part(first, last)))
             return;
         if (last - first <= 1) {
             reject(first);
@@ -67,7 +74,6 @@ private:
         return place;
     }
 
-    StyleParser *m_parser;
     const QString m_text;
     const QVector<StyleRule> m_rules;
     QVector<int> m_rejected;
@@ -75,23 +81,25 @@ private:
 
 } // namespace
 
+bool StyleParser::isAvailable()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr;
+}
+
+// Qt keeps the rules that it read before it gave up. So a rule is put behind the text and looked
+// for; what stands before it there ends a selector or comma that was left open.
 bool StyleParser::accepts(const QString &styleSheet)
 {
-    // Qt parses an application's style sheet when the first widget asks for it, and says so if it
-    // fails. A widget's own style sheet would not do: that is tried as bare declarations as well.
-    MessageLog log;
-    QWidget widget;
-    qApp->setStyleSheet(styleSheet);
-    widget.ensurePolished();
-    qApp->setStyleSheet(QString());
-    for (const LoggedMessage &message : log.messages()) {
-        if (message.text.startsWith(QLatin1String("Could not parse")))
-            return false;
-    }
-    return true;
+    constexpr int indent = 7;
+    SilentDocument document;
+    document.setUndoRedoEnabled(false);
+    document.setDefaultStyleSheet(styleSheet % QLatin1String("\n<!-- -->\np#hvtheme-end{")
+                                  % QStringLiteral("-qt-block-indent:%1}").arg(indent));
+    document.setHtml(QStringLiteral("<p id=\"hvtheme-end\">x</p>"));
+    return document.firstBlock().blockFormat().indent() == indent;
 }
 
 QVector<int> StyleParser::rejectedRules(const QString &styleSheet)
 {
-    return Search(this, styleSheet).rejected();
+    return Search(styleSheet).rejected();
 }

@@ -10,21 +10,32 @@
 /*!
  * \brief Asks Qt's own parser for style sheets what it cannot read.
  *
- * Needs a QApplication, whose style sheet it borrows; one parser at a time.
+ * It is the parser of an application's style sheet, reached through a text document, so that no
+ * application's or widget's style sheet, no message handler and no file is touched. Fonts make it
+ * need a QGuiApplication all the same.
  */
-class StyleParser
+namespace StyleParser
 {
-public:
-    /*! \brief Tells whether Qt parses \a styleSheet as an application's. */
-    bool accepts(const QString &styleSheet);
 
-    /*!
-     * \brief Returns where the rules begin that Qt cannot parse, in order.
-     *
-     * Found by giving Qt the halves of what it rejects, down to single rules, so that the time
-     * stays linear in the text for a few mistakes.
-     */
-    QVector<int> rejectedRules(const QString &styleSheet);
-};
+/*! \brief Tells whether there is a QGuiApplication; without one nothing can be asked. */
+bool isAvailable();
+
+/*!
+ * \brief Tells whether Qt reads \a styleSheet to its end.
+ *
+ * Needs isAvailable(). Also false for text that Qt drops without saying so, as it does from a
+ * stray "%" on.
+ */
+bool accepts(const QString &styleSheet);
+
+/*!
+ * \brief Returns where the rules begin that Qt cannot read, in order; needs isAvailable().
+ *
+ * Found by giving Qt the halves of what it rejects, down to single rules, so that the time
+ * stays linear in the text for a few mistakes.
+ */
+QVector<int> rejectedRules(const QString &styleSheet);
+
+} // namespace StyleParser
 
 #endif

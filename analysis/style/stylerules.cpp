@@ -27,7 +27,9 @@ public:
             m_at = brace + 1;
             if (brace >= m_text.size() || m_text.at(brace) != u'{')
                 continue; // a stray character, or a statement such as @import
-            rule.selector = m_text.mid(rule.start, brace - rule.start).simplified();
+            const QString selectors = m_text.mid(rule.start, brace - rule.start);
+            rule.selector = selectors.simplified();
+            rule.selectors = StyleSelector::parsedList(selectors, rule.start);
             rule.declarations = declarations();
             rule.end = m_at;
             result.append(rule);
@@ -106,7 +108,7 @@ StyleRules::StyleRules(const QString &text)
     for (int start = text.indexOf(opening); start >= 0;) {
         const int close = text.indexOf(closing, start + opening.size());
         const int end = close < 0 ? text.size() : close + closing.size();
-        m_comments.append({start, end});
+        m_comments.append({start, end, close >= 0});
         std::fill(blanked.begin() + start, blanked.begin() + end, QChar(u' '));
         start = text.indexOf(opening, end);
     }

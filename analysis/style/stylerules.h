@@ -4,6 +4,8 @@
 #ifndef ANALYSIS_STYLE_STYLERULES_H
 #define ANALYSIS_STYLE_STYLERULES_H
 
+#include <analysis/style/styleselector.h>
+
 #include <QString>
 #include <QVector>
 
@@ -20,6 +22,7 @@ struct StyleRule {
     QString selector; //!< without comments, blanks simplified; with commas if there are several
     int start = 0; //!< of the selector
     int end = 0; //!< behind the closing brace
+    QVector<StyleSelector> selectors; //!< each by itself; Qt refuses the rule if one is not valid
     QVector<StyleDeclaration> declarations;
 
     /*! \brief Returns the declaration that \a offset lies in, or null. */
@@ -36,6 +39,13 @@ struct StyleRule {
 class StyleRules
 {
 public:
+    /*! \brief A comment with its slashes; one that is never closed reaches to the text's end. */
+    struct Comment {
+        int start;
+        int end;
+        bool isClosed;
+    };
+
     explicit StyleRules(const QString &text);
 
     /*! \brief Returns the rules in the order of the text. */
@@ -47,11 +57,10 @@ public:
     /*! \brief Tells whether \a offset lies in a comment. */
     bool isComment(int offset) const;
 
+    /*! \brief Returns the comments in the order of the text. */
+    const QVector<Comment> &comments() const { return m_comments; }
+
 private:
-    struct Comment {
-        int start;
-        int end;
-    };
     QVector<Comment> m_comments;
     QVector<StyleRule> m_rules;
 };

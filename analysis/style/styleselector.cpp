@@ -3,180 +3,238 @@
 
 #include <analysis/style/styleselector.h>
 
-#include <QHash>
-#include <QRegularExpression>
-#include <QtWidgets>
+#include <analysis/style/stylevocabulary.h>
 
 namespace
 {
 
-QHash<QString, const QMetaObject *> widgetClasses()
+using Match = StyleSelector::Attribute::Match;
+using Step = StyleSelector::Step;
+
+bool isNameCharacter(QChar character)
 {
-    const QMetaObject *const classes[] = {&QCalendarWidget::staticMetaObject,
-                                          &QCheckBox::staticMetaObject,
-                                          &QColumnView::staticMetaObject,
-                                          &QComboBox::staticMetaObject,
-                                          &QCommandLinkButton::staticMetaObject,
-                                          &QDateEdit::staticMetaObject,
-                                          &QDateTimeEdit::staticMetaObject,
-                                          &QDial::staticMetaObject,
-                                          &QDialog::staticMetaObject,
-                                          &QDialogButtonBox::staticMetaObject,
-                                          &QDockWidget::staticMetaObject,
-                                          &QDoubleSpinBox::staticMetaObject,
-                                          &QGroupBox::staticMetaObject,
-                                          &QHeaderView::staticMetaObject,
-                                          &QKeySequenceEdit::staticMetaObject,
-                                          &QLCDNumber::staticMetaObject,
-                                          &QLabel::staticMetaObject,
-                                          &QLineEdit::staticMetaObject,
-                                          &QListWidget::staticMetaObject,
-                                          &QMainWindow::staticMetaObject,
-                                          &QMdiArea::staticMetaObject,
-                                          &QMenu::staticMetaObject,
-                                          &QMenuBar::staticMetaObject,
-                                          &QMessageBox::staticMetaObject,
-                                          &QPlainTextEdit::staticMetaObject,
-                                          &QProgressBar::staticMetaObject,
-                                          &QPushButton::staticMetaObject,
-                                          &QRadioButton::staticMetaObject,
-                                          &QScrollArea::staticMetaObject,
-                                          &QScrollBar::staticMetaObject,
-                                          &QSizeGrip::staticMetaObject,
-                                          &QSlider::staticMetaObject,
-                                          &QSpinBox::staticMetaObject,
-                                          &QSplitter::staticMetaObject,
-                                          &QStackedWidget::staticMetaObject,
-                                          &QStatusBar::staticMetaObject,
-                                          &QTabBar::staticMetaObject,
-                                          &QTabWidget::staticMetaObject,
-                                          &QTableWidget::staticMetaObject,
-                                          &QTextBrowser::staticMetaObject,
-                                          &QTimeEdit::staticMetaObject,
-                                          &QToolBar::staticMetaObject,
-                                          &QToolBox::staticMetaObject,
-                                          &QToolButton::staticMetaObject,
-                                          &QTreeWidget::staticMetaObject,
-                                          &QUndoView::staticMetaObject,
-                                          &QWizard::staticMetaObject};
-    QHash<QString, const QMetaObject *> byName;
-    for (const QMetaObject *meta : classes) {
-        for (; meta && meta != &QObject::staticMetaObject; meta = meta->superClass())
-            byName.insert(QString::fromLatin1(meta->className()), meta);
+    return character.isLetterOrNumber() || character == u'_' || character == u'-';
+}
+
+// Reads each character once, from left to right.
+class SelectorScanner
+{
+public:
+    SelectorScanner(const QString &text, int offset)
+        : m_text(text)
+        , m_offset(offset)
+    {
     }
-    return byName;
-}
 
-// What a single colon can introduce; any other word names a sub-control, for Qt too.
-bool isState(const QString &name)
-{
-    static const QSet<QString> states = [] {
-        const QString names = QStringLiteral(
-            "active adjoins-item alternate bottom checked closable closed default disabled "
-            "editable edit-focus enabled exclusive first flat floatable focus has-children "
-            "has-siblings horizontal hover indeterminate last left maximized middle minimized "
-            "movable no-frame non-exclusive off on only-one open next-selected pressed "
-            "previous-selected read-only right selected top unchecked vertical window");
-        const QStringList list = names.split(QLatin1Char(' '));
-        return QSet<QString>(list.cbegin(), list.cend());
-    }();
-    return states.contains(name.startsWith(QLatin1Char('!')) ? name.mid(1) : name);
-}
+    // Returns the steps, or none where Qt would refuse the rule.
+    QVector<Step> steps()
+    {
+        QVector<Step> steps;
+        skipBlanks();
+        StyleSelector::Combinator combinator = StyleSelector::Combinator::Descendant;
+        do {
+            Step step;
+            step.combinator = combinator;
+            step.offset = m_offset + m_at;
+            if (!readStep(&step))
+                return {};
+            steps.append(step);
+        } while (readCombinator(&combinator));
+        return m_at == m_text.size() ? steps : QVector<Step>();
+    }
 
-bool holds(const StyleSelector::Step &general, const StyleSelector::Step &specific)
-{
-    if (!typeAndBases(specific.type).contains(general.type))
-        return false;
-    for (const QString &attribute : general.attributes) {
-        if (!specific.attributes.contains(attribute))
+private:
+    QChar current() const { return m_at < m_text.size() ? m_text.at(m_at) : QChar(); }
+
+    bool take(char16_t character)
+    {
+        if (current() != character)
             return false;
+        ++m_at;
+        return true;
     }
-    return true;
-}
+
+    bool skipBlanks()
+    {
+        const int start = m_at;
+        while (m_at < m_text.size() && m_text.at(m_at).isSpace())
+            ++m_at;
+        return m_at > start;
+    }
+
+    QString readName()
+    {
+        const int start = m_at;
+        while (m_at < m_text.size() && isNameCharacter(m_text.at(m_at)))
+            ++m_at;
+        return m_text.mid(start, m_at - start);
+    }
+
+    // As class names, attributes and pseudos begin: not with a digit.
+    QString readIdentifier() { return current().isDigit() ? QString() : readName(); }
+
+    bool readCombinator(StyleSelector::Combinator *combinator)
+    {
+        const bool isBlank = skipBlanks();
+        *combinator = StyleSelector::Combinator::Descendant;
+        if (take(u'>'))
+            *combinator = StyleSelector::Combinator::Child;
+        else if (take(u'+') || take(u'~'))
+            *combinator = StyleSelector::Combinator::Sibling;
+        else
+            return isBlank && m_at < m_text.size();
+        skipBlanks();
+        return true;
+    }
+
+    bool readStep(Step *step)
+    {
+        const int start = m_at;
+        step->type = take(u'*') ? QString() : readIdentifier();
+        if (step->type.isEmpty())
+            step->type = QStringLiteral("*");
+        while (m_at < m_text.size() && readCondition(step)) { }
+        return m_at > start && !m_hasFailed;
+    }
+
+    bool readCondition(Step *step)
+    {
+        if (take(u'#')) {
+            step->ids << readName();
+            m_hasFailed |= step->ids.constLast().isEmpty();
+        } else if (take(u'.')) {
+            step->attributes.append({QStringLiteral("class"), readIdentifier(), Match::HasWord});
+            m_hasFailed |= step->attributes.constLast().value.isEmpty();
+        } else if (take(u'[')) {
+            m_hasFailed |= !readAttribute(step);
+        } else if (take(u':')) {
+            take(u':');
+            StyleSelector::Pseudo pseudo;
+            pseudo.offset = m_offset + m_at;
+            pseudo.isNegated = take(u'!');
+            pseudo.name = readIdentifier().toLower();
+            m_hasFailed |= pseudo.name.isEmpty();
+            step->pseudos.append(pseudo);
+        } else {
+            return false;
+        }
+        return !m_hasFailed;
+    }
+
+    Match readOperator()
+    {
+        const QChar first = current();
+        if (take(u'='))
+            return Match::Equals;
+        ++m_at;
+        if (!take(u'='))
+            return Match::Exists;
+        switch (first.unicode()) {
+        case u'~':
+            return Match::HasWord;
+        case u'|':
+            return Match::HasDash;
+        case u'^':
+            return Match::StartsWith;
+        case u'$':
+            return Match::EndsWith;
+        case u'*':
+            return Match::Contains;
+        default:
+            return Match::Exists;
+        }
+    }
+
+    bool readAttribute(Step *step)
+    {
+        StyleSelector::Attribute attribute;
+        skipBlanks();
+        attribute.name = readIdentifier();
+        skipBlanks();
+        if (!take(u']')) {
+            attribute.match = readOperator();
+            skipBlanks();
+            if (attribute.match == Match::Exists || !readAttributeValue(&attribute.value))
+                return false;
+            skipBlanks();
+            if (!take(u']'))
+                return false;
+        }
+        step->attributes.append(attribute);
+        return !attribute.name.isEmpty();
+    }
+
+    bool readAttributeValue(QString *value)
+    {
+        const QChar quote = current();
+        if (!take(u'"') && !take(u'\'')) {
+            *value = readIdentifier();
+            return !value->isEmpty();
+        }
+        const int start = m_at;
+        while (m_at < m_text.size() && m_text.at(m_at) != quote)
+            ++m_at;
+        *value = m_text.mid(start, m_at - start);
+        return take(quote.unicode());
+    }
+
+    const QString m_text;
+    const int m_offset;
+    int m_at = 0;
+    bool m_hasFailed = false;
+};
 
 } // namespace
 
-int StyleSelector::specificity() const
+QString StyleSelector::subControl() const
 {
-    int names = 0;
-    int attributes = states.size();
-    int types = part.isEmpty() ? 0 : 1;
-    for (const Step &step : steps) {
-        for (const QString &attribute : step.attributes)
-            ++(attribute.startsWith(QLatin1Char('#')) ? names : attributes);
-        types += step.type == QLatin1String("*") ? 0 : 1;
-    }
-    return names * 10000 + attributes * 100 + types;
+    const QVector<Pseudo> &pseudos = subject().pseudos;
+    const bool isFirst = !pseudos.isEmpty() && !StyleVocabulary::isState(pseudos.constFirst().name);
+    return isFirst ? pseudos.constFirst().name : QString();
 }
 
-StyleSelector StyleSelector::parsed(const QString &text)
+QVector<StyleSelector::Pseudo> StyleSelector::states() const
 {
-    static const QRegularExpression piece(QStringLiteral(
-        "\\s*(>)\\s*|(\\s+)|(\\[[^\\]]*\\])|([#.][\\w-]+)|(::?)(!?[\\w-]+)|([\\w*]+)"));
-    StyleSelector selector;
-    selector.text = text.trimmed();
-    selector.steps.append({QStringLiteral("*"), {}, false});
-    int position = 0;
-    while (position < selector.text.size()) {
-        const QRegularExpressionMatch match =
-            piece.match(selector.text, position, QRegularExpression::NormalMatch,
-                        QRegularExpression::AnchoredMatchOption);
-        if (!match.hasMatch())
-            return {};
-        position = match.capturedEnd();
-        Step &step = selector.steps.last();
-        if (match.capturedLength(1) > 0 || match.capturedLength(2) > 0) {
-            selector.steps.append({QStringLiteral("*"), {}, match.capturedLength(1) > 0});
-        } else if (match.capturedLength(3) > 0) {
-            QString attribute = match.captured(3);
-            step.attributes << attribute.remove(QLatin1Char(' '))
-                                   .remove(QLatin1Char('"'))
-                                   .remove(QLatin1Char('\''));
-        } else if (match.capturedLength(4) > 0) {
-            step.attributes << match.captured(4);
-        } else if (match.capturedLength(5) > 0) {
-            const QString name = match.captured(6);
-            if (selector.part.isEmpty() && selector.states.isEmpty() && !isState(name))
-                selector.part = name;
-            else
-                selector.states << name;
-        } else {
-            step.type = match.captured(7);
-        }
+    return subject().pseudos.mid(subControl().isEmpty() ? 0 : 1);
+}
+
+int StyleSelector::specificity() const
+{
+    int result = 0;
+    for (const Step &step : steps) {
+        result += step.ids.size() * 0x100 + (step.attributes.size() + step.pseudos.size()) * 0x10
+            + (step.type == QLatin1String("*") ? 0 : 1);
     }
-    for (Step &step : selector.steps)
-        step.attributes.sort();
-    selector.states.sort();
+    return result;
+}
+
+StyleSelector StyleSelector::parsed(const QString &text, int offset)
+{
+    int blanks = 0;
+    while (blanks < text.size() && text.at(blanks).isSpace())
+        ++blanks;
+    StyleSelector selector;
+    selector.text = text.simplified();
+    selector.offset = offset + blanks;
+    selector.steps = SelectorScanner(text.trimmed(), selector.offset).steps();
     return selector;
 }
 
-bool isWherever(const QVector<StyleSelector::Step> &general,
-                const QVector<StyleSelector::Step> &specific)
+QVector<StyleSelector> StyleSelector::parsedList(const QString &text, int offset)
 {
-    if (!holds(general.constLast(), specific.constLast()))
-        return false;
-    int from = specific.size() - 1;
-    for (int i = general.size() - 2; i >= 0; --i) {
-        const bool isChild = general.at(i + 1).isChild;
-        if (isChild && (from == 0 || !specific.at(from).isChild))
-            return false;
-        --from;
-        while (from >= 0 && !isChild && !holds(general.at(i), specific.at(from)))
-            --from;
-        if (from < 0 || !holds(general.at(i), specific.at(from)))
-            return false;
+    QVector<StyleSelector> selectors;
+    QChar quote;
+    int start = 0;
+    for (int at = 0; at <= text.size(); ++at) {
+        const QChar character = at < text.size() ? text.at(at) : QChar();
+        if (at == text.size() || (quote.isNull() && character == u',')) {
+            selectors.append(parsed(text.mid(start, at - start), offset + start));
+            start = at + 1;
+        } else if (!quote.isNull()) {
+            quote = character == quote || character == u'\n' ? QChar() : quote;
+        } else if (character == u'"' || character == u'\'') {
+            quote = character;
+        }
     }
-    return true;
-}
-
-QStringList typeAndBases(const QString &type)
-{
-    static const QHash<QString, const QMetaObject *> classes = widgetClasses();
-    QStringList types;
-    for (const QMetaObject *meta = classes.value(type); meta && meta != &QObject::staticMetaObject;
-         meta = meta->superClass())
-        types << QString::fromLatin1(meta->className());
-    if (types.isEmpty() && type != QLatin1String("*"))
-        types << type << QStringLiteral("QWidget"); // a class of the application
-    return types << QStringLiteral("*");
+    return selectors;
 }

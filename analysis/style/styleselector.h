@@ -8,37 +8,79 @@
 #include <QStringList>
 #include <QVector>
 
-/*! \brief One selector of a style sheet, such as `QMenu::item:selected`, taken apart. */
+/*!
+ * \brief One selector of a style sheet, such as `QMenu::item:selected`, taken apart as Qt does.
+ *
+ * Offsets are those of the text it was read from, so that each piece can be pointed at.
+ */
 struct StyleSelector {
+    /*! \brief `[name]`, `[name="value"]` and their like; `.name` is `[class~="name"]`. */
+    struct Attribute {
+        enum class Match {
+            Exists,
+            Equals,
+            HasWord,
+            HasDash,
+            StartsWith,
+            EndsWith,
+            Contains
+        };
+
+        QString name;
+        QString value; //!< without quotation marks
+        Match match = Match::Exists;
+    };
+
+    /*! \brief What follows a colon, or two: Qt makes no difference. */
+    struct Pseudo {
+        QString name; //!< in lower case, without "!"
+        bool isNegated = false;
+        int offset = 0; //!< of the name or its "!"
+
+        /*! \brief Returns the name with its "!". */
+        QString text() const { return isNegated ? QString(QLatin1Char('!') + name) : name; }
+    };
+
+    /*! \brief How a step is joined to the one before it. */
+    enum class Combinator {
+        Descendant,
+        Child,
+        Sibling
+    };
+
     /*! \brief What stands between two combinators. */
     struct Step {
         QString type; //!< "*" if none is given
-        QStringList attributes; //!< with #names and .classes; sorted
-        bool isChild = false; //!< joined to the step before with ">"
+        QStringList ids; //!< without "#"
+        QVector<Attribute> attributes;
+        QVector<Pseudo> pseudos; //!< of a step that is not the last they count, but say nothing
+        Combinator combinator = Combinator::Descendant;
+        int offset = 0;
     };
 
-    QString text; //!< as written
+    QString text; //!< as written, blanks simplified
+    int offset = 0;
     QVector<Step> steps; //!< the last one is the widget that the rule styles
-    QString part; //!< the sub-control, such as "item"
-    QStringList states; //!< such as "hover" or "!enabled"; sorted
+
+    /*! \brief Tells whether it could be taken apart; else there are no steps. */
+    bool isValid() const { return !steps.isEmpty(); }
 
     const Step &subject() const { return steps.constLast(); }
 
-    /*! \brief Returns how selectors compete; the greater wins, then the later. */
+    /*! \brief Returns the sub-control, such as "item": the first pseudo, if it names no state. */
+    QString subControl() const;
+
+    /*! \brief Returns the states, such as "hover", in their order. */
+    QVector<Pseudo> states() const;
+
+    /*! \brief Returns what Qt weighs a selector with: 256 a name, 16 a condition, 1 a class. */
     int specificity() const;
 
-    /*! \brief Takes one selector apart; no steps if it cannot be done. */
-    static StyleSelector parsed(const QString &text);
+    /*! \brief Takes one selector apart, in time linear in \a text, which starts at \a offset. */
+    static StyleSelector parsed(const QString &text, int offset = 0);
+
+    /*! \brief Takes apart what stands before a brace: selectors with commas between them. */
+    static QVector<StyleSelector> parsedList(const QString &text, int offset = 0);
 };
-
-/*!
- * \brief Tells whether a selector with these \a general steps matches wherever one with the
- *        \a specific steps does.
- */
-bool isWherever(const QVector<StyleSelector::Step> &general,
-                const QVector<StyleSelector::Step> &specific);
-
-/*! \brief Returns \a type, the classes it is derived from, as far as Qt Widgets has them, and "*". */
-QStringList typeAndBases(const QString &type);
 
 #endif

@@ -3,7 +3,6 @@
 
 #include <analysis/messagelog.h>
 #include <analysis/rules/rules.h>
-#include <analysis/style/styleparser.h>
 #include <analysis/suggestion.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
@@ -34,8 +33,6 @@ private Q_SLOTS:
     void suggestions();
     void vocabularyRefused_data();
     void vocabularyRefused();
-    void rejectedRules_data();
-    void rejectedRules();
     void endless_data();
     void endless();
     void text();
@@ -323,30 +320,6 @@ void tst_Check::vocabularyRefused()
     QString error;
     QVERIFY(!Vocabulary::read(file.fileName(), &error));
     QCOMPARE(error, file.fileName() + ": " + reason);
-}
-
-void tst_Check::rejectedRules_data()
-{
-    QTest::addColumn<QString>("styleSheet");
-    QTest::addColumn<QStringList>("rejected"); // what they begin with
-
-    const QString good = QStringLiteral("QLabel { color: red; }\n");
-    QTest::newRow("none") << good + good << QStringList();
-    QTest::newRow("empty") << QString() << QStringList();
-    QTest::newRow("bare-text") << "color: red" << QStringList("color");
-    QTest::newRow("one") << good + "QFrame } {}" + good << QStringList("QFrame }");
-    QTest::newRow("two") << "A } {}" + good + good + "B } {}" + good << QStringList({"A }", "B }"});
-}
-
-void tst_Check::rejectedRules()
-{
-    QFETCH(QString, styleSheet);
-    QFETCH(QStringList, rejected);
-    const QVector<int> found = StyleParser().rejectedRules(styleSheet);
-    QCOMPARE(found.size(), rejected.size());
-    for (int i = 0; i < found.size(); ++i)
-        QVERIFY2(styleSheet.mid(found.at(i)).startsWith(rejected.at(i)),
-                 qPrintable(styleSheet.mid(found.at(i))));
 }
 
 void tst_Check::endless_data()
