@@ -51,3 +51,24 @@ function(hvtheme_install_program target)
     endif()
     install(TARGETS ${target} ${export} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${arg_COMPONENT})
 endfunction()
+
+# hvtheme_install_pkg_config(<name>)
+#
+# Installs cmake/<name>.pc.in, its variables replaced. Absolute folders stay what they are; the prefix
+# of others is found from where the file stands.
+function(hvtheme_install_pkg_config name)
+    file(RELATIVE_PATH pc_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+    set(pc_prefix "\${pcfiledir}/${pc_prefix}")
+    if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+        set(pc_prefix "${CMAKE_INSTALL_PREFIX}")
+    endif()
+    foreach(folder LIBDIR INCLUDEDIR)
+        set(pc_${folder} "\${prefix}/${CMAKE_INSTALL_${folder}}")
+        if(IS_ABSOLUTE "${CMAKE_INSTALL_${folder}}")
+            set(pc_${folder} "${CMAKE_INSTALL_${folder}}")
+        endif()
+    endforeach()
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in ${name}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
+endfunction()

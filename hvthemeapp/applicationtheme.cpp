@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "applicationtheme.h"
+
+#include "applicationpalette.h"
+#include "iconcolors.h"
+#include "iconplugins.h"
+#include "missingimages.h"
+
+#include <hvtheme/restyling.h>
+#include <hvtheme/theming.h>
+#include <hvtheme/workabletheming.h>
+
+#include <QApplication>
+#include <QFile>
+#include <QSettings>
+
+// Q_INIT_RESOURCE declares functions, so it may not stand inside a namespace.
+static void initResources()
+{
+#ifdef HVTHEME_STATIC_DEFINE
+    Q_INIT_RESOURCE(hvtheme);
+#endif
+    Q_INIT_RESOURCE(hvthemeapp);
+    Q_INIT_RESOURCE(hvthemeapp_themes);
+}
+
+namespace HV
+{
+
+class ApplicationTheme::Private
+{
+public:
+    std::unique_ptr<Theme> theme = std::make_unique<WorkableTheme>();
+    QString name;
+};
+
+ApplicationTheme::ApplicationTheme(QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<Private>())
+{
+    initResources();
+    registerIcons();
+}
+
+ApplicationTheme::~ApplicationTheme() = default;
+
+QString ApplicationTheme::name() const
+{
+    return d->name;
+}
+
+Theme *ApplicationTheme::theme() const
+{
+    return d->theme.get();
+}
+
+bool ApplicationTheme::setName(const QString &name)
+{
+    const QString folder = QStringLiteral(":/hvthemeapp/themes");
+    if (!QFile::exists(folder + QLatin1Char('/') + name + QLatin1String(".theme")))
+        return false;
+    changeTheme(d->theme.get(), name, folder);
+    addMissingImages(*d->theme);
+    d->name = name;
+
+    QString sheet;
+    for (const char *templates : {":/stylesheet", ":/hvthemeapp/stylesheet"})
+        sheet += findStyleSheet(d->theme.get(), QLatin1String(templates), QStringLiteral("global"))
+            + QLatin1Char('\n');
+    restyle(*qApp, sheet, [this] {
+        QApplication::setPalette(applicationPalette(*d->theme));
+        IconColors::setValues(d->theme->values());
+    });
+    Q_EMIT nameChanged();
+    Q_EMIT changed();
+    return true;
+}
+
+} // namespace HV
