@@ -32,13 +32,18 @@ int encoded(double channel)
     return int(std::nearbyint(255.0 * curve));
 }
 
+double cube(double x)
+{
+    return x * x * x;
+}
+
 LinearColor linearColor(const ColorMath::Oklch &color)
 {
     const double a = color.chroma * std::cos(qDegreesToRadians(color.hue));
     const double b = color.chroma * std::sin(qDegreesToRadians(color.hue));
-    const double l = std::pow(color.lightness + 0.3963377774 * a + 0.2158037573 * b, 3);
-    const double m = std::pow(color.lightness - 0.1055613458 * a - 0.0638541728 * b, 3);
-    const double s = std::pow(color.lightness - 0.0894841775 * a - 1.2914855480 * b, 3);
+    const double l = cube(color.lightness + 0.3963377774 * a + 0.2158037573 * b);
+    const double m = cube(color.lightness - 0.1055613458 * a - 0.0638541728 * b);
+    const double s = cube(color.lightness - 0.0894841775 * a - 1.2914855480 * b);
     return {4.0767416621 * l - 3.3077115913 * m + 0.2309699292 * s,
             -1.2684380046 * l + 2.6097574011 * m - 0.3413193965 * s,
             -0.0041960863 * l - 0.7034186147 * m + 1.7076147010 * s};

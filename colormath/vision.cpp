@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include <colormath/distance.h>
 #include <colormath/vision.h>
 
 #include <QImage>
 
-#include <array>
 #include <cmath>
 
 namespace
@@ -93,16 +91,28 @@ QImage seenBy(Vision vision, const QImage &image)
     return result;
 }
 
+std::array<Lab, visionCount> seenByAll(const QColor &color)
+{
+    return {toLab(color), toLab(seenBy(Vision::Protan, color)),
+            toLab(seenBy(Vision::Deutan, color)), toLab(seenBy(Vision::Tritan, color))};
+}
+
 double leastDistance(const QColor &first, const QColor &second, Vision *worst)
 {
+    return leastDistance(seenByAll(first), seenByAll(second), worst);
+}
+
+double leastDistance(const std::array<Lab, visionCount> &first,
+                     const std::array<Lab, visionCount> &second, Vision *worst)
+{
     double least = 1000.0;
-    for (const Vision vision : {Vision::Normal, Vision::Protan, Vision::Deutan, Vision::Tritan}) {
-        const double value = distance(toLab(seenBy(vision, first)), toLab(seenBy(vision, second)));
+    for (size_t i = 0; i < first.size(); ++i) {
+        const double value = distance(first[i], second[i]);
         if (value >= least)
             continue;
         least = value;
         if (worst)
-            *worst = vision;
+            *worst = Vision(i);
     }
     return least;
 }

@@ -4,7 +4,11 @@
 #ifndef COLORMATH_VISION_H
 #define COLORMATH_VISION_H
 
+#include <colormath/distance.h>
+
 #include <QColor>
+
+#include <array>
 
 class QImage;
 
@@ -30,12 +34,21 @@ QColor seenBy(Vision vision, const QColor &color);
 /*! \brief The same for each pixel of a picture. */
 QImage seenBy(Vision vision, const QImage &image);
 
+constexpr int visionCount = 4;
+
+/*! \brief Returns \a color as each vision sees it, in the order of Vision. */
+std::array<Lab, visionCount> seenByAll(const QColor &color);
+
 /*!
  * \brief Returns the smallest CIEDE2000 distance of two colours over all kinds of vision.
  *
  * \param worst  may be null; set to the vision that sees it.
  */
 double leastDistance(const QColor &first, const QColor &second, Vision *worst = nullptr);
+
+/*! \brief The same for colours that are compared more than once, as seenByAll() gives them. */
+double leastDistance(const std::array<Lab, visionCount> &first,
+                     const std::array<Lab, visionCount> &second, Vision *worst = nullptr);
 
 } // namespace ColorMath
 

@@ -4,6 +4,7 @@
 #include <tools/command_check.h>
 #include <tools/command_diff.h>
 #include <tools/command_explain.h>
+#include <tools/command_new.h>
 #include <tools/command_render.h>
 #include <tools/command_sheet.h>
 #include <tools/command_values.h>
@@ -36,6 +37,7 @@ const Command commands[] = {
     {"values", "List the values that a theme has in store.", Needs::Core, runValues},
     {"explain", "Tell where a value comes from and what uses it.", Needs::Core, runExplain},
     {"diff", "List the values in which two themes differ.", Needs::Core, runDiff},
+    {"new", "Make a folder of themes of one colour.", Needs::Core, runNew},
     {"sheet", "Draw themes side by side, as a picture or a page.", Needs::Widgets, runSheet},
 };
 

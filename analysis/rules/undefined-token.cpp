@@ -4,6 +4,8 @@
 #include <analysis/rules/rules.h>
 #include <analysis/suggestion.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -34,13 +36,32 @@ QStringList visibleKeys(const ThemeProject &input)
     return keys.values();
 }
 
+bool hasImages(const ThemeProject &input)
+{
+    const auto &themes = input.allThemes();
+    return std::any_of(themes.cbegin(), themes.cend(), [](const ThemeStack *theme) {
+        return !theme->stored(Kind::ImageFile).isEmpty();
+    });
+}
+
+// The application library draws all images of the built-in templates itself for a theme that names
+// none, so such a theme is whole.
+bool isDrawnByApplication(const ThemeProject &input, const TemplateToken &token)
+{
+    return token.kind == Kind::ImageFile
+        && input.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
+}
+
 } // namespace
 
 void Rules::undefinedToken(const ThemeProject &input, Report &report)
 {
     const Suggestion suggestion(visibleKeys(input));
+    const bool isWithoutImages = !hasImages(input);
     for (const TemplateToken &token : input.tokens()) {
         if (isDefined(input, token.key) || keyWithoutUnit(input, token))
+            continue;
+        if (isWithoutImages && isDrawnByApplication(input, token))
             continue;
         const QString hidden = hiddenKind(input, token.key);
         report.addAtTemplate(

@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <colormath/contrast.h>
+#include <colormath/oklch.h>
+#include <maker/lookcolors.h>
+#include <maker/meanings.h>
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Maker
+{
+
+namespace
+{
+
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
+
+QString ratioText(double ratio)
+{
+    return QString::number(std::floor(ratio * 100) / 100, 'f', 2) % QLatin1String(":1");
+}
+
+// Designs one look. Text is given way to, not taken from: where a pair falls short, a fill moves
+// away from the text on it, and only on a surface the text moves away from the ground.
+class Designer
+{
+public:
+    Designer(Look look, const Parameters &parameters, LookColors *colors, QStringList *notes)
+        : m_look(look)
+        , m_parameters(parameters)
+        , m_colors(*colors)
+        , m_notes(*notes)
+    {
+        for (const ColorPair &pair : colorPairs()) {
+            const auto isMissing = [&](const QString &key) { return colors->text(key).isEmpty(); };
+            if (!isMissing(pair.foreground)
+                && std::none_of(pair.layers.cbegin(), pair.layers.cend(), isMissing))
+                m_pairs.append(pair);
+        }
+    }
+
+    void setLightSurfaces();
+    void setBrandFills();
+    void mendPairs();
+    void separate();
+    void noteWhatFallsShort();
+
+private:
+    double required(const ColorPair &pair) const
+    {
+        return requiredRatio(pair.need, m_look, m_parameters.textContrast);
+    }
+    bool holds(const ColorPair &pair) const { return m_colors.ratio(pair) >= required(pair); }
+    bool canHave(const QString &key, const QString &text) const;
+    QStringList alternatives(const QString &key) const;
+    bool isRemedy(const ColorPair &pair, const QString &key, const QString &text) const;
+    void mend(const ColorPair &pair);
+    QString brandText() const;
+    void note(const QString &sentence)
+    {
+        m_notes.append(lookName(m_look) % QLatin1String(": ") % sentence);
+    }
+
+    const Look m_look;
+    const Parameters &m_parameters;
+    LookColors &m_colors;
+    QStringList &m_notes;
+    QVector<ColorPair> m_pairs; // those whose keys the look has
+};
+
+bool isSurface(const QString &key)
+{
+    return key.startsWith(QLatin1String("BackgroundColor_"))
+        || key == QLatin1String("EditBackgroundColor")
+        || key == QLatin1String("EditDisabledBackgroundColor")
+        || key == QLatin1String("MenuBackgroundColor");
+}
+
+bool isPlainText(const QString &key)
+{
+    return key == QLatin1String("DefaultForegroundColor") || key == QLatin1String("Color_W100")
+        || key == QLatin1String("DisabledForegroundColor");
+}
+
+void Designer::setLightSurfaces()
+{
+    const QVector<QColor> surfaces = lightSurfaces(m_parameters);
+    for (int n = 0; n < surfaces.size(); ++n)
+        m_colors.setText(key("BackgroundColor_") % QString::number(n), hexadecimal(surfaces.at(n)));
+    m_colors.setText(key("EditDisabledBackgroundColor"), m_colors.text(key("BackgroundColor_2")));
+}
+
+// Whether all pairs of the key hold with another text.
+bool Designer::canHave(const QString &key, const QString &text) const
+{
+    LookColors changed = m_colors;
+    changed.setText(key, text);
+    for (const ColorPair &pair : qAsConst(m_pairs)) {
+        if ((pair.foreground == key || pair.layers.contains(key))
+            && changed.ratio(pair) < required(pair))
+            return false;
+    }
+    return true;
+}
+
+// The name of the brand itself in the palette.
+QString Designer::brandText() const
+{
+    const QString own = key("Brand");
+    if (m_colors.resolved(own).isValid())
+        return own;
+    return key("Brand_") % QString::number(nearestStep(m_parameters.brand));
+}
+
+void Designer::setBrandFills()
+{
+    const QString brand = brandText();
+    const bool hasSlider = !m_colors.text(key("SliderAcrossBackgroundColor")).isEmpty();
+    if (hasSlider && canHave(key("SliderAcrossBackgroundColor"), brand))
+        m_colors.setText(key("SliderAcrossBackgroundColor"), brand);
+    const QString normal = key("GeneralButtonBackgroundNormal");
+    if (m_colors.text(normal).isEmpty())
+        return;
+    if (!canHave(normal, brand)) {
+        LookColors changed = m_colors;
+        changed.setText(normal, brand);
+        double least = 21;
+        for (const ColorPair &pair : qAsConst(m_pairs)) {
+            if (pair.layers.contains(normal))
+                least = std::min(least, changed.ratio(pair));
+        }
+        note(QLatin1String("the text of buttons would stand on the brand at ") % ratioText(least)
+             % QLatin1String("; they take its tone ") % m_colors.text(normal));
+        return;
+    }
+    m_colors.setText(normal, brand);
+    // Under the pointer one tone lighter, pressed one darker, as far as the text allows.
+    QStringList used{brand};
+    const int step = nearestStep(m_parameters.brand);
+    const auto setFirst = [&](const char *name, std::initializer_list<int> distances) {
+        for (const int distance : distances) {
+            const int tone = step + distance;
+            const QString text = key("Brand_") % QString::number(tone);
+            if (tone < 1 || tone > toneCount || used.contains(text) || !canHave(key(name), text))
+                continue;
+            m_colors.setText(key(name), text);
+            used.append(text);
+            return;
+        }
+    };
+    setFirst("GeneralButtonBackgroundHover", {-1, 1, -2, 2});
+    setFirst("GeneralButtonBackgroundPressed", {1, 2, -1, -2, 3, -3});
+}
+
+// The texts that a key may change to, the nearest first: tones of the same run, which have names,
+// and between them colours of the same hue. A veil or a translucent text changes its opacity.
+QStringList Designer::alternatives(const QString &key) const
+{
+    static const QRegularExpression toneName(
+        QStringLiteral("^(Brand|Red|Yellow|Green|Orange)_(\\d+)$"));
+    const QColor color = m_colors.color(key);
+    QStringList texts;
+    if (color.alpha() < 255) {
+        for (int change = 4; change < 255; change += 4) {
+            for (const int alpha : {color.alpha() + change, color.alpha() - change}) {
+                QColor other = color;
+                other.setAlpha(qBound(0, alpha, 255));
+                texts.append(hexadecimal(other));
+            }
+        }
+        return texts;
+    }
+    const QRegularExpressionMatch tone = toneName.match(m_colors.text(key));
+    const ColorMath::Oklch origin = ColorMath::toOklch(color);
+    const double lightness = ColorMath::cieLightness(color);
+    for (int distance = 1; distance <= 200; ++distance) {
+        constexpr double stride = 0.5; // of L*
+        for (const double sign : {1.0, -1.0}) {
+            const int step = tone.captured(2).toInt() + int(sign) * distance / 10;
+            if (tone.hasMatch() && distance % 10 == 0 && step >= 1 && step <= toneCount)
+                texts.append(tone.captured(1) % QLatin1Char('_') % QString::number(step));
+            const double wanted = lightness + sign * distance * stride;
+            if (wanted >= 0 && wanted <= 100)
+                texts.append(
+                    hexadecimal(ColorMath::colorAtLightness(wanted, origin.chroma, origin.hue)));
+        }
+    }
+    return texts;
+}
+
+// Whether a change of the key makes the pair hold, and none of its other pairs worse that has to.
+bool Designer::isRemedy(const ColorPair &pair, const QString &key, const QString &text) const
+{
+    LookColors changed = m_colors;
+    changed.setText(key, text);
+    if (changed.ratio(pair) < required(pair))
+        return false;
+    for (const ColorPair &other : qAsConst(m_pairs)) {
+        if (other.foreground != key && !other.layers.contains(key))
+            continue;
+        const double ratio = changed.ratio(other);
+        if (ratio < required(other) && ratio < m_colors.ratio(other))
+            return false;
+    }
+    return true;
+}
+
+void Designer::mend(const ColorPair &pair)
+{
+    if (holds(pair))
+        return;
+    const QString top = pair.layers.constLast();
+    const bool isFill = isPlainText(pair.foreground) && !isSurface(top);
+    const QString moved = isFill ? top : pair.foreground;
+    const QStringList texts = alternatives(moved);
+    for (const QString &text : texts) {
+        if (isRemedy(pair, moved, text)) {
+            m_colors.setText(moved, text);
+            return;
+        }
+    }
+}
+
+void Designer::mendPairs()
+{
+    for (const ColorPair &pair : qAsConst(m_pairs))
+        mend(pair);
+}
+
+void Designer::separate()
+{
+    const auto isAllowed = [this](const QString &key, const QString &text) {
+        return canHave(key, text);
+    };
+    if (!separateMeanings(&m_colors, isAllowed))
+        note(QStringLiteral("error, warning, success and highlight cannot all be told apart by "
+                            "every eye at this contrast"));
+}
+
+void Designer::noteWhatFallsShort()
+{
+    for (const ColorPair &pair : qAsConst(m_pairs)) {
+        if (!holds(pair))
+            note(pair.foreground % QLatin1String(" on ")
+                 % pair.layers.join(QLatin1String(" under ")) % QLatin1String(" reaches ")
+                 % ratioText(m_colors.ratio(pair)) % QLatin1String(" and not ")
+                 % ratioText(required(pair)));
+    }
+}
+
+} // namespace
+
+LookColors::LookColors(const QVector<PaletteEntry> &palette, const QMap<QString, QString> &texts)
+    : m_texts(texts)
+{
+    for (const PaletteEntry &entry : palette)
+        m_palette.insert(entry.first, entry.second);
+}
+
+QColor LookColors::resolved(const QString &text) const
+{
+    const auto entry = m_palette.constFind(text);
+    if (entry != m_palette.cend())
+        return *entry;
+    return QColor(text.startsWith(QLatin1Char('#')) ? text : QString(QLatin1Char('#') % text));
+}
+
+QColor LookColors::composite(const QStringList &layers) const
+{
+    QColor result = color(layers.first());
+    for (int i = 1; i < layers.size(); ++i)
+        result = ColorMath::over(color(layers.at(i)), result);
+    return result;
+}
+
+double LookColors::ratio(const ColorPair &pair) const
+{
+    return ColorMath::contrastRatio(color(pair.foreground), composite(pair.layers));
+}
+
+double requiredRatio(Need need, Look look, double textContrast)
+{
+    switch (need) {
+    case Need::Text:
+        return look == Look::Contrast ? std::max(7.0, textContrast) : textContrast;
+    case Need::SelectedFrame:
+        return look == Look::Contrast ? 1.5 : 3.0;
+    case Need::Disabled:
+    case Need::Mark:
+        break;
+    }
+    return 3.0;
+}
+
+LookColors designedColors(Look look, const Parameters &parameters,
+                          const QVector<PaletteEntry> &palette,
+                          const QMap<QString, QString> &sample, QStringList *notes)
+{
+    LookColors colors(palette, sample);
+    Designer designer(look, parameters, &colors, notes);
+    if (look == Look::Light)
+        designer.setLightSurfaces();
+    designer.mendPairs();
+    designer.setBrandFills();
+    designer.separate();
+    designer.noteWhatFallsShort();
+    return colors;
+}
+
+LookColors recoloredLook(Look look, const Parameters &parameters,
+                         const QVector<PaletteEntry> &palette, const QMap<QString, QString> &texts,
+                         QStringList *notes)
+{
+    LookColors colors(palette, texts);
+    Designer designer(look, parameters, &colors, notes);
+    designer.mendPairs();
+    designer.setBrandFills();
+    designer.separate();
+    designer.noteWhatFallsShort();
+    return colors;
+}
+
+} // namespace Maker

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef MAKER_THEMEMAKER_H
+#define MAKER_THEMEMAKER_H
+
+#include <maker/pairs.h>
+#include <maker/tones.h>
+
+#include <QByteArray>
+
+namespace Maker
+{
+
+/*! \brief What a folder of themes is to be. */
+struct Order {
+    Parameters parameters;
+    QVector<Look> looks{Look::Dark, Look::Light, Look::Contrast};
+    /*!
+     * \brief Stands in the display names, "Sepia dark", and in the file names, `sepia-dark.theme`.
+     *
+     * Letters, digits, spaces, `-` and `_` in ASCII; empty for plain `dark.theme`.
+     */
+    QString name;
+};
+
+/*! \brief A theme file that is not written yet. */
+struct MadeFile {
+    QString fileName; //!< without a folder
+    QByteArray content;
+};
+
+struct MadeThemes {
+    QVector<MadeFile> files; //!< default.theme first
+    QStringList notes; //!< one sentence for each wish that could not be fulfilled, with its look
+};
+
+/*!
+ * \brief Makes a default file and one file for each look, without image files: the application
+ *        library has its own, `hvtheme_add_icons()` makes others.
+ *
+ * The text of every pair of Maker::colorPairs() reaches its ratio, for any brand and any neutral
+ * colour; what cannot be had stands in the notes.
+ */
+MadeThemes makeThemes(const Order &order);
+
+/*! \brief Tells whether \a name can be an Order's name. */
+bool isThemeName(const QString &name);
+
+/*! \brief The text of a default file and of the theme over it. */
+struct ThemeTexts {
+    QByteArray base;
+    QByteArray own;
+};
+
+/*!
+ * \brief Returns \a theme with the tones of another brand, all else as it is.
+ *
+ * The palette entries `Brand_1` to `Brand_10` change, and what of the look's colours then calls for
+ * it. A theme without such entries, or with some of the colours of the samples missing, is mended
+ * as far as its keys go.
+ */
+ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes);
+
+} // namespace Maker
+
+#endif

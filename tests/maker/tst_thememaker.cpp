@@ -1,0 +1,389 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <colormath/contrast.h>
+#include <colormath/oklch.h>
+#include <colormath/vision.h>
+#include <hvtheme/workabletheming.h>
+#include <maker/lookcolors.h>
+#include <maker/meanings.h>
+#include <maker/thememaker.h>
+#include <maker/themetext.h>
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace Maker;
+
+namespace
+{
+
+const QVector<Look> allLooks{Look::Dark, Look::Light, Look::Contrast};
+
+QByteArray fileContent(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray sampleFile(const QString &name)
+{
+    return fileContent(QStringLiteral(HVTHEME_SOURCE_DIR "/themes/") + name);
+}
+
+bool write(const QString &folder, const MadeThemes &themes)
+{
+    return std::all_of(themes.files.cbegin(), themes.files.cend(), [&](const MadeFile &made) {
+        QFile file(folder + '/' + made.fileName);
+        return file.open(QIODevice::WriteOnly) && file.write(made.content) == made.content.size();
+    });
+}
+
+Order orderOf(const QColor &brand, const Neutral &neutral = {})
+{
+    Order order;
+    order.parameters.brand = brand;
+    order.parameters.neutral = neutral;
+    return order;
+}
+
+// What falls short in the theme as the library reads it, so after rounding to eight bits.
+QStringList shortcomings(const HV::Theme &theme, Look look)
+{
+    QStringList found;
+    const auto composite = [&](const QStringList &layers) {
+        QColor color = theme.color(layers.first());
+        for (int i = 1; i < layers.size(); ++i)
+            color = ColorMath::over(theme.color(layers.at(i)), color);
+        return color;
+    };
+    for (const ColorPair &pair : colorPairs()) {
+        const double ratio =
+            ColorMath::contrastRatio(theme.color(pair.foreground), composite(pair.layers));
+        const double required = requiredRatio(pair.need, look, 4.5);
+        if (ratio < required)
+            found.append(QStringLiteral("%1: %2 on %3: %4")
+                             .arg(lookName(look), pair.foreground, pair.layers.join('+'),
+                                  QString::number(ratio)));
+    }
+    for (const MeaningPair &pair : meaningPairs()) {
+        const double distance =
+            ColorMath::leastDistance(theme.color(pair.first), theme.color(pair.second));
+        if (distance < meaningDistance)
+            found.append(QStringLiteral("%1: %2 and %3: %4")
+                             .arg(lookName(look), QString::fromLatin1(pair.first),
+                                  QString::fromLatin1(pair.second), QString::number(distance)));
+    }
+    return found;
+}
+
+QStringList shortcomings(const Order &order)
+{
+    const QTemporaryDir folder;
+    if (!write(folder.path(), makeThemes(order)))
+        return {"cannot write"};
+    QStringList found;
+    for (const Look look : order.looks) {
+        HV::WorkableTheme theme;
+        HV::changeTheme(&theme, lookName(look), folder.path());
+        found += shortcomings(theme, look);
+    }
+    return found;
+}
+
+} // namespace
+
+class tst_ThemeMaker : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void samples_data();
+    void samples();
+    void corners_data();
+    void corners();
+    void randomColors();
+    void steps_data();
+    void steps();
+    void brandIsAFill_data();
+    void brandIsAFill();
+    void neutral_data();
+    void neutral();
+    void textContrast_data();
+    void textContrast();
+    void names_data();
+    void names();
+    void withBrand_data();
+    void withBrand();
+    void withBrandOfAnotherTheme();
+};
+
+void tst_ThemeMaker::samples_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"default.theme", "dark.theme", "light.theme", "contrast.theme"})
+        QTest::newRow(name) << name;
+}
+
+// The samples are what their recorded parameters make, but for the image files, which they name.
+void tst_ThemeMaker::samples()
+{
+    QFETCH(QString, name);
+    ThemeText expected(sampleFile(name));
+    expected.removeSection("ImageFiles");
+    const QByteArray text = expected.text().replace(", 85 images and its flags", " and its flags");
+
+    const MadeThemes made = makeThemes(orderOf(QColor("#3060F0"), Neutral::cool()));
+    const auto file = std::find_if(made.files.cbegin(), made.files.cend(),
+                                   [&](const MadeFile &one) { return one.fileName == name; });
+    QVERIFY(file != made.files.cend());
+    const QList<QByteArray> lines = file->content.split('\n');
+    const QList<QByteArray> expectedLines = text.split('\n');
+    for (int i = 0; i < qMin(lines.size(), expectedLines.size()); ++i)
+        QCOMPARE(lines.at(i), expectedLines.at(i));
+    QCOMPARE(lines.size(), expectedLines.size());
+}
+
+void tst_ThemeMaker::corners_data()
+{
+    QTest::addColumn<QColor>("brand");
+    QTest::addColumn<QColor>("neutral");
+
+    for (const char *brand :
+         {"#000000", "#ffffff", "#808080", "#010101", "#fefefe", "#777777", "#ff0000",
+          "#00ff00", "#0000ff", "#ffff00", "#ff00ff", "#00ffff", "#800000", "#000080",
+          "#808000", "#fffffe", "#000001", "#7f8080", "#fff0f0", "#0f0000"})
+        QTest::newRow(brand) << QColor(brand) << QColor("#6d7078");
+    for (const char *neutral : {"#000000", "#ffffff", "#ff0000", "#ffff00", "#0000ff", "#00ff00"})
+        QTest::addRow("on-%s", neutral) << QColor("#c05020") << QColor(neutral);
+}
+
+void tst_ThemeMaker::corners()
+{
+    QFETCH(QColor, brand);
+    QFETCH(QColor, neutral);
+    QCOMPARE(shortcomings(orderOf(brand, Neutral::of(neutral))), QStringList());
+}
+
+// As many as time allows; HVTHEME_MAKER_COLORS=10000 for all that the documentation promises.
+void tst_ThemeMaker::randomColors()
+{
+    bool isSet = false;
+    const int wanted = qEnvironmentVariableIntValue("HVTHEME_MAKER_COLORS", &isSet);
+    QRandomGenerator random(20260101);
+    for (int i = 0; i < (isSet ? wanted : 300); ++i) {
+        const QColor brand(QRgb(random.generate() | 0xff000000u));
+        const QColor neutral(QRgb(random.generate() | 0xff000000u));
+        const QStringList found = shortcomings(orderOf(brand, Neutral::of(neutral)));
+        QVERIFY2(found.isEmpty(),
+                 qPrintable(brand.name() + ' ' + neutral.name() + ": " + found.join("; ")));
+    }
+}
+
+void tst_ThemeMaker::steps_data()
+{
+    QTest::addColumn<QColor>("brand");
+    for (const char *brand : {"#3060f0", "#c0a060", "#ff0000", "#00ff00", "#0000ff", "#ffff00",
+                              "#808080", "#102030", "#ffe0f0"})
+        QTest::newRow(brand) << QColor(brand);
+}
+
+void tst_ThemeMaker::steps()
+{
+    QFETCH(QColor, brand);
+    const ColorMath::Oklch origin = ColorMath::toOklch(brand);
+    const Run run = brandRun(brand);
+    for (int step = 1; step <= toneCount; ++step) {
+        const QColor tone = run.tone(step);
+        QVERIFY(qAbs(ColorMath::cieLightness(tone) - (100 - 9 * step)) < 0.4);
+        const ColorMath::Oklch color = ColorMath::toOklch(tone);
+        if (color.chroma < 0.05)
+            continue; // eight bits tell no hue of so little
+        const double difference = qAbs(color.hue - origin.hue);
+        QVERIFY2(qMin(difference, 360 - difference) < 4.0,
+                 qPrintable(tone.name() + ": " + QString::number(difference)));
+    }
+}
+
+void tst_ThemeMaker::brandIsAFill_data()
+{
+    QTest::addColumn<QColor>("brand");
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("isButton");
+
+    QTest::newRow("dark-enough") << QColor("#7a2f9c") << "dark" << true;
+    QTest::newRow("too-light-for-light-text") << QColor("#ffd000") << "dark" << false;
+    QTest::newRow("light-enough") << QColor("#ffd000") << "light" << true;
+    QTest::newRow("too-dark-for-dark-text") << QColor("#102080") << "light" << false;
+    QTest::newRow("very-dark") << QColor("#0a1a60") << "contrast" << true;
+}
+
+// The brand itself is the ground of buttons wherever their text allows it; else a note says why not.
+void tst_ThemeMaker::brandIsAFill()
+{
+    QFETCH(QColor, brand);
+    QFETCH(QString, look);
+    QFETCH(bool, isButton);
+
+    const QTemporaryDir folder;
+    const MadeThemes made = makeThemes(orderOf(brand));
+    QVERIFY(write(folder.path(), made));
+    HV::WorkableTheme theme;
+    HV::changeTheme(&theme, look, folder.path());
+    QCOMPARE(theme.color("GeneralButtonBackgroundNormal") == brand, isButton);
+    QCOMPARE(theme.readNamedColor("Brand").first, brand);
+    const bool isNoted =
+        std::any_of(made.notes.cbegin(), made.notes.cend(), [&](const QString &note) {
+            return note.startsWith(look + ": the text of buttons would stand on the brand at ");
+        });
+    QCOMPARE(isNoted, !isButton);
+    const QSet<QRgb> states{theme.color("GeneralButtonBackgroundNormal").rgb(),
+                            theme.color("GeneralButtonBackgroundHover").rgb(),
+                            theme.color("GeneralButtonBackgroundPressed").rgb()};
+    QCOMPARE(states.size(), 3);
+}
+
+void tst_ThemeMaker::neutral_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<double>("chroma");
+
+    QTest::newRow("grey") << QColor("#808080") << 0.0;
+    QTest::newRow("too-strong") << QColor("#ff0000") << Neutral::maximalChroma;
+}
+
+void tst_ThemeMaker::neutral()
+{
+    QFETCH(QColor, color);
+    QFETCH(double, chroma);
+    QCOMPARE(Neutral::of(color).chroma, chroma);
+}
+
+void tst_ThemeMaker::textContrast_data()
+{
+    QTest::addColumn<double>("textContrast");
+    QTest::addColumn<double>("surfaceStep");
+    QTest::newRow("high") << 7.0 << 3.0;
+    QTest::newRow("deep") << 4.5 << 4.0;
+    QTest::newRow("flat") << 4.5 << 1.0;
+    QTest::newRow("high-and-deep") << 7.0 << 4.0;
+}
+
+// What the controls of the gallery ask for.
+void tst_ThemeMaker::textContrast()
+{
+    QFETCH(double, textContrast);
+    QFETCH(double, surfaceStep);
+    Parameters parameters;
+    parameters.brand = QColor("#2f7d4f");
+    parameters.textContrast = textContrast;
+    parameters.surfaceStep = surfaceStep;
+    const QVector<PaletteEntry> entries = palette(parameters);
+    for (const Look look : allLooks) {
+        ThemeText text(sampleFile(lookName(look) + ".theme"));
+        QMap<QString, QString> texts;
+        for (const QString &key : text.keys("Colors"))
+            texts.insert(key, text.value("Colors", key));
+        QStringList notes;
+        const LookColors colors = designedColors(look, parameters, entries, texts, &notes);
+        for (const ColorPair &pair : colorPairs()) {
+            const bool holds = colors.ratio(pair) >= requiredRatio(pair.need, look, textContrast);
+            const QString sentence = lookName(look) + ": " + pair.foreground + " on "
+                + pair.layers.join(" under ") + " reaches ";
+            const bool isSaid = std::any_of(notes.cbegin(), notes.cend(), [&](const QString &note) {
+                return note.startsWith(sentence);
+            });
+            QVERIFY2(holds != isSaid, qPrintable(sentence));
+            // A selected row's ground is the frame of a field too, which leaves text 6.5:1.
+            if (pair.need == Need::Text && !pair.layers.contains("EditHighlightBorderColor"))
+                QVERIFY2(holds, qPrintable(sentence));
+        }
+    }
+}
+
+void tst_ThemeMaker::names_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QStringList>("files"); // empty: not a name
+
+    QTest::newRow("none") << QString()
+                          << QStringList{"default.theme", "dark.theme", "light.theme",
+                                         "contrast.theme"};
+    QTest::newRow("word") << "sepia"
+                          << QStringList{"default.theme", "sepia-dark.theme", "sepia-light.theme",
+                                         "sepia-contrast.theme"};
+    QTest::newRow("words") << "Stage Light"
+                           << QStringList{"default.theme", "stage-light-dark.theme",
+                                          "stage-light-light.theme", "stage-light-contrast.theme"};
+    QTest::newRow("slash") << "a/b" << QStringList();
+    QTest::newRow("dots") << ".." << QStringList();
+    QTest::newRow("quotation-mark") << "a\"b" << QStringList();
+    QTest::newRow("comma") << "a,b" << QStringList();
+    QTest::newRow("beyond-ascii") << QString::fromUtf8("ü") << QStringList();
+    QTest::newRow("leading-space") << " a" << QStringList();
+}
+
+void tst_ThemeMaker::names()
+{
+    QFETCH(QString, name);
+    QFETCH(QStringList, files);
+    QCOMPARE(isThemeName(name), !files.isEmpty());
+    if (files.isEmpty())
+        return;
+    Order order = orderOf(QColor("#3060F0"));
+    order.name = name;
+    QStringList made;
+    const MadeThemes themes = makeThemes(order);
+    for (const MadeFile &file : themes.files)
+        made.append(file.fileName);
+    QCOMPARE(made, files);
+    for (int i = 1; i < themes.files.size(); ++i) // a reader of the default file finds the others
+        QVERIFY(themes.files.first().content.contains(made.at(i).toLatin1()));
+}
+
+void tst_ThemeMaker::withBrand_data()
+{
+    QTest::addColumn<QColor>("brand");
+    for (const char *brand : {"#c0a060", "#ff0000", "#ffff00", "#000000", "#00a050"})
+        QTest::newRow(brand) << QColor(brand);
+}
+
+void tst_ThemeMaker::withBrand()
+{
+    QFETCH(QColor, brand);
+    for (const Look look : allLooks) {
+        const ThemeTexts before{sampleFile("default.theme"), sampleFile(lookName(look) + ".theme")};
+        QStringList notes;
+        const ThemeTexts after = Maker::withBrand(before, brand, &notes);
+        const QTemporaryDir folder;
+        QVERIFY(
+            write(folder.path(), {{{"default.theme", after.base}, {"own.theme", after.own}}, {}}));
+        HV::WorkableTheme theme;
+        HV::changeTheme(&theme, "own", folder.path());
+        QCOMPARE(shortcomings(theme, look), QStringList());
+        // Comments, images and what has no brand in it stay.
+        QCOMPARE(after.own.count('\n'), before.own.count('\n'));
+        QCOMPARE(ThemeText(after.own).value("ImageFiles", "add"),
+                 ThemeText(before.own).value("ImageFiles", "add"));
+        QCOMPARE(ThemeText(after.own).value("Colors", "BackgroundColor_3"),
+                 ThemeText(before.own).value("Colors", "BackgroundColor_3"));
+    }
+}
+
+// A small theme, all in one default file and with few keys: nothing is invented.
+void tst_ThemeMaker::withBrandOfAnotherTheme()
+{
+    const ThemeTexts before{"[Palettes]\nBrand_6=#2D63F0\nInk=#101010\n[Colors]\n"
+                            "DefaultForegroundColor=Ink\nBackgroundColor_3=#ffffff\n",
+                            "[Colors]\nHighlightedForegroundColor=Brand_6\n"};
+    QStringList notes;
+    const ThemeTexts after = Maker::withBrand(before, QColor("#a02020"), &notes);
+    QCOMPARE(ThemeText(after.base).value("Colors", "DefaultForegroundColor"), QString("Ink"));
+    QCOMPARE(ThemeText(after.base).value("Palettes", "Ink"), QString("#101010"));
+    QVERIFY(ThemeText(after.base).value("Palettes", "Brand_6") != "#2D63F0");
+    QCOMPARE(ThemeText(after.own).keys("Colors"), QStringList{"HighlightedForegroundColor"});
+}
+
+QTEST_GUILESS_MAIN(tst_ThemeMaker)
+#include "tst_thememaker.moc"

@@ -1,0 +1,213 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/command_new.h>
+
+#include <maker/thememaker.h>
+#include <maker/themetext.h>
+#include <tools/commandline.h>
+#include <tools/outputfile.h>
+#include <tools/outputtext.h>
+#include <tools/themefiles.h>
+
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace
+{
+
+const QString commandName = QStringLiteral("new");
+constexpr qint64 largestTheme = 16 * 1024 * 1024;
+
+struct KnownOptions {
+    const QCommandLineOption brand{
+        "brand", "The colour of the brand: #RRGGBB, or a name such as steelblue.", "colour"};
+    const QCommandLineOption neutral{
+        "neutral", "What tinges the surfaces: cool, warm or a colour (default: cool).", "tinge",
+        "cool"};
+    const QCommandLineOption looks{
+        "looks", "Which of dark, light and contrast to make, with commas (default: all).", "names",
+        "dark,light,contrast"};
+    const QCommandLineOption name{"name", "Name of the set, for display names and file names.",
+                                  "name"};
+    const QCommandLineOption from{
+        "from", "Begin from a copy of this theme and keep all but the brand.", "folder/theme"};
+    const QCommandLineOption force{"force", "Write over theme files that are there."};
+};
+
+std::optional<QColor> opaqueColor(const QString &option, const QString &text, QString *mistake)
+{
+    static const QRegularExpression digits(QStringLiteral("^[0-9A-Fa-f]{6}$"));
+    const QColor color(digits.match(text).hasMatch() ? QString(QLatin1Char('#') % text) : text);
+    if (!color.isValid() || text.startsWith(QLatin1String("transparent"))) {
+        *mistake = QLatin1String("--") % option % QLatin1String(": \"") % text
+            % QLatin1String("\" is no colour; write #RRGGBB");
+        return std::nullopt;
+    }
+    if (color.alpha() != 255) {
+        *mistake = QLatin1String("--") % option % QLatin1String(": ") % text
+            % QLatin1String(" is translucent; a theme is made of opaque colours");
+        return std::nullopt;
+    }
+    return color;
+}
+
+bool readNeutral(const QString &text, Maker::Neutral *neutral, QString *mistake)
+{
+    if (text == QLatin1String("cool"))
+        *neutral = Maker::Neutral::cool();
+    else if (text == QLatin1String("warm"))
+        *neutral = Maker::Neutral::warm();
+    else if (const auto color = opaqueColor(QStringLiteral("neutral"), text, mistake))
+        *neutral = Maker::Neutral::of(*color);
+    else
+        return false;
+    return true;
+}
+
+bool readLooks(const QString &text, QVector<Maker::Look> *looks, QString *mistake)
+{
+    looks->clear();
+    const QStringList names = text.split(QLatin1Char(','));
+    for (const QString &name : names) {
+        const auto is = [&](Maker::Look look) { return Maker::lookName(look) == name.trimmed(); };
+        const std::array<Maker::Look, 3> all{Maker::Look::Dark, Maker::Look::Light,
+                                             Maker::Look::Contrast};
+        const auto found = std::find_if(all.cbegin(), all.cend(), is);
+        if (found == all.cend()) {
+            *mistake = QLatin1String("--looks: no look is called \"") % name
+                % QLatin1String("\"; there are dark, light and contrast");
+            return false;
+        }
+        if (!looks->contains(*found))
+            looks->append(*found);
+    }
+    return true;
+}
+
+std::optional<QByteArray> themeContent(const QString &path, QString *error)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile()) {
+        *error = path % QLatin1String(": no such theme file");
+    } else if (QFileInfo(path).size() > largestTheme) {
+        *error = path % QLatin1String(": larger than 16 MB, this is no theme file");
+    } else if (!file.open(QIODevice::ReadOnly)) {
+        *error = path % QLatin1String(": ") % file.errorString();
+    } else {
+        return file.readAll();
+    }
+    return std::nullopt;
+}
+
+// A copy of one theme, with its default file, in the colours of another brand if one is given.
+std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString &name,
+                                             const std::optional<QColor> &brand, QString *error)
+{
+    const QString folder = QFileInfo(from).path();
+    const QString theme = QFileInfo(from).fileName();
+    const auto base = themeContent(folder % QLatin1String("/default.theme"), error);
+    if (!base)
+        return std::nullopt;
+    const auto own =
+        themeContent(folder % QLatin1Char('/') % theme % QLatin1String(".theme"), error);
+    if (!own)
+        return std::nullopt;
+    Maker::MadeThemes made;
+    Maker::ThemeTexts texts{*base, *own};
+    if (brand)
+        texts = Maker::withBrand(texts, *brand, &made.notes);
+    QString fileName = theme;
+    if (!name.isEmpty()) {
+        Maker::ThemeText named(texts.own);
+        named.setValue(QStringLiteral("General"), QStringLiteral("ThemeName"), name);
+        texts.own = named.text();
+        fileName = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    }
+    made.files = {{QStringLiteral("default.theme"), texts.base},
+                  {fileName % QLatin1String(".theme"), texts.own}};
+    return made;
+}
+
+QString report(const QString &folder, const Maker::MadeThemes &made)
+{
+    QString text;
+    for (const Maker::MadeFile &file : made.files)
+        text += QDir(folder).filePath(file.fileName) % QLatin1Char('\n');
+    for (const QString &note : made.notes)
+        text += QLatin1String("note: ") % note % QLatin1Char('\n');
+    return text;
+}
+
+// Returns what is wrong with the usage, or a null text.
+QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, Maker::Order *order,
+                  std::optional<QColor> *brand)
+{
+    QString mistake;
+    const bool isCopy = parser.isSet(known.from);
+    if (parser.positionalArguments().size() != 1)
+        return parser.positionalArguments().isEmpty()
+            ? QStringLiteral("FOLDER is missing")
+            : QLatin1String("one argument too many: ") % parser.positionalArguments().at(1);
+    if (parser.positionalArguments().constFirst().isEmpty())
+        return QStringLiteral("FOLDER is empty");
+    if (!parser.isSet(known.brand) && !isCopy)
+        return QStringLiteral("--brand is missing: the colour that the themes are made of");
+    if (isCopy && (parser.isSet(known.neutral) || parser.isSet(known.looks)))
+        return QStringLiteral("--neutral and --looks make a theme anew and do not go with --from");
+    if (parser.isSet(known.brand)) {
+        *brand = opaqueColor(QStringLiteral("brand"), parser.value(known.brand), &mistake);
+        if (!*brand)
+            return mistake;
+        order->parameters.brand = **brand;
+    }
+    order->name = parser.value(known.name);
+    if (!Maker::isThemeName(order->name)
+        || order->name.compare(QLatin1String("default"), Qt::CaseInsensitive) == 0)
+        return QLatin1String("--name: \"") % order->name
+            % QLatin1String("\" cannot name files; take letters, digits, \"-\", \"_\" and single "
+                            "spaces, and not \"default\"");
+    if (readNeutral(parser.value(known.neutral), &order->parameters.neutral, &mistake))
+        readLooks(parser.value(known.looks), &order->looks, &mistake);
+    return mistake;
+}
+
+} // namespace
+
+int runNew(const QStringList &arguments)
+{
+    const KnownOptions known;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Makes a folder of themes of one colour: a default file with the palette and the font "
+        "sizes, and\none file a look. Text reaches 4.5:1 on its ground, in contrast 7:1; what "
+        "cannot be had is said.\n\n"
+        "Exit code: 0 done, 2 wrong usage or nothing written."));
+    parser.addPositionalArgument(QStringLiteral("FOLDER"),
+                                 QStringLiteral("Folder to write; made if it is not there."));
+    parser.addOptions(
+        {known.brand, known.neutral, known.looks, known.name, known.from, known.force});
+    if (const std::optional<int> code = parseArguments(parser, commandName, arguments))
+        return *code;
+
+    Maker::Order order;
+    std::optional<QColor> brand;
+    const QString mistake = readOrder(parser, known, &order, &brand);
+    if (!mistake.isEmpty())
+        return usageError(commandName, mistake);
+
+    QString error;
+    const auto made = parser.isSet(known.from)
+        ? copiedTheme(parser.value(known.from), order.name, brand, &error)
+        : std::optional<Maker::MadeThemes>(Maker::makeThemes(order));
+    const QString folder = parser.positionalArguments().constFirst();
+    if (!made || !writeThemeFiles(folder, made->files, parser.isSet(known.force), &error)) {
+        printError(error);
+        return ExitUnusable;
+    }
+    return writeStandardOutput(report(folder, *made)) ? ExitDone : ExitUnusable;
+}

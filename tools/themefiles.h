@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef TOOLS_THEMEFILES_H
+#define TOOLS_THEMEFILES_H
+
+#include <maker/thememaker.h>
+
+/*!
+ * \brief Writes \a files into \a folder, which is made if it is not there: all of them or none.
+ *
+ * Every file is written beside its place first, so that a full disk leaves the folder as it was.
+ *
+ * \param overwrites  whether the folder may hold theme files already; those of other names stay.
+ * \return false if nothing was written; \a error is then one sentence that says why.
+ */
+bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
+                     QString *error);
+
+#endif
