@@ -4,6 +4,8 @@
 #include "applicationtheme.h"
 
 #include "applicationpalette.h"
+#include "desktopsettings.h"
+#include "desktoptheme.h"
 #include "iconcolors.h"
 #include "iconplugins.h"
 #include "missingimages.h"
@@ -34,6 +36,9 @@ class ApplicationTheme::Private
 public:
     std::unique_ptr<Theme> theme = std::make_unique<WorkableTheme>();
     QString name;
+    // What the desktop gave the application, before any look of ours.
+    const QPalette startPalette = QApplication::palette();
+    std::unique_ptr<DesktopSettings> desktop; // while it is followed
 };
 
 ApplicationTheme::ApplicationTheme(QObject *parent)
@@ -57,6 +62,53 @@ Theme *ApplicationTheme::theme() const
 }
 
 bool ApplicationTheme::setName(const QString &name)
+{
+    if (!apply(name))
+        return false;
+    setFollowsDesktop(false);
+    return true;
+}
+
+bool ApplicationTheme::followDesktop()
+{
+    if (!d->desktop) {
+        d->desktop = std::make_unique<DesktopSettings>(d->startPalette);
+        connect(d->desktop.get(), &DesktopSettings::changed, this, &ApplicationTheme::applyDesktop);
+        Q_EMIT followsDesktopChanged();
+    }
+    return applyDesktop();
+}
+
+bool ApplicationTheme::followsDesktop() const
+{
+    return d->desktop != nullptr;
+}
+
+void ApplicationTheme::setFollowsDesktop(bool follows)
+{
+    if (follows == followsDesktop())
+        return;
+    if (follows) {
+        followDesktop();
+        return;
+    }
+    // Not deleted at once: its signal may be what led here.
+    d->desktop->disconnect(this);
+    d->desktop.release()->deleteLater();
+    Q_EMIT followsDesktopChanged();
+}
+
+// A change of the accent alone leaves the look as it is.
+bool ApplicationTheme::applyDesktop()
+{
+    const QString fitting = themeForDesktop(
+        QStringLiteral(":/hvthemeapp/themes"),
+        {QStringLiteral("dark"), QStringLiteral("light"), QStringLiteral("contrast")},
+        d->desktop->colorScheme(), d->desktop->contrast());
+    return fitting == d->name || apply(fitting);
+}
+
+bool ApplicationTheme::apply(const QString &name)
 {
     const QString folder = QStringLiteral(":/hvthemeapp/themes");
     if (!QFile::exists(folder + QLatin1Char('/') + name + QLatin1String(".theme")))

@@ -26,6 +26,7 @@ const QLatin1String appearance("org.freedesktop.appearance");
 const QLatin1String schemeKey("color-scheme");
 const QLatin1String contrastKey("contrast");
 const QLatin1String accentKey("accent-color");
+const QLatin1String notFound("org.freedesktop.portal.Error.NotFound");
 const QLatin1String busName("org.freedesktop.DBus");
 const QLatin1String busPath("/org/freedesktop/DBus");
 
@@ -153,7 +154,7 @@ void DesktopPortal::take(QDBusPendingCallWatcher *call, const QString &key, bool
     } else if (!saysNothing(call->error())) {
         // Portals before 1.17 do not know ReadOne, and none knows a key that its back end lacks.
         m_owner = call->reply().service();
-        if (!asOldVersion)
+        if (!asOldVersion && call->error().name() != notFound)
             return ask(key, true);
         m_presence = Presence::Present;
         store(key, {});
