@@ -103,6 +103,13 @@ void tst_Check::rulesAreComplete()
     }
 }
 
+// One line for each, without the one that sums them up.
+static QString findingLines(const QVector<Finding> &findings)
+{
+    const QByteArray text = FindingWriters::text(findings, {false, true});
+    return QString::fromUtf8(text.left(text.lastIndexOf('\n', -2) + 1));
+}
+
 void tst_Check::bad_data()
 {
     addRules();
@@ -112,7 +119,7 @@ void tst_Check::bad()
 {
     QFETCH(QString, rule);
     const QDir folder(data().filePath(rule + "/bad"));
-    QString found = QString::fromUtf8(FindingWriters::text(findingsIn(folder, rule), false));
+    QString found = findingLines(findingsIn(folder, rule));
     found.replace(folder.path(), "FOLDER");
     QFile expected(folder.filePath("expected.txt"));
     QVERIFY2(expected.open(QIODevice::ReadOnly), qPrintable(expected.fileName()));
@@ -129,7 +136,7 @@ void tst_Check::good()
 {
     QFETCH(QString, rule);
     const QDir folder(data().filePath(rule + "/good"));
-    QCOMPARE(QString::fromUtf8(FindingWriters::text(findingsIn(folder, rule), false)), QString());
+    QCOMPARE(findingLines(findingsIn(folder, rule)), QString());
 }
 
 void tst_Check::agreesWithLibrary_data()
@@ -384,14 +391,18 @@ static QVector<Finding> sample()
 
 void tst_Check::text()
 {
-    const QByteArray plain = FindingWriters::text(sample(), false);
+    const QByteArray plain = FindingWriters::text(sample(), {false, true});
     QCOMPARE(QString::fromUtf8(plain),
              QString::fromUtf8("a b.theme:3:7: error: x \\x1b[31m \\u202e [required-key]\n"
                                ":/stylesheet/a.qss:1:1: warning: y [token-kind]\n"
-                               "/t/\u00e9.theme:2:1: info: z [unused-key]\n"));
-    QVERIFY(
-        FindingWriters::text(sample(), true).startsWith("a b.theme:3:7: \x1b[31merror\x1b[0m: "));
-    QCOMPARE(FindingWriters::text({}, true), QByteArray());
+                               "/t/\u00e9.theme:2:1: info: z [unused-key]\n"
+                               "1 error, 1 warning, 1 note\n"));
+    QVERIFY(FindingWriters::text(sample(), {true, true})
+                .startsWith("a b.theme:3:7: \x1b[31merror\x1b[0m: "));
+    const QByteArray quiet = FindingWriters::text(sample(), {});
+    QVERIFY(!quiet.contains("unused-key"));
+    QVERIFY(quiet.endsWith("\n1 error, 1 warning; 1 note, see --notes\n"));
+    QCOMPARE(FindingWriters::text({}, {true, true}), QByteArray("no findings\n"));
 }
 
 void tst_Check::json()

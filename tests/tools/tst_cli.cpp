@@ -74,7 +74,7 @@ void write(const QString &path, const QByteArray &content)
 void writeLarge(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !file.resize(100 * 1024 * 1024))
+    if (!file.open(QIODevice::WriteOnly) || !file.resize(100LL * 1024 * 1024))
         qFatal("cannot write %s", qPrintable(path));
 }
 

@@ -125,8 +125,8 @@ QString mistakeIn(const QJsonValue &value, const Property &property)
         type.chop(2);
         if (!value.isArray())
             return "no list";
-        for (const QJsonValue &member : value.toArray()) {
-            const QString mistake = mistakeIn(member, {property.name, type});
+        for (const auto &member : value.toArray()) {
+            QString mistake = mistakeIn(member, {property.name, type});
             if (!mistake.isEmpty())
                 return mistake;
         }
