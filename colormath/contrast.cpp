@@ -56,4 +56,9 @@ QColor over(const QColor &front, const QColor &back)
                             mix(above.blueF(), below.blueF()), qMin(alpha, 1.0));
 }
 
+QString contrastText(double ratio)
+{
+    return QString::number(std::floor(ratio * 100.0) / 100.0, 'f', 2) + QLatin1String(":1");
+}
+
 } // namespace ColorMath

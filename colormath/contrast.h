@@ -32,6 +32,13 @@ double relativeLuminance(const QColor &color);
 double contrastRatio(const QColor &foreground, const QColor &background);
 
 /*!
+ * \brief Returns \a ratio as people write it, `4.49:1`.
+ *
+ * Cut after two decimals, not rounded: what is less than 4.5 must not look like 4.5.
+ */
+QString contrastText(double ratio);
+
+/*!
  * \brief Returns the colour seen where \a front lies on \a back (source-over, in sRGB).
  *
  * \return an RGB colour; opaque when either of the two is. Two wholly transparent colours give

@@ -36,3 +36,19 @@ QString printable(const QString &text)
     }
     return result;
 }
+
+QString printableLines(const QString &text)
+{
+    QString result;
+    int start = 0;
+    for (int at = 0; at <= text.size(); ++at) {
+        const bool isKept = at < text.size() && (text.at(at) == u'\n' || text.at(at) == u'\t');
+        if (at < text.size() && !isKept)
+            continue;
+        result += printable(text.mid(start, at - start));
+        if (isKept)
+            result += text.at(at);
+        start = at + 1;
+    }
+    return result;
+}

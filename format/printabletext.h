@@ -15,4 +15,7 @@
  */
 QString printable(const QString &text);
 
+/*! \brief Returns \a text in the same way, but leaves line ends and tabs as they are. */
+QString printableLines(const QString &text);
+
 #endif

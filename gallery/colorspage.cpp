@@ -140,7 +140,7 @@ QString contrastText(const QString &key, const QColor &color, const QVariantMap 
     const double ratio = key.contains(QLatin1String("Background"))
         ? ColorMath::contrastRatio(named("DefaultForegroundColor"), ColorMath::over(color, surface))
         : ColorMath::contrastRatio(color, surface);
-    return QStringLiteral("%1:1").arg(ratio, 0, 'f', 1);
+    return ColorMath::contrastText(ratio);
 }
 
 QLayout *createColors(const QVariantMap &values)

@@ -91,6 +91,7 @@ GalleryWindow::GalleryWindow(const Options &options)
 {
     if (m_source.themeName.isEmpty())
         m_source.themeName = themeNames(m_source.themesFolder).value(0);
+    m_log.setPlaceFinder([this](const QString &text) { return m_applied.placesFor(text); });
     buildParts();
     connect(m_themes, &QComboBox::textActivated, this, [this](const QString &name) {
         m_source.themeName = name;
@@ -140,20 +141,21 @@ Problem GalleryWindow::reload()
     timer.start();
     m_log.clear();
     const int scrolled = m_area->verticalScrollBar()->value();
-    const Problem problem = m_look.load(m_source);
+    const Problem problem = m_applied.load(m_source);
     listThemes();
     if (page() == nullptr || showsForm() || showsThemeValues(pageName()))
         showPage();
     else
         settlePage(page());
     m_area->verticalScrollBar()->setValue(scrolled);
-    QStringList files = m_look.files();
+    QStringList files = m_applied.files();
     if (!m_formFile.isEmpty())
         files.append(m_formFile);
     m_watcher.setPaths(files, m_source.templateFolders + QStringList{m_source.themesFolder});
-    statusBar()->showMessage(problem == Problem::None
-                                 ? QStringLiteral("Restyled in %1 ms").arg(timer.elapsed())
-                                 : QStringLiteral("This is the last good look; see the messages"));
+    statusBar()->showMessage(
+        problem == Problem::None   ? QStringLiteral("Restyled in %1 ms").arg(timer.elapsed())
+            : m_applied.isLoaded() ? QStringLiteral("This is the last good theme; see the messages")
+                                   : QStringLiteral("No theme could be loaded; see the messages"));
     Q_EMIT reloaded();
     return problem;
 }
@@ -172,7 +174,7 @@ void GalleryWindow::listThemes()
 void GalleryWindow::showPage()
 {
     QWidget *page =
-        showsForm() ? createFormPage(m_formFile) : createPage(pageName(), *m_look.theme());
+        showsForm() ? createFormPage(m_formFile) : createPage(pageName(), *m_applied.theme());
     if (page != nullptr)
         setPage(page);
 }

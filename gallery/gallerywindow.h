@@ -3,7 +3,7 @@
 #ifndef GALLERY_GALLERYWINDOW_H
 #define GALLERY_GALLERYWINDOW_H
 
-#include "look.h"
+#include "appliedtheme.h"
 #include "messagelog.h"
 #include "options.h"
 #include "themewatcher.h"
@@ -20,7 +20,7 @@ namespace Gallery
 /*!
  * \brief The gallery's window: a chooser of themes, the pages, and a pane of messages.
  *
- * It restyles the program whenever a file that the look or the form comes from changes. Its parts
+ * It restyles the program whenever a file that the theme or the form comes from changes. Its parts
  * are found by object name: `themes`, `pages`, `page` (the scroll area) and `messages`.
  */
 class GalleryWindow final : public QMainWindow
@@ -30,7 +30,7 @@ class GalleryWindow final : public QMainWindow
 public:
     explicit GalleryWindow(const Options &options);
 
-    /*! \brief Reads everything again and shows it; a problem leaves the last good look. */
+    /*! \brief Reads everything again and shows it; a problem leaves the last good theme. */
     Problem reload();
 
     /*! \brief Returns the page that is shown, null before the first. */
@@ -50,9 +50,9 @@ private:
     bool showsForm() const;
 
     MessageLog m_log;
-    Look m_look;
+    AppliedTheme m_applied;
     ThemeWatcher m_watcher;
-    LookSource m_source;
+    ThemeSource m_source;
     QString m_formFile;
     QComboBox *m_themes = nullptr;
     QListWidget *m_pages = nullptr;

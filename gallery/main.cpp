@@ -4,6 +4,8 @@
 #include "options.h"
 #include "screenshots.h"
 
+#include <format/printabletext.h>
+
 #include <QApplication>
 #include <QFileInfo>
 #include <QStyleFactory>
@@ -17,7 +19,15 @@ constexpr int usageError = 1;
 
 void print(FILE *stream, const QString &text)
 {
-    std::fputs(qUtf8Printable(text), stream);
+    std::fputs(qUtf8Printable(printableLines(text)), stream);
+}
+
+QtMessageHandler defaultHandler = nullptr;
+
+// Messages quote file names and what files hold, which no terminal is to obey.
+void printMessage(QtMsgType severity, const QMessageLogContext &context, const QString &text)
+{
+    defaultHandler(severity, context, printableLines(text));
 }
 
 bool hasDisplay()
@@ -65,6 +75,7 @@ int run(const Gallery::Options &options, bool displayed)
 int main(int argc, char **argv)
 {
     const QStringList arguments = argumentList(argc, argv);
+    defaultHandler = qInstallMessageHandler(printMessage);
     const bool displayed = hasDisplay();
     prepareEnvironment(Gallery::readOptions(arguments, {}));
 
@@ -86,7 +97,10 @@ int main(int argc, char **argv)
         print(stdout,
               options.help ? Gallery::helpText()
                            : QStringLiteral("hvtheme-gallery " HVTHEME_VERSION "\n"));
-        return 0;
+        if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+            return 0;
+        std::perror("hvtheme-gallery: standard output");
+        return usageError;
     }
     return run(options, displayed);
 }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "messagelog.h"
 
+#include <format/printabletext.h>
+
 #include <QGuiApplication>
 
 #include <atomic>
@@ -72,7 +74,7 @@ QVariant MessageLog::data(const QModelIndex &index, int role) const
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
     const Message &message = m_messages.at(index.row());
-    return QString(severityName(message.severity) + QLatin1String(": ") + message.text);
+    return QString(severityName(message.severity) + QLatin1String(": ") + printable(message.text));
 }
 
 // Messages come in the middle of painting and polishing, where a model must not change under its
@@ -94,8 +96,11 @@ void MessageLog::handleMessage(QtMsgType severity, const QMessageLogContext &con
         previousHandler(severity, context, text);
 }
 
-void MessageLog::append(int generation, const Message &message)
+void MessageLog::append(int generation, Message message)
 {
+    const QString places = m_findPlaces ? m_findPlaces(message.text) : QString();
+    if (!places.isEmpty() && !message.text.contains(places))
+        message.text += QLatin1String(" (") + places + QLatin1Char(')');
     if (generation != m_generation || m_messages.contains(message))
         return;
     beginInsertRows({}, m_messages.size(), m_messages.size());

@@ -6,6 +6,8 @@
 #include <QAbstractListModel>
 #include <QVector>
 
+#include <functional>
+
 namespace Gallery
 {
 
@@ -20,6 +22,9 @@ class MessageLog final : public QAbstractListModel
     Q_OBJECT
 
 public:
+    /*! \brief Returns the places that a message is about, `FILE:LINE`, or an empty text. */
+    using PlaceFinder = std::function<QString(const QString &text)>;
+
     struct Message {
         QtMsgType severity;
         QString text;
@@ -36,17 +41,21 @@ public:
     /*! \brief Forgets the messages so far, those on their way included. */
     void clear();
 
+    /*! \brief Lets \a finder say, as each message arrives, what places it is about. */
+    void setPlaceFinder(const PlaceFinder &finder) { m_findPlaces = finder; }
+
     const QVector<Message> &messages() const { return m_messages; }
     int rowCount(const QModelIndex &parent = {}) const override;
 
-    /*! \brief `Qt::DisplayRole`: severity and text, `critical: no theme named "x"`. */
+    /*! \brief `Qt::DisplayRole`: severity, printable text and places, `critical: … (a.theme:3)`. */
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
     static void handleMessage(QtMsgType severity, const QMessageLogContext &context,
                               const QString &text);
-    void append(int generation, const Message &message);
+    void append(int generation, Message message);
 
+    PlaceFinder m_findPlaces;
     QVector<Message> m_messages;
     int m_generation = 0;
 };

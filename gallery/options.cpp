@@ -5,6 +5,7 @@
 #include "pages.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace Gallery
 {
@@ -41,6 +42,8 @@ void describe(QCommandLineParser &parser)
          "Folder of templates to add after the built-in ones; may be given several "
          "times.",
          "DIR"},
+        {"app-dir", "The application's folder, which image paths start from (this program's own).",
+         "DIR"},
         {"ui", "A form to show as the page \"form\".", "FORM.ui"},
         {"page",
          "Page to show; with --screenshot may be given several times, or separated by "
@@ -63,8 +66,13 @@ QStringList splitValues(const QStringList &values)
     return values.join(QLatin1Char(',')).split(QLatin1Char(','), Qt::SkipEmptyParts);
 }
 
-QString errorIn(const Options &options)
+QString errorIn(const Options &options, const QCommandLineParser &parser)
 {
+    const QString folder = parser.value(QStringLiteral("app-dir"));
+    if (parser.isSet(QStringLiteral("app-dir")) && !QFileInfo(folder).isDir())
+        return QStringLiteral("The application's folder \"%1\" does not exist.").arg(folder);
+    if (parser.isSet(QStringLiteral("screenshot")) && options.screenshotFolder.isEmpty())
+        return QStringLiteral("--screenshot needs the name of a folder.");
     if (options.scale < 1 || options.scale > largestScale)
         return QStringLiteral("--scale takes a number from 1 to %1.").arg(largestScale);
     const QStringList known = pageNames(options);
@@ -76,6 +84,10 @@ QString errorIn(const Options &options)
     if (options.screenshotFolder.isEmpty()
         && (options.themes.size() > 1 || options.pages.size() > 1))
         return QStringLiteral("Several themes or pages make sense with --screenshot only.");
+    for (const QString &option : {QStringLiteral("scale"), QStringLiteral("join")}) {
+        if (options.screenshotFolder.isEmpty() && parser.isSet(option))
+            return QStringLiteral("--%1 makes sense with --screenshot only.").arg(option);
+    }
     return {};
 }
 
@@ -96,6 +108,10 @@ Options readOptions(const QStringList &arguments, const QString &defaultThemesFo
         ? parser.value(QStringLiteral("themes"))
         : defaultThemesFolder;
     options.source.templateFolders = parser.values(QStringLiteral("templates"));
+    // As QCoreApplication::applicationDirPath() would give it: absolute, without links.
+    if (parser.isSet(QStringLiteral("app-dir")))
+        options.source.applicationFolder =
+            QFileInfo(parser.value(QStringLiteral("app-dir"))).canonicalFilePath();
     options.formFile = parser.value(QStringLiteral("ui"));
     options.screenshotFolder = parser.value(QStringLiteral("screenshot"));
     options.pages = splitValues(parser.values(QStringLiteral("page")));
@@ -104,7 +120,7 @@ Options readOptions(const QStringList &arguments, const QString &defaultThemesFo
     options.scale = parser.value(QStringLiteral("scale")).toInt();
     options.join = parser.isSet(QStringLiteral("join"));
     options.error = parser.positionalArguments().isEmpty()
-        ? errorIn(options)
+        ? errorIn(options, parser)
         : QStringLiteral("Unexpected argument \"%1\".").arg(parser.positionalArguments().first());
     return options;
 }
@@ -123,11 +139,12 @@ QString helpText()
                "  0  every picture is written\n"
                "  1  the command line is wrong, or there is no display to open a window on\n"
                "  2  the themes folder is missing, or holds no default.theme that can be read\n"
-               "  3  there is no theme of that name\n"
-               "  4  a folder of templates is missing\n"
+               "  3  there is no theme of that name, or it cannot be read\n"
+               "  4  a folder of templates is missing, or a template cannot be read\n"
                "  5  the form cannot be read\n"
                "  6  an image of the theme does not decode\n"
                "  7  a picture cannot be written\n"
+               "  8  a value of the theme leads back to its own token\n"
                "Of several problems the first decides. What, where and what to do is on stderr.\n");
 }
 

@@ -3,7 +3,7 @@
 #ifndef GALLERY_OPTIONS_H
 #define GALLERY_OPTIONS_H
 
-#include "look.h"
+#include "appliedtheme.h"
 
 #include <QStringList>
 
@@ -12,7 +12,7 @@ namespace Gallery
 
 /*! \brief What the command line asks for. */
 struct Options {
-    LookSource source; //!< an empty theme name means the first theme of the folder
+    ThemeSource source; //!< an empty theme name means the first theme of the folder
     QString formFile; //!< empty: no form
     QString screenshotFolder; //!< empty: open the window
     QStringList pages; //!< empty: all

@@ -8,6 +8,7 @@
 #include "specimentable.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QUiLoader>
 #include <QVariant>
 #include <QWidget>
@@ -71,9 +72,13 @@ QWidget *createPage(const QString &name, HV::Theme &theme)
 QWidget *createFormPage(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QFileInfo info(path);
+    const bool isSpecial = info.exists() && !info.isFile(); // a pipe would be waited for
+    if (isSpecial || !file.open(QIODevice::ReadOnly)) {
+        const QString reason =
+            isSpecial ? QStringLiteral("not a regular file") : file.errorString();
         qCritical("The form \"%ls\" cannot be read: %ls. Name a .ui file that can with --ui.",
-                  qUtf16Printable(path), qUtf16Printable(file.errorString()));
+                  qUtf16Printable(path), qUtf16Printable(reason));
         return nullptr;
     }
     QUiLoader loader;

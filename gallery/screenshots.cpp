@@ -103,16 +103,16 @@ private:
 
     void takeTheme(const QString &theme)
     {
-        LookSource source = m_options.source;
+        ThemeSource source = m_options.source;
         source.themeName = theme;
-        const Problem problem = m_look.load(source);
+        const Problem problem = m_applied.load(source);
         note(problem);
         if (problem != Problem::None)
             return;
         for (const QString &name : pagesOf(m_options)) {
             const bool form = name == QLatin1String(formPageName);
             const std::unique_ptr<QWidget> page(form ? createFormPage(m_options.formFile)
-                                                     : createPage(name, *m_look.theme()));
+                                                     : createPage(name, *m_applied.theme()));
             if (page == nullptr) {
                 note(Problem::Form);
                 continue;
@@ -132,7 +132,7 @@ private:
     }
 
     const Options &m_options;
-    Look m_look;
+    AppliedTheme m_applied;
     QMap<QString, QVector<QImage>> m_pictures;
     Problem m_problem = Problem::None;
 };

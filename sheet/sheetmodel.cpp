@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 
 namespace
 {
@@ -59,9 +58,7 @@ const StoredValue *SheetTheme::find(Kind kind, const QString &key) const
 
 QString SheetContrast::text() const
 {
-    // Cut, not rounded: 4.499 is less than 4.5.
-    const double shown = std::floor(ratio * 100.0) / 100.0;
-    const QString figure = QString::number(shown, 'f', 2) % QLatin1String(":1");
+    const QString figure = ColorMath::contrastText(ratio);
     return grade.isEmpty() ? figure : figure % QLatin1Char(' ') % grade;
 }
 

@@ -9,8 +9,6 @@
 
 #include <QRegularExpression>
 
-#include <cmath>
-
 namespace
 {
 
@@ -114,12 +112,6 @@ double leastContrast(const QColor &text, const Ground &ground, QString *where = 
     return least;
 }
 
-QString ratioText(double ratio)
-{
-    // Rounded down, so that what fails never reads as if it passed.
-    return QString::number(std::floor(ratio * 100.0) / 100.0, 'f', 2) + QLatin1String(":1");
-}
-
 // The palette of one theme, taken apart once.
 class Palette
 {
@@ -152,7 +144,7 @@ public:
         if (!best)
             return QStringLiteral("; no palette entry would pass");
         return QStringLiteral("; the nearest palette entry that passes is %1 with %2")
-            .arg(best->name, ratioText(leastContrast(best->color, ground)));
+            .arg(best->name, ColorMath::contrastText(leastContrast(best->color, ground)));
     }
 
 private:
@@ -187,9 +179,10 @@ void checkPair(const ThemeProject &input, const ThemeStack &theme, const TextPai
     const InputFile &file = input.templates().fileAt(pair.foreground.offset).input;
     const QString message =
         QStringLiteral("%1 on %2 has a contrast of %3 in theme %4, less than %5 (%6, %7:%8)%9")
-            .arg(text.first().name, background, ratioText(ratio), theme.name(), ratioText(minimum),
-                 pair.selector.text, file.path().section(QLatin1Char('/'), -1),
-                 QString::number(place.line), palette->advice(text.first().color, ground, minimum));
+            .arg(text.first().name, background, ColorMath::contrastText(ratio), theme.name(),
+                 ColorMath::contrastText(minimum), pair.selector.text,
+                 file.path().section(QLatin1Char('/'), -1), QString::number(place.line),
+                 palette->advice(text.first().color, ground, minimum));
     const Definition *definition = theme.find(Kind::Color, text.first().key);
     const Severity severity = pair.drawsText ? Severity::Warning : Severity::Info;
     if (definition)

@@ -14,6 +14,8 @@ private Q_SLOTS:
     void relativeLuminance();
     void contrastRatio_data();
     void contrastRatio();
+    void contrastText_data();
+    void contrastText();
     void over_data();
     void over();
 };
@@ -69,6 +71,24 @@ void tst_Contrast::contrastRatio()
     QFETCH(QColor, background);
     QFETCH(QString, expected);
     QCOMPARE(QString::number(ColorMath::contrastRatio(foreground, background), 'f', 2), expected);
+}
+
+void tst_Contrast::contrastText_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("none") << 1.0 << "1.00:1";
+    QTest::newRow("most") << 21.0 << "21.00:1";
+    QTest::newRow("enough") << 4.5 << "4.50:1";
+    QTest::newRow("not-quite") << 4.4999 << "4.49:1";
+}
+
+void tst_Contrast::contrastText()
+{
+    QFETCH(double, ratio);
+    QFETCH(QString, expected);
+    QCOMPARE(ColorMath::contrastText(ratio), expected);
 }
 
 void tst_Contrast::over_data()

@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QtTest>
 
 #include <memory>
@@ -30,9 +31,11 @@ private Q_SLOTS:
     void themeNamesOfAFolder();
     void chooserSwitches();
     void everyPageOpens();
-    void badThemeLeavesTheLastGoodLook_data();
-    void badThemeLeavesTheLastGoodLook();
+    void badThemeLeavesTheLastGoodOne_data();
+    void badThemeLeavesTheLastGoodOne();
     void opensWithoutAnyTheme();
+    void messagesNamePlaces_data();
+    void messagesNamePlaces();
     void clickCopies();
     void colorsPageFollowsTheTheme();
     void options_data();
@@ -114,6 +117,7 @@ void tst_Gallery::themeNamesOfAFolder()
     QCOMPARE(themeNames(folder.path()), QStringList({"default"}));
     QVERIFY(write("night.theme", "[Colors]\nA=000\n"));
     QVERIFY(write("notes.txt", "no theme"));
+    QVERIFY(write("Dusk.THEME", "[Colors]\nA=000\n")); // which the library would not find
     QCOMPARE(themeNames(folder.path()), QStringList({"night"})); // what they share is no look
     QVERIFY(write("default.theme", "[Colors]\nA=fff\n"));
     QCOMPARE(themeNames(folder.path()), QStringList({"default", "night"}));
@@ -162,7 +166,7 @@ void tst_Gallery::everyPageOpens()
     QCOMPARE(window.messageLog().rowCount(), 0);
 }
 
-void tst_Gallery::badThemeLeavesTheLastGoodLook_data()
+void tst_Gallery::badThemeLeavesTheLastGoodOne_data()
 {
     QTest::addColumn<QString>("bad");
     QTest::addColumn<int>("problem");
@@ -175,7 +179,7 @@ void tst_Gallery::badThemeLeavesTheLastGoodLook_data()
     // clang-format on
 }
 
-void tst_Gallery::badThemeLeavesTheLastGoodLook()
+void tst_Gallery::badThemeLeavesTheLastGoodOne()
 {
     QFETCH(QString, bad);
     QFETCH(int, problem);
@@ -205,6 +209,8 @@ void tst_Gallery::badThemeLeavesTheLastGoodLook()
     QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(message));
     QCOMPARE(int(window.reload()), problem);
     QCOMPARE(buttonColor(window), good);
+    QCOMPARE(window.statusBar()->currentMessage(),
+             QStringLiteral("This is the last good theme; see the messages"));
     QTRY_COMPARE(window.messageLog().rowCount(), 1);
     const QString shown = window.messageLog().index(0).data().toString();
     QVERIFY(shown.startsWith(QLatin1String("critical: ")));
@@ -223,6 +229,53 @@ void tst_Gallery::opensWithoutAnyTheme()
     window.show();
     QVERIFY(window.page() != nullptr);
     QTRY_COMPARE(window.messageLog().rowCount(), 1);
+    QCOMPARE(window.statusBar()->currentMessage(),
+             QStringLiteral("No theme could be loaded; see the messages"));
+}
+
+void tst_Gallery::messagesNamePlaces_data()
+{
+    QTest::addColumn<QByteArray>("addition");
+    QTest::addColumn<QString>("expected"); // with %1, %2 for the first lines of the two files
+
+    // clang-format off
+    QTest::newRow("exists") << QByteArray("[Colors]\nTextColor=#fff\n") << "critical: The Color Key [ \"TextColor\" ] is exists. (default.theme:3, night.theme:2)";
+    QTest::newRow("bad-color") << QByteArray("[Colors]\nOther=redd\n") << "warning: Color \"redd\" is neither a named color or a valid color \"#redd\" (night.theme:2)";
+    QTest::newRow("gradient") << QByteArray("[Gradients]\nGlow=1\nGlow\\size=2\nGlow\\1\\pos=0\n") << "critical: The Gradient Key [ \"Glow\" ]'s value is invalid. (night.theme:2)";
+    QTest::newRow("required") << QByteArray() << "critical: Theme Palette Key [ \"W100\" ] is must bu set,but is not set. (default.theme:4)";
+    QTest::newRow("image") << QByteArray("[ImageFiles]\nclose=nowhere.png\n") << "warning: \"close\" \t \"PATH/nowhere.png\"  is not exist! (night.theme:2)";
+    // clang-format on
+}
+
+void tst_Gallery::messagesNamePlaces()
+{
+    QFETCH(QByteArray, addition);
+    QFETCH(QString, expected);
+    QTemporaryDir folder;
+    QFile base(folder.filePath(QStringLiteral("default.theme")));
+    QVERIFY(base.open(QIODevice::WriteOnly));
+    base.write("ThemeName=base\n[Colors]\nTextColor=#111\n[Palettes]\n");
+    base.close();
+    QFile night(folder.filePath(QStringLiteral("night.theme")));
+    QVERIFY(night.open(QIODevice::WriteOnly));
+    night.write(addition);
+    night.close();
+    const QtMessageHandler previous = // the library says much more of so poor a theme
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    QStringList shown;
+    {
+        Options options;
+        options.source = {folder.path(), QStringLiteral("night"), {}};
+        options.pages = QStringList{"labels"};
+        GalleryWindow window(options);
+        QCoreApplication::processEvents();
+        for (int row = 0; row < window.messageLog().rowCount(); ++row)
+            shown << window.messageLog().index(row).data().toString();
+    }
+    qInstallMessageHandler(previous);
+    expected.replace(QLatin1String("PATH"), QCoreApplication::applicationDirPath());
+    expected.replace(QLatin1Char('\t'), QLatin1String("\\x09"));
+    QVERIFY2(shown.contains(expected), qPrintable(shown.join(QLatin1Char('\n'))));
 }
 
 void tst_Gallery::clickCopies()
@@ -275,6 +328,12 @@ void tst_Gallery::options_data()
     QTest::newRow("scale-no-number") << QStringList{"--scale", "big"} << "--scale takes a number from 1 to 4";
     QTest::newRow("stray-argument") << QStringList{"dark"} << "Unexpected argument \"dark\"";
     QTest::newRow("several-in-the-window") << QStringList{"--theme", "dark,light"} << "with --screenshot only";
+    QTest::newRow("scale-in-the-window") << QStringList{"--scale", "2"} << "--scale makes sense with --screenshot only";
+    QTest::newRow("join-in-the-window") << QStringList{"--join"} << "--join makes sense with --screenshot only";
+    QTest::newRow("join-screenshots") << QStringList{"--screenshot", "d", "--join", "--scale", "2"} << "";
+    QTest::newRow("empty-screenshot") << QStringList{"--screenshot", ""} << "--screenshot needs the name of a folder";
+    QTest::newRow("no-application") << QStringList{"--app-dir", "/nowhere"} << "The application's folder \"/nowhere\" does not exist";
+    QTest::newRow("application") << QStringList{"--app-dir", "/"} << "";
     QTest::newRow("several-screenshots") << QStringList{"--screenshot", "d", "--theme", "dark,light", "--theme", "contrast"} << "";
     // clang-format on
 }

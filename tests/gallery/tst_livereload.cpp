@@ -74,6 +74,7 @@ private Q_SLOTS:
     void messages();
     void form();
     void unrelatedFile();
+    void endlessValue();
     void withinThreeTenthsOfASecond();
 
 private:
@@ -330,6 +331,26 @@ void tst_LiveReload::unrelatedFile()
 
 // From the save to the painted window, the wait for further writes included. What other programs
 // take of the processor is not counted, and the fastest of several is taken.
+// Substitution would never end; the window must stay as it is, and alive.
+void tst_LiveReload::endlessValue()
+{
+    open(QStringLiteral("buttons"));
+    const QColor good = shownButtonColor();
+    const QByteArray sound = themeWith(QStringLiteral("#123456"));
+    QByteArray endless = sound;
+    const int start = endless.indexOf("\nadd=") + 5;
+    endless.replace(start, endless.indexOf('\n', start) - start, "../global.theme.image.add");
+    QSignalSpy reloaded(m_window.get(), &GalleryWindow::reloaded);
+    QTest::ignoreMessage(QtCriticalMsg,
+                         QRegularExpression("default.theme:\\d+: the value of add leads "
+                                            "back to its own token"));
+    write(themePath(), endless);
+    QVERIFY(reloaded.wait());
+    QCOMPARE(shownButtonColor(), good);
+    write(themePath(), sound);
+    QTRY_COMPARE(shownButtonColor(), QColor(0x123456));
+}
+
 void tst_LiveReload::withinThreeTenthsOfASecond()
 {
     constexpr int coalescingMs = 30;

@@ -9,6 +9,8 @@
 #include <QProcess>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -52,7 +54,12 @@ private Q_SLOTS:
     void form();
     void problems_data();
     void problems();
+    void refusedInput_data();
+    void refusedInput();
+    void noControlCharacters();
+    void imagesOfAnotherApplication();
     void goodThemesAreDrawnAllTheSame();
+    void fullDevice();
     void help();
     void noDisplay();
 
@@ -184,6 +191,131 @@ void tst_Screenshots::problems()
     QCOMPARE(pictures(), QStringList());
 }
 
+void tst_Screenshots::refusedInput_data()
+{
+    QTest::addColumn<QString>("file"); // below the themes folder
+    QTest::addColumn<QByteArray>("content"); // null: a pipe that nobody writes to
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+
+    const QByteArray pipe;
+    const QByteArray endless = "[ImageFiles]\nadd=../global.theme.image.add\n";
+    // clang-format off
+    QTest::newRow("pipe-for-default") << "default.theme" << pipe << QStringList() << 2 << "default.theme\" is missing or cannot be read";
+    QTest::newRow("pipe-for-theme") << "night.theme" << pipe << QStringList{"--theme", "night"} << 3 << "night.theme\" is missing or cannot be read";
+    QTest::newRow("pipe-for-image") << "images/add.png" << pipe << QStringList() << 6 << "add.png\" does not decode: not a regular file \\(default.theme:\\d+\\)";
+    QTest::newRow("pipe-for-form") << "form.ui" << pipe << QStringList{"--ui", "%1/form.ui", "--page", "form"} << 5 << "form.ui\" cannot be read: not a regular file";
+    QTest::newRow("pipe-in-template") << "images/pipe.png" << pipe << QStringList{"--templates", "%1/styles"} << 6 << "pipe.png\" does not decode: not a regular file";
+    QTest::newRow("device-for-image") << "images/add.png" << QByteArray("/dev/zero") << QStringList() << 6 << "add.png\" does not decode: not a regular file \\(default.theme:\\d+\\)";
+    QTest::newRow("binary") << "night.theme" << QByteArray("\0\1\2", 3) << QStringList{"--theme", "night"} << 3 << "night.theme: a binary file";
+    QTest::newRow("endless") << "default.theme" << endless << QStringList() << 8 << "default.theme:2: the value of add leads back to its own token";
+    // clang-format on
+}
+
+void tst_Screenshots::refusedInput()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    const QString path = m_files->folder() + QLatin1Char('/') + file;
+    QVERIFY(QDir(m_files->folder()).mkdir(QStringLiteral("styles")));
+    QFile style(m_files->folder() + QLatin1String("/styles/a.qss"));
+    QVERIFY(style.open(QIODevice::WriteOnly));
+    style.write("QLabel { image: url(\"" + m_files->folder().toUtf8() + "/images/pipe.png\") }");
+    style.close();
+    QFile::remove(path);
+    if (content.isNull()) {
+        QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    } else if (content.startsWith('/')) {
+        QVERIFY(QFile::link(QString::fromUtf8(content), path));
+    } else {
+        QFile written(path);
+        QVERIFY(written.open(QIODevice::WriteOnly) && written.write(content) == content.size());
+    }
+    arguments.replaceInStrings(QStringLiteral("%1"), m_files->folder());
+    if (!arguments.contains(QStringLiteral("--page")))
+        arguments += QStringList{"--page", "labels"};
+    const Outcome outcome = runGallery(withFolders(arguments));
+    QVERIFY2(outcome.errors.contains(QRegularExpression(message)), qPrintable(outcome.errors));
+    QCOMPARE(outcome.errors.count(QLatin1Char('\n')), 1);
+    QCOMPARE(outcome.exitCode, exitCode);
+    QCOMPARE(pictures(), QStringList());
+}
+
+// Whatever a name holds, a terminal gets to see it and not to obey it.
+void tst_Screenshots::noControlCharacters()
+{
+    const QString evil = QStringLiteral("\x1b[31m\u202e");
+    const QString folder = m_output->filePath(evil);
+    QVERIFY(QDir().mkdir(folder));
+    QFile file(folder + QLatin1String("/default.theme"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[ImageFiles]\nadd=\\x1b]0;evil\\x07.png\n");
+    file.close();
+    QString told;
+    for (const QStringList &arguments :
+         {QStringList{"--page", evil},
+          {evil},
+          {"--theme", evil, "--page", "labels"},
+          {"--themes", folder, "--page", "labels"},
+          {"--themes", m_output->filePath("none" + evil), "--page", "labels"},
+          {"--ui", evil, "--page", "form"}}) {
+        const Outcome outcome = runGallery(withFolders({}) + arguments);
+        QVERIFY(!outcome.errors.isEmpty());
+        told += outcome.errors;
+    }
+    QVERIFY(told.contains(QLatin1String("\\x1b[31m\\u202e")));
+    for (const QChar character : qAsConst(told))
+        QVERIFY(character == QLatin1Char('\n') || character == QLatin1Char('\t')
+                || character.category() < QChar::Other_Control
+                || character.category() > QChar::Other_Format);
+}
+
+void tst_Screenshots::imagesOfAnotherApplication()
+{
+    // The same theme, whose images are given as another program sees them, through a link.
+    QVERIFY(QDir(m_files->folder()).mkpath(QStringLiteral("other/bin")));
+    QVERIFY(QFile::link(QStringLiteral("other/bin"), m_files->folder() + QLatin1String("/link")));
+    QFile theme(m_files->folder() + QLatin1String("/default.theme"));
+    QVERIFY(theme.open(QIODevice::ReadOnly));
+    QByteArray text = theme.readAll();
+    theme.close();
+    text.replace(
+        QDir(QCoreApplication::applicationDirPath()).relativeFilePath(m_files->folder()).toUtf8(),
+        "../..");
+    QVERIFY(text.contains("=../../images/add.png"));
+    QVERIFY(theme.open(QIODevice::WriteOnly) && theme.write(text) == text.size());
+    theme.close();
+    const QStringList arguments = withFolders({"--page", "image-buttons"});
+    QVERIFY(runGallery(arguments).errors.contains(QLatin1String("is not exist!")));
+    const Outcome outcome = runGallery(
+        arguments + QStringList{"--app-dir", m_files->folder() + QLatin1String("/link")});
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.exitCode, 0);
+    const QImage shown(m_output->filePath(QStringLiteral("image-buttons-default.png")));
+    bool hasImage = false;
+    for (int y = 0; y < shown.height(); ++y) {
+        for (int x = 0; x < shown.width(); ++x)
+            hasImage = hasImage || shown.pixelColor(x, y) == m_files->imageColor("add");
+    }
+    QVERIFY(hasImage);
+}
+
+void tst_Screenshots::fullDevice()
+{
+    if (!QFile::exists(QStringLiteral("/dev/full")))
+        QSKIP("this system has no /dev/full");
+    QProcess gallery;
+    gallery.setStandardOutputFile(QStringLiteral("/dev/full"));
+    gallery.start(QStringLiteral(HVTHEME_GALLERY), {"--help"});
+    QVERIFY(gallery.waitForFinished());
+    QCOMPARE(gallery.exitCode(), 1);
+    QVERIFY(gallery.readAllStandardError().contains("standard output: No space left on device"));
+}
+
 void tst_Screenshots::goodThemesAreDrawnAllTheSame()
 {
     const Outcome outcome =
@@ -210,7 +342,7 @@ void tst_Screenshots::help()
         QVERIFY2(text.contains(QStringLiteral("| %1 | %2 |").arg(hit.captured(1), hit.captured(2))),
                  qPrintable(hit.captured()));
     }
-    QCOMPARE(codes, 8);
+    QCOMPARE(codes, 9);
 }
 
 void tst_Screenshots::noDisplay()

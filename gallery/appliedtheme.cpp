@@ -1,0 +1,344 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#include "appliedtheme.h"
+
+#include <analysis/rules/rules.h>
+#include <analysis/themeproject.h>
+#include <hvtheme/theming.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPalette>
+#include <QPixmapCache>
+#include <QRegularExpression>
+#include <QSettings>
+
+// The linker leaves out the resource of a static library that nobody names; the macro must stand
+// outside every namespace.
+static void initResource()
+{
+    Q_INIT_RESOURCE(gallery);
+}
+
+namespace Gallery
+{
+
+namespace
+{
+
+const QString defaultName = QStringLiteral("default");
+
+QString themeFile(const QString &folder, const QString &name)
+{
+    return folder + QLatin1Char('/') + name + QLatin1String(".theme");
+}
+
+// A pipe would be waited for.
+bool isReadableFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.isReadable();
+}
+
+QStringList themeFileNames(const QString &folder)
+{
+    QStringList names;
+    // The library opens the file with exactly this suffix.
+    const auto files =
+        QDir(folder).entryInfoList({"*.theme"}, QDir::Files | QDir::CaseSensitive, QDir::Name);
+    for (const QFileInfo &file : files)
+        names.append(file.completeBaseName());
+    return names;
+}
+
+Problem checkThemesFolder(const ThemeSource &source)
+{
+    if (!QFileInfo(source.themesFolder).isDir()) {
+        qCritical("The themes folder \"%ls\" does not exist. Name one that does with --themes.",
+                  qUtf16Printable(source.themesFolder));
+        return Problem::ThemesFolder;
+    }
+    const QString file = themeFile(source.themesFolder, defaultName);
+    if (!isReadableFile(file)) {
+        qCritical("\"%ls\" is missing or cannot be read. Every themes folder needs it: put what "
+                  "all themes share there, or name another folder with --themes.",
+                  qUtf16Printable(file));
+        return Problem::ThemesFolder;
+    }
+    return Problem::None;
+}
+
+Problem checkThemeName(const ThemeSource &source)
+{
+    const QString file = themeFile(source.themesFolder, source.themeName);
+    if (source.themeName.isEmpty() || isReadableFile(file))
+        return Problem::None;
+    qCritical("No theme named \"%ls\": \"%ls\" is missing or cannot be read. Choose one of: %ls.",
+              qUtf16Printable(source.themeName), qUtf16Printable(file),
+              qUtf16Printable(themeNames(source.themesFolder).join(QStringLiteral(", "))));
+    return Problem::ThemeName;
+}
+
+Problem checkTemplateFolders(const ThemeSource &source)
+{
+    for (const QString &folder : source.templateFolders) {
+        if (QFileInfo(folder).isDir())
+            continue;
+        qCritical("The templates folder \"%ls\" does not exist. Name one that does with "
+                  "--templates.",
+                  qUtf16Printable(folder));
+        return Problem::Templates;
+    }
+    return Problem::None;
+}
+
+QStringList imageFiles(const QVariantMap &values)
+{
+    QStringList files;
+    for (const QVariant &value : values) {
+        if (value.userType() == QMetaType::QString)
+            files.append(value.toString());
+    }
+    return files;
+}
+
+// What the templates name themselves; Qt would wait for a pipe among them.
+QStringList filesNamedIn(const QString &styleSheet)
+{
+    static const QRegularExpression url(QStringLiteral("url\\(\\s*[\"']?([^)\"'\n]+)"));
+    QStringList files;
+    for (auto hits = url.globalMatch(styleSheet); hits.hasNext();)
+        files.append(hits.next().captured(1).trimmed());
+    return files;
+}
+
+Problem imageProblem(const QString &file, const QString &reason, const QString &place)
+{
+    qCritical("The image \"%ls\" does not decode: %ls%ls. Save it again, or name another in "
+              "section ImageFiles.",
+              qUtf16Printable(file), qUtf16Printable(reason), qUtf16Printable(place));
+    return Problem::Image;
+}
+
+// Returns " (FILE:LINE)" for the image of a theme, else nothing.
+QString placeOfImage(const ThemeStack &theme, const QVariantMap &values, const QString &file)
+{
+    const Definition *definition = theme.find(Kind::ImageFile, values.key(file));
+    return definition ? QLatin1String(" (") + placeOf(*definition) + QLatin1Char(')') : QString();
+}
+
+// A missing image is the library's to report, and the rest of the theme stands without it.
+Problem checkImages(const ThemeStack &theme, const QVariantMap &values, const QString &styleSheet)
+{
+    const QStringList named = filesNamedIn(styleSheet);
+    for (const QString &file : named) {
+        const QFileInfo info(file);
+        if (info.exists() && !info.isFile() && !info.isDir())
+            return imageProblem(file, QStringLiteral("not a regular file"),
+                                placeOfImage(theme, values, file));
+    }
+    const QStringList files = imageFiles(values);
+    for (const QString &file : files) {
+        const QFileInfo info(file);
+        if (!info.exists())
+            continue;
+        if (!info.isFile())
+            return imageProblem(file, QStringLiteral("not a regular file"),
+                                placeOfImage(theme, values, file));
+        QImageReader reader(file);
+        reader.setDecideFormatFromContent(true);
+        if (reader.read().isNull())
+            return imageProblem(file, reader.errorString(), placeOfImage(theme, values, file));
+    }
+    return Problem::None;
+}
+
+Problem checkSubstitution(const ThemeProject &project, const ThemeStack &theme)
+{
+    const QString key = project.finished(theme).endlessKey;
+    if (key.isNull())
+        return Problem::None;
+    QString place = theme.displayName();
+    for (const Kind kind : {Kind::ImageFile, Kind::Color, Kind::Integer}) {
+        if (const Definition *definition = theme.find(kind, key))
+            place = placeOf(*definition);
+    }
+    qCritical("%ls: the value of %ls leads back to its own token, so the style sheet would never "
+              "be done. Give it a value without tokens.",
+              qUtf16Printable(place), qUtf16Printable(key));
+    return Problem::Endless;
+}
+
+// The default file is where the library looks for the keys that it requires.
+QString placeOfMissingKey(const ThemeProject &project, const QString &message)
+{
+    static const QRegularExpression missing(
+        QStringLiteral("^Theme (\\w+) Key \\[ \"[^\"]+\" \\] is must bu set"));
+    const QString word = missing.match(message).captured(1);
+    static const QHash<QString, Kind> kinds{
+        {"Palette", Kind::Palette},   {"Color", Kind::Color}, {"ImageFile", Kind::ImageFile},
+        {"Gradient", Kind::Gradient}, {"Flag", Kind::Flag},   {"Interger", Kind::Integer}};
+    if (!kinds.contains(word))
+        return {};
+    const ThemeFile &file = project.layers().front()->file;
+    return QFileInfo(file.path()).fileName() + QLatin1Char(':')
+        + QString::number(sectionPosition(file, kinds.value(word)).line);
+}
+
+QStringList templateFiles(const QStringList &folders)
+{
+    QStringList files;
+    for (const QString &folder : folders) {
+        const QStringList names = QDir(folder).entryList({"*.qss", "*.css"}, QDir::Files);
+        for (const QString &name : names)
+            files.append(folder + QLatin1Char('/') + name);
+    }
+    return files;
+}
+
+// The built-in templates leave windows, tool bars, docks and menu bars to the palette.
+QPalette paletteOf(HV::Theme *theme)
+{
+    const QVariantMap &values = theme->values();
+    QPalette palette;
+    const auto set = [&](QPalette::ColorRole role, const char *key) {
+        const auto value = values.constFind(QLatin1String(key));
+        if (value != values.cend())
+            palette.setColor(role, value->value<QColor>());
+    };
+    set(QPalette::Window, "BackgroundColor_2");
+    set(QPalette::Button, "BackgroundColor_4");
+    set(QPalette::Base, "EditBackgroundColor");
+    set(QPalette::AlternateBase, "BackgroundColor_3");
+    set(QPalette::WindowText, "DefaultForegroundColor");
+    set(QPalette::Text, "DefaultForegroundColor");
+    set(QPalette::ButtonText, "DefaultForegroundColor");
+    set(QPalette::Highlight, "Color_Brand_8");
+    set(QPalette::HighlightedText, "Color_W100");
+    set(QPalette::PlaceholderText, "DisabledForegroundColor");
+    return palette;
+}
+
+} // namespace
+
+QStringList themeNames(const QString &folder)
+{
+    QStringList names = themeFileNames(folder);
+    if (!isReadableFile(themeFile(folder, defaultName)))
+        return names;
+    // The default file usually holds what the others share, and is no look by itself.
+    const QSettings settings(themeFile(folder, defaultName), QSettings::IniFormat);
+    if (names.size() > 1 && !settings.childGroups().contains(QStringLiteral("Colors")))
+        names.removeOne(defaultName);
+    return names;
+}
+
+AppliedTheme::AppliedTheme(QObject *parent)
+    : QObject(parent)
+    , m_theme(std::make_unique<HV::WorkableTheme>())
+{
+    initResource();
+}
+
+AppliedTheme::~AppliedTheme() = default;
+
+Problem AppliedTheme::load(const ThemeSource &source)
+{
+    m_files = QStringList{themeFile(source.themesFolder, defaultName),
+                          themeFile(source.themesFolder, source.themeName)}
+        + templateFiles(source.templateFolders);
+    m_project.reset();
+    for (const auto check : {checkThemesFolder, checkThemeName, checkTemplateFolders}) {
+        const Problem problem = check(source);
+        if (problem != Problem::None)
+            return problem;
+    }
+    // The library takes files as they are; what it would wait for, or never be done with, is found
+    // without it.
+    Problem problem = readProject(source);
+    if (problem != Problem::None)
+        return problem;
+    const ThemeStack &stack = m_project->theme(m_name);
+    problem = checkSubstitution(*m_project, stack);
+    if (problem != Problem::None)
+        return problem;
+    const QVariantMap values = stack.values(m_project->options().applicationFolder);
+    m_files += imageFiles(values);
+    problem = checkImages(stack, values, m_project->finished(stack).text);
+    if (problem != Problem::None)
+        return problem;
+
+    auto candidate = std::make_unique<HV::WorkableTheme>();
+    HV::changeTheme(candidate.get(), source.themeName, source.themesFolder);
+    m_theme = std::move(candidate);
+    m_isLoaded = true;
+    apply(source, values);
+    return Problem::None;
+}
+
+Problem AppliedTheme::readProject(const ThemeSource &source)
+{
+    m_name = source.themeName.isEmpty() ? defaultName : source.themeName;
+    ThemeProjectOptions options;
+    options.folder = source.themesFolder;
+    options.themes = QStringList{m_name};
+    options.templates =
+        QStringList{":/stylesheet", ":/gallery/stylesheet"} + templateFiles(source.templateFolders);
+    options.applicationFolder = source.applicationFolder.isEmpty()
+        ? QCoreApplication::applicationDirPath()
+        : source.applicationFolder;
+    QString error;
+    m_project = ThemeProject::read(options, &error);
+    if (m_project)
+        return Problem::None;
+    qCritical("%ls. Mend it, or name another with --themes, --theme or --templates.",
+              qUtf16Printable(error));
+    if (m_name != defaultName && error.startsWith(themeFile(source.themesFolder, m_name)))
+        return Problem::ThemeName;
+    return error.startsWith(source.themesFolder + QLatin1Char('/')) ? Problem::ThemesFolder
+                                                                    : Problem::Templates;
+}
+
+void AppliedTheme::apply(const ThemeSource &source, const QVariantMap &values)
+{
+    QString sheet;
+    const QStringList folders =
+        QStringList{":/stylesheet", ":/gallery/stylesheet"} + source.templateFolders;
+    for (const QString &folder : folders) {
+        HV::readStyleSheet(folder, sheet);
+        sheet += QLatin1Char('\n'); // a template of the user's may end in an open comment line
+    }
+    // With these values rather than the theme's own, whose images are always beside this program.
+    const QString prefix = QStringLiteral("global");
+    sheet = HV::replaceCssColors(prefix, values, sheet);
+    sheet = HV::replaceCssImages(prefix, values, sheet);
+    sheet = HV::replaceCssIntegers(prefix, values, sheet);
+    QPixmapCache::clear(); // an image rewritten under its old name would stay
+    qApp->setStyleSheet(QString()); // replacing a style sheet costs more than setting the first
+    QApplication::setPalette(paletteOf(m_theme.get()));
+    qApp->setStyleSheet(sheet);
+}
+
+QString AppliedTheme::placesFor(const QString &message) const
+{
+    if (!m_project)
+        return {};
+    static const QRegularExpression quotedText(QStringLiteral("\"([^\"]+)\""));
+    const ThemeStack &stack = m_project->theme(m_name);
+    QStringList places;
+    for (auto hits = quotedText.globalMatch(message); hits.hasNext();) {
+        const QString quoted = hits.next().captured(1);
+        for (const Definition &definition : stack.definitions()) {
+            if (definition.key() == quoted || definition.value->text() == quoted)
+                places << placeOf(definition);
+        }
+    }
+    if (places.isEmpty())
+        places << placeOfMissingKey(*m_project, message);
+    places.removeDuplicates();
+    return places.join(QLatin1String(", "));
+}
+
+} // namespace Gallery

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+#ifndef GALLERY_APPLIEDTHEME_H
+#define GALLERY_APPLIEDTHEME_H
+
+#include <hvtheme/workabletheming.h>
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class ThemeProject;
+
+namespace Gallery
+{
+
+/*! \brief What keeps a theme from being shown; the values are exit codes of the screenshots. */
+enum class Problem {
+    None = 0,
+    ThemesFolder = 2, //!< missing, or without a default file that can be read
+    ThemeName = 3, //!< no such theme, or one that cannot be read
+    Templates = 4, //!< a folder of extra templates is missing, or a template cannot be read
+    Form = 5, //!< the form cannot be read
+    Image = 6, //!< an image of the theme does not decode
+    Output = 7, //!< a picture cannot be written
+    Endless = 8, //!< a value reproduces its own token, so the style sheet would never be done
+};
+
+/*! \brief Where a theme and its style sheet come from. */
+struct ThemeSource {
+    QString themesFolder;
+    QString themeName;
+    QStringList templateFolders; //!< read in this order after the built-in templates
+    QString applicationFolder = {}; //!< which image paths start from; empty: this program's
+};
+
+/*! \brief Returns the themes of \a folder that can be shown by themselves, sorted; may be empty. */
+QStringList themeNames(const QString &folder);
+
+/*!
+ * \brief The theme and the style sheet that the program shows now.
+ *
+ * They change as a whole or not at all: a source with a Problem leaves the last good ones.
+ */
+class AppliedTheme final : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit AppliedTheme(QObject *parent = nullptr);
+    ~AppliedTheme() override;
+
+    /*!
+     * \brief Reads \a source and, if it is sound, applies it to the program.
+     *
+     * \return what is wrong with it, after one critical message that says what, where and what to
+     *         do. What the library itself logs about a theme is no problem in this sense.
+     */
+    Problem load(const ThemeSource &source);
+
+    /*! \brief Tells whether a load() has ever been without a problem. */
+    bool isLoaded() const { return m_isLoaded; }
+
+    /*! \brief Returns the theme of the last good load(); never null, empty before there was one. */
+    HV::Theme *theme() const { return m_theme.get(); }
+
+    /*! \brief Returns the files \a source was last read from, the images included. */
+    QStringList files() const { return m_files; }
+
+    /*!
+     * \brief Returns where the theme says what a message of the library is about.
+     *
+     * \return `FILE:LINE` for each definition of a key that \a message quotes, separated by commas;
+     *         of a key that is nowhere, the place of the section where it is missing. Empty if the
+     *         message is about something else.
+     */
+    QString placesFor(const QString &message) const;
+
+private:
+    Problem readProject(const ThemeSource &source);
+    void apply(const ThemeSource &source, const QVariantMap &values);
+
+    std::unique_ptr<HV::Theme> m_theme;
+    std::unique_ptr<ThemeProject> m_project; //!< of the last load(), good or not; may be null
+    QString m_name; //!< in m_project
+    QStringList m_files;
+    bool m_isLoaded = false;
+};
+
+} // namespace Gallery
+
+#endif
