@@ -12,7 +12,7 @@ namespace Gallery
 {
 
 /*!
- * \brief One style sheet selector taken apart, enough to build a widget that it matches.
+ * \brief What it takes to build a widget that a style sheet selector matches.
  *
  * `QSpinBox[style=editError]::up-button:hover` has the class `QSpinBox`, one property, the
  * sub-control `up-button` and the state `hover`. Of a descendant selector the class is that of the
@@ -24,7 +24,7 @@ struct Selector {
     QString subControl; //!< empty when the selector means the widget itself
     QStringList states; //!< without colons, in the order written
 
-    /*! \brief Takes \a text apart; a part it does not know is left out. Logs nothing. */
+    /*! \brief Takes \a text apart; one that Qt would refuse gives an empty result. Logs nothing. */
     static Selector fromText(const QString &text);
 
     /*! \brief Returns the C++ lines that give a widget these properties; empty without any. */

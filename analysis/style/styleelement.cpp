@@ -226,7 +226,7 @@ bool matchesState(const StyleSelector &selector, const StyleElement &element)
     for (const StyleSelector::Pseudo &state : states) {
         if (!StyleVocabulary::isState(state.name))
             return true;
-        const bool isHeld = element.states.contains(state.name);
+        const bool isHeld = element.states.contains(state.name.toLower());
         if (isHeld && state.isNegated)
             return false;
         areHeld = areHeld && (isHeld || state.isNegated);

@@ -112,7 +112,7 @@ private:
             StyleSelector::Pseudo pseudo;
             pseudo.offset = m_offset + m_at;
             pseudo.isNegated = take(u'!');
-            pseudo.name = readIdentifier().toLower();
+            pseudo.name = readIdentifier();
             m_hasFailed |= pseudo.name.isEmpty();
             step->pseudos.append(pseudo);
         } else {

@@ -33,7 +33,7 @@ struct StyleSelector {
 
     /*! \brief What follows a colon, or two: Qt makes no difference. */
     struct Pseudo {
-        QString name; //!< in lower case, without "!"
+        QString name; //!< as written, without "!"; letter case makes no difference
         bool isNegated = false;
         int offset = 0; //!< of the name or its "!"
 

@@ -215,7 +215,7 @@ const QStringList &StyleVocabulary::classes()
 bool StyleVocabulary::isState(const QString &name)
 {
     static const QSet<QString> known(states().cbegin(), states().cend());
-    return known.contains(name);
+    return known.contains(name.toLower());
 }
 
 QStringList StyleVocabulary::longhands(const QString &property)

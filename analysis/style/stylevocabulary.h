@@ -20,7 +20,7 @@ const QStringList &subControls();
 const QStringList &classes();
 
 /*!
- * \brief Tells whether \a name, in lower case and without "!", is a state.
+ * \brief Tells whether \a name, without "!" and in any letter case, is a state.
  *
  * What is none names a sub-control if it comes first. Behind others Qt takes it for a state that
  * is always there, and that makes the other states beside it hold always, too.

@@ -36,7 +36,7 @@ QStringList statesOf(const StyleSelector &selector)
     QStringList names;
     const QVector<StyleSelector::Pseudo> states = selector.states();
     for (const StyleSelector::Pseudo &state : states)
-        names << state.text();
+        names << state.text().toLower();
     names.sort();
     return names;
 }

@@ -67,7 +67,7 @@ void tst_StyleSelector::parsed_data()
     QTest::newRow("name")               << "QLabel#x-1"                     << "QLabel#x-1||";
     QTest::newRow("name-of-digits")     << "#1a"                            << "*#1a||";
     QTest::newRow("state")              << "QPushButton:hover:!enabled"     << "QPushButton||hover !enabled";
-    QTest::newRow("state-in-capitals")  << "QPushButton:HOVER"              << "QPushButton||hover";
+    QTest::newRow("state-in-capitals")  << "QPushButton:HOVER"              << "QPushButton||HOVER";
     QTest::newRow("state-two-colons")   << "QPushButton::hover"             << "QPushButton||hover";
     QTest::newRow("part")               << "QMenu::item:selected"           << "QMenu|item|selected";
     QTest::newRow("part-one-colon")     << "QTabBar:tab:selected"           << "QTabBar|tab|selected";
