@@ -66,6 +66,11 @@ bool isDefined(const ThemeProject &input, const QString &key)
     });
 }
 
+bool isBuiltInTemplate(const ThemeProject &input, int offset)
+{
+    return input.templates().fileAt(offset).input.path().startsWith(QLatin1String(":/"));
+}
+
 QString placeOf(const Definition &definition)
 {
     const QString file = QFileInfo(definition.layer->file.path()).fileName();

@@ -39,6 +39,11 @@ const QVector<Rule> &allRules()
         {"endless-substitution", Severity::Error,   "A value reproduces its own token, so substitution never ends.", Rules::endlessSubstitution},
         {"template-encoding",    Severity::Error,   "A template is not UTF-8 or holds a NUL byte.", Rules::templateEncoding},
         {"style-sheet-syntax",   Severity::Error,   "Qt cannot parse the finished style sheet.", Rules::styleSheetSyntax},
+        {"unterminated-comment", Severity::Error,   "A template's comment is not closed and swallows rules.", Rules::unterminatedComment},
+        {"unknown-class",        Severity::Warning, "A selector names a class that is nearly one of Qt's.", Rules::unknownClass},
+        {"unknown-subcontrol",   Severity::Warning, "A selector names a sub-control that no widget has.", Rules::unknownSubcontrol},
+        {"unknown-pseudo-state", Severity::Warning, "A selector names a state that does not exist.", Rules::unknownPseudoState},
+        {"unknown-property",     Severity::Warning, "Qt does not know a property.", Rules::unknownProperty},
 
         {"image-missing",        Severity::Error,   "An image file does not exist.", Rules::imageMissing},
         {"image-unreadable",     Severity::Error,   "An image file cannot be read or decoded.", Rules::imageUnreadable},

@@ -86,6 +86,9 @@ bool isDefined(const ThemeProject &input, const QString &key);
 /*! \brief Returns the key that was meant if an integer token took its unit for a part of it. */
 std::optional<QString> keyWithoutUnit(const ThemeProject &input, const TemplateToken &token);
 
+/*! \brief Tells whether \a offset lies in a template of the library, which nobody can mend. */
+bool isBuiltInTemplate(const ThemeProject &input, int offset);
+
 /*! \brief Returns "FILE:LINE" of \a definition, the file without its folder. */
 QString placeOf(const Definition &definition);
 
@@ -133,6 +136,11 @@ void straySeparator(const ThemeProject &input, Report &report);
 void endlessSubstitution(const ThemeProject &input, Report &report);
 void templateEncoding(const ThemeProject &input, Report &report);
 void styleSheetSyntax(const ThemeProject &input, Report &report);
+void unterminatedComment(const ThemeProject &input, Report &report);
+void unknownClass(const ThemeProject &input, Report &report);
+void unknownSubcontrol(const ThemeProject &input, Report &report);
+void unknownPseudoState(const ThemeProject &input, Report &report);
+void unknownProperty(const ThemeProject &input, Report &report);
 
 // Images.
 void imageMissing(const ThemeProject &input, Report &report);

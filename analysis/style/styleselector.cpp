@@ -108,8 +108,8 @@ private:
         } else if (take(u'[')) {
             m_hasFailed |= !readAttribute(step);
         } else if (take(u':')) {
-            take(u':');
             StyleSelector::Pseudo pseudo;
+            pseudo.isDoubled = take(u':');
             pseudo.offset = m_offset + m_at;
             pseudo.isNegated = take(u'!');
             pseudo.name = readIdentifier();

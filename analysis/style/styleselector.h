@@ -35,6 +35,7 @@ struct StyleSelector {
     struct Pseudo {
         QString name; //!< as written, without "!"; letter case makes no difference
         bool isNegated = false;
+        bool isDoubled = false; //!< written with two colons, as sub-controls are meant to be
         int offset = 0; //!< of the name or its "!"
 
         /*! \brief Returns the name with its "!". */

@@ -218,6 +218,12 @@ bool StyleVocabulary::isState(const QString &name)
     return known.contains(name.toLower());
 }
 
+bool StyleVocabulary::isSubControl(const QString &name)
+{
+    static const QSet<QString> known(subControls().cbegin(), subControls().cend());
+    return known.contains(name.toLower());
+}
+
 QStringList StyleVocabulary::longhands(const QString &property)
 {
     static const QHash<QString, QStringList> known = shorthands();

@@ -27,6 +27,9 @@ const QStringList &classes();
  */
 bool isState(const QString &name);
 
+/*! \brief Tells whether \a name, in any letter case, is a sub-control. */
+bool isSubControl(const QString &name);
+
 /*!
  * \brief Returns what a declaration of \a property sets: \a property itself or, of a shorthand,
  *        each of the properties it stands for, whether its value names them or not.

@@ -19,7 +19,7 @@ QString bucketName(const QString &part, const QString &type, const QStringList &
     return part % QLatin1Char('\n') % type % QLatin1Char('\n') % conditions.join(QLatin1Char('\n'));
 }
 
-QStringList conditionsOf(const StyleSelector::Step &step)
+QStringList stepConditions(const StyleSelector::Step &step)
 {
     QStringList conditions;
     for (const QString &id : step.ids)
@@ -43,7 +43,7 @@ QStringList statesOf(const StyleSelector &selector)
 
 QStringList allConditions(const StyleSelector &selector)
 {
-    QStringList conditions = conditionsOf(selector.subject());
+    QStringList conditions = stepConditions(selector.subject());
     const QStringList states = statesOf(selector);
     for (const QString &state : states)
         conditions << QLatin1Char(':') + state;
@@ -55,8 +55,8 @@ bool holds(const StyleSelector::Step &general, const StyleSelector::Step &specif
     if (general.type != QLatin1String("*") && general.type != specific.type
         && !StyleVocabulary::typeAndBases(specific.type).contains(general.type))
         return false;
-    const QStringList held = conditionsOf(specific);
-    const QStringList wanted = conditionsOf(general);
+    const QStringList held = stepConditions(specific);
+    const QStringList wanted = stepConditions(general);
     return std::all_of(wanted.cbegin(), wanted.cend(),
                        [&held](const QString &condition) { return held.contains(condition); });
 }
@@ -205,7 +205,7 @@ private:
         result.foreground = value(selector, part, conditions, foreground);
         result.backgrounds.append(value(selector, part, conditions, background));
         if (!part.isEmpty()) {
-            const QStringList ofWidget = conditionsOf(selector.subject());
+            const QStringList ofWidget = stepConditions(selector.subject());
             if (result.foreground.offset < 0)
                 result.foreground = value(selector, QString(), ofWidget, foreground);
             result.backgrounds.append(value(selector, QString(), ofWidget, background));
