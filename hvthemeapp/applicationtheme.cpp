@@ -9,6 +9,7 @@
 #include "iconcolors.h"
 #include "iconplugins.h"
 #include "missingimages.h"
+#include "themedstyle.h"
 
 #include <hvtheme/restyling.h>
 #include <hvtheme/theming.h>
@@ -47,6 +48,7 @@ ApplicationTheme::ApplicationTheme(QObject *parent)
 {
     initResources();
     registerIcons();
+    ThemedStyle::install();
 }
 
 ApplicationTheme::~ApplicationTheme() = default;

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_THEMEDSTYLE_H
+#define HVTHEMEAPP_THEMEDSTYLE_H
+
+#include <QProxyStyle>
+
+namespace HV
+{
+
+/*!
+ * \brief One of Qt's styles with the icons of the theme in force in the place of its own.
+ *
+ * They are those of message boxes, file dialogs, dialog buttons, title bars, line edits and tool bars.
+ * Until a theme is in force the style's own stay.
+ */
+class ThemedStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    /*!
+     * \brief Makes a themed style of the application's, and of each that replaces it later.
+     *
+     * A style that the program made itself, rather than by its name, is left alone: its icons are the
+     * program's. Cheap if it is done already. Needs a QApplication; call it on the GUI thread.
+     */
+    static void install();
+
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
+                       const QWidget *widget = nullptr) const override;
+    QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option = nullptr,
+                           const QWidget *widget = nullptr) const override;
+
+private:
+    explicit ThemedStyle(const QString &name);
+};
+
+} // namespace HV
+
+#endif // HVTHEMEAPP_THEMEDSTYLE_H
