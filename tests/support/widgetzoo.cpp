@@ -67,9 +67,7 @@ QWidget *pushButtons()
          pushed("Pressed", [](auto *b) { b->setDown(true); }),
          pushed("Focused", [](auto *b) { holdFocus(b); }),
          pushed("Disabled", [](auto *b) { b->setEnabled(false); })});
-    row(form, "Default",
-        {pushed("Default", [](auto *b) { b->setDefault(true); }),
-         pushed("Default off", [](auto *b) { b->setDefault(true), b->setEnabled(false); })});
+    row(form, "Default", {pushed("Default", [](auto *b) { b->setDefault(true); })});
     const auto checkable = [](const QString &text, bool checked, bool enabled) {
         return pushed(text, [=](auto *b) {
             b->setCheckable(true), b->setChecked(checked), b->setEnabled(enabled);
@@ -638,7 +636,6 @@ QWidget *mainWindow()
     for (const char *name : {"&File", "&Edit", "&View"})
         fillMenu(window->menuBar()->addMenu(name));
     window->menuBar()->addMenu("Disabled")->setEnabled(false);
-    window->menuBar()->setActiveAction(window->menuBar()->actions().at(1));
     QToolBar *bar = window->addToolBar("Tools");
     bar->addAction(icon(QStyle::SP_DialogOpenButton), "Open");
     bar->addAction(icon(QStyle::SP_DialogSaveButton), "Save")->setEnabled(false);
@@ -962,11 +959,11 @@ QList<QWidget *> windows(QWidget *window)
     QList<QWidget *> all{window};
     const auto children = window->findChildren<QWidget *>();
     for (QWidget *child : children) {
-        if (child->isWindow() && child->isVisible())
-            all.append(child);
-        else if (auto *edit = qobject_cast<QLineEdit *>(child);
-                 edit && edit->completer() && edit->completer()->popup()->isVisible())
-            all.append(edit->completer()->popup());
+        const auto *edit = qobject_cast<QLineEdit *>(child);
+        QWidget *popup =
+            edit && edit->property(openProperty).toBool() ? edit->completer()->popup() : child;
+        if (popup->isWindow() && popup->isVisible())
+            all.append(popup);
     }
     return all;
 }
