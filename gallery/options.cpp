@@ -30,8 +30,8 @@ void describe(QCommandLineParser &parser)
     parser.setApplicationDescription(
         QStringLiteral("Shows every widget that the style sheet templates know, in every state, "
                        "and restyles at once when a theme changes on disk."));
-    parser.addHelpOption();
-    parser.addVersionOption();
+    parser.addOption({{"h", "help"}, "Show this help."});
+    parser.addOption({{"v", "version"}, "Show the version."});
     parser.addOptions({
         {"themes", "Folder of theme files (the themes that come with the library).", "DIR"},
         {"theme",

@@ -14,6 +14,7 @@
 #include <QSettings>
 #include <QTextStream>
 
+#include <cstdio>
 #include <optional>
 
 namespace
@@ -36,6 +37,10 @@ const char usage[] =
     "is read from FOLDER/default.theme and FOLDER/THEME.theme. A copy that would\n"
     "not change is left alone, its time included.\n"
     "\n"
+    "Options:\n"
+    "  -h, --help     Show this help.\n"
+    "  -v, --version  Show the version.\n"
+    "\n"
     "Exit codes: 0 all copies are up to date; 1 a theme or picture cannot be used,\n"
     "the standard error says which and why; 2 wrong usage.\n";
 
@@ -43,6 +48,14 @@ bool complain(const QString &what)
 {
     QTextStream(stderr) << "hvtheme-icons: " << what << '\n';
     return false;
+}
+
+ExitCode print(const char *text)
+{
+    if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0)
+        return Success;
+    std::perror("hvtheme-icons: standard output");
+    return WrongUsage;
 }
 
 QString themeFile(const QString &folder, const QString &name)
@@ -146,12 +159,11 @@ int run(const QStringList &arguments)
 {
     if (arguments.size() == 2
         && (arguments[1] == QLatin1String("--help") || arguments[1] == QLatin1String("-h"))) {
-        QTextStream(stdout) << usage;
-        return Success;
+        return print(usage);
     }
-    if (arguments.size() == 2 && arguments[1] == QLatin1String("--version")) {
-        QTextStream(stdout) << "hvtheme-icons " << HVTHEME_VERSION << '\n';
-        return Success;
+    if (arguments.size() == 2
+        && (arguments[1] == QLatin1String("--version") || arguments[1] == QLatin1String("-v"))) {
+        return print("hvtheme-icons " HVTHEME_VERSION "\n");
     }
     if (arguments.size() < 5) {
         QTextStream(stderr) << usage;

@@ -18,6 +18,11 @@ private Q_SLOTS:
     void options();
     void words_data();
     void words();
+    void manualPages_data();
+    void manualPages();
+    void galleryOptions();
+    void galleryWords_data();
+    void galleryWords();
     void rules();
     void namesAreNeverRun();
 
@@ -29,18 +34,20 @@ namespace
 {
 
 // What the shell offers for the last of the words.
-QStringList completed(const QStringList &words)
+QStringList completed(const QStringList &words, const QString &program = "hvtheme")
 {
+    const QString folder = program == "hvtheme" ? "tools" : "gallery";
     QProcess shell;
     shell.setWorkingDirectory(dataFolder());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("PATH", QFileInfo(commandPath()).path() + ':' + environment.value("PATH"));
+    environment.insert("function", "_" + QString(program).replace('-', '_'));
     shell.setProcessEnvironment(environment);
     const QString script = "source \"$1\"; shift; COMP_WORDS=(\"$@\"); COMP_CWORD=$(($# - 1)); "
-                           "_hvtheme; printf '%s\\n' \"${COMPREPLY[@]}\"";
+                           "$function; printf '%s\\n' \"${COMPREPLY[@]}\"";
     shell.start("bash",
-                QStringList{"-c", script, "bash", HVTHEME_TEST_DIR "/../tools/completion/hvtheme",
-                            "hvtheme"}
+                QStringList{"-c", script, "bash",
+                            HVTHEME_TEST_DIR "/../" + folder + "/completion/" + program, program}
                     + words);
     shell.waitForFinished();
     QStringList offered =
@@ -63,9 +70,9 @@ QStringList longOptions(const QString &help)
 }
 
 // The lines of the manual page without its mark-up.
-QString manual()
+QString manual(const QString &program = "hvtheme")
 {
-    QFile file(HVTHEME_TEST_DIR "/../docs/hvtheme.1");
+    QFile file(HVTHEME_TEST_DIR "/../docs/" + program + ".1");
     if (!file.open(QIODevice::ReadOnly))
         qFatal("no manual page");
     return QString::fromUtf8(file.readAll()).replace("\\-", "-");
@@ -155,6 +162,92 @@ void tst_Completion::words()
     QFETCH(QString, words);
     QFETCH(QString, expected);
     QCOMPARE(completed(words.split(' ')).join(' '), expected);
+}
+
+QString pathOf(const QString &program)
+{
+    return QFileInfo(commandPath()).path() + '/' + program;
+}
+
+QString helpOf(const QString &program)
+{
+    QProcess process;
+    process.start(pathOf(program), {"--help"});
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
+void tst_Completion::manualPages_data()
+{
+    QTest::addColumn<QString>("program");
+    for (const char *program : {"hvtheme", "hvtheme-gallery", "hvtheme-icons"})
+        QTest::newRow(program) << program;
+}
+
+// A page has the options that the help has, and no other.
+void tst_Completion::manualPages()
+{
+    QFETCH(QString, program);
+    if (!QFile::exists(pathOf(program)))
+        QSKIP("this program is not built");
+    QStringList expected = longOptions(helpOf(program));
+    if (program == "hvtheme") {
+        for (const QString &command : qAsConst(m_commands))
+            expected += longOptions(CommandRun({command, "--help"}).output);
+    }
+    expected.removeDuplicates();
+    expected.sort();
+    QVERIFY(expected.contains("--help") && expected.contains("--version"));
+
+    const QString page = manual(program);
+    static const QRegularExpression heading("^\\.TP\n\\.BI?R? (.*)$",
+                                            QRegularExpression::MultilineOption);
+    static const QRegularExpression option("--[a-z-]+");
+    QStringList told;
+    for (auto headings = heading.globalMatch(page); headings.hasNext();)
+        told << option.match(headings.next().captured(1)).captured();
+    told.removeAll(QString());
+    told.removeDuplicates();
+    told.sort();
+    QCOMPARE(told, expected);
+    QVERIFY(page.contains(".SH EXIT STATUS"));
+    for (const QString &other : QStringList{"hvtheme", "hvtheme-gallery", "hvtheme-icons"})
+        QVERIFY(page.section(".SH SEE ALSO", 1).contains(other + " (1)") == (other != program));
+}
+
+void tst_Completion::galleryOptions()
+{
+    if (!QFile::exists(pathOf("hvtheme-gallery")))
+        QSKIP("the gallery is not built");
+    QCOMPARE(completed({"--"}, "hvtheme-gallery"), longOptions(helpOf("hvtheme-gallery")));
+}
+
+void tst_Completion::galleryWords_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("option") << "--sca"
+                            << "--scale";
+    QTest::newRow("page") << "--page bu"
+                          << "buttons";
+    QTest::newRow("folder") << "--themes the"
+                            << "themes";
+    QTest::newRow("form") << "--ui templates/b"
+                          << "templates/b.qss";
+    QTest::newRow("scale") << "--scale "
+                           << "1 2 3 4";
+    QTest::newRow("theme") << "--theme "
+                           << "";
+}
+
+void tst_Completion::galleryWords()
+{
+    QFETCH(QString, words);
+    QFETCH(QString, expected);
+    if (!QFile::exists(pathOf("hvtheme-gallery")))
+        QSKIP("the gallery is not built");
+    QCOMPARE(completed(words.split(' '), "hvtheme-gallery").join(' '), expected);
 }
 
 void tst_Completion::rules()
