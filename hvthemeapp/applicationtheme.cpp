@@ -8,6 +8,7 @@
 #include "desktoptheme.h"
 #include "iconcolors.h"
 #include "iconplugins.h"
+#include "legibletext.h"
 #include "missingimages.h"
 #include "themedstyle.h"
 
@@ -16,8 +17,10 @@
 #include <hvtheme/workabletheming.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QSettings>
+#include <QWidget>
 
 // Q_INIT_RESOURCE declares functions, so it may not stand inside a namespace.
 static void initResources()
@@ -35,12 +38,32 @@ namespace HV
 class ApplicationTheme::Private
 {
 public:
+    QString styleSheet() const;
+
     std::unique_ptr<Theme> theme = std::make_unique<WorkableTheme>();
     QString name;
+    bool keepsFonts = false;
+    std::unique_ptr<LegibleText> legibleText; // null unless text is lifted
     // What the desktop gave the application, before any look of ours.
     const QPalette startPalette = QApplication::palette();
     std::unique_ptr<DesktopSettings> desktop; // while it is followed
 };
+
+QString ApplicationTheme::Private::styleSheet() const
+{
+    QString sheet;
+    for (const char *folder : {":/stylesheet", ":/hvthemeapp/stylesheet"}) {
+        QStringList files;
+        const auto entries = QDir(QLatin1String(folder)).entryInfoList(QDir::Files, QDir::Name);
+        for (const QFileInfo &entry : entries)
+            files << entry.filePath();
+        if (keepsFonts)
+            files.removeOne(
+                QStringLiteral(":/stylesheet/global.qss")); // the rules that begin with `*`
+        sheet += findStyleSheet(theme.get(), files, QStringLiteral("global")) + QLatin1Char('\n');
+    }
+    return sheet;
+}
 
 ApplicationTheme::ApplicationTheme(QObject *parent)
     : QObject(parent)
@@ -110,6 +133,43 @@ bool ApplicationTheme::applyDesktop()
     return fitting == d->name || apply(fitting);
 }
 
+bool ApplicationTheme::keepsFonts() const
+{
+    return d->keepsFonts;
+}
+
+void ApplicationTheme::setKeepsFonts(bool keeps)
+{
+    if (keeps == d->keepsFonts)
+        return;
+    d->keepsFonts = keeps;
+    restyleAgain();
+    Q_EMIT keepsFontsChanged();
+}
+
+bool ApplicationTheme::liftsText() const
+{
+    return d->legibleText != nullptr;
+}
+
+void ApplicationTheme::setLiftsText(bool lifts)
+{
+    if (lifts == liftsText())
+        return;
+    d->legibleText = lifts ? std::make_unique<LegibleText>() : nullptr;
+    if (lifts) {
+        const auto follow = [this] {
+            const QVariant flag = d->theme->values().value(QStringLiteral("HighContrast"));
+            d->legibleText->setIsHighContrast(flag.toBool());
+        };
+        connect(this, &ApplicationTheme::changed, d->legibleText.get(), follow);
+        follow();
+    }
+    for (QWidget *widget : QApplication::allWidgets())
+        widget->update();
+    Q_EMIT liftsTextChanged();
+}
+
 bool ApplicationTheme::apply(const QString &name)
 {
     const QString folder = QStringLiteral(":/hvthemeapp/themes");
@@ -119,17 +179,25 @@ bool ApplicationTheme::apply(const QString &name)
     addMissingImages(*d->theme);
     d->name = name;
 
-    QString sheet;
-    for (const char *templates : {":/stylesheet", ":/hvthemeapp/stylesheet"})
-        sheet += findStyleSheet(d->theme.get(), QLatin1String(templates), QStringLiteral("global"))
-            + QLatin1Char('\n');
-    restyle(*qApp, sheet, [this] {
-        QApplication::setPalette(applicationPalette(*d->theme));
-        IconColors::setValues(d->theme->values());
-    });
+    restyleAgain();
     Q_EMIT nameChanged();
-    Q_EMIT changed();
     return true;
 }
+
+void ApplicationTheme::restyleAgain()
+{
+    if (d->name.isEmpty())
+        return;
+    QString sheet = d->styleSheet();
+    QPalette palette = applicationPalette(*d->theme);
+    complete(&palette, &sheet);
+    restyle(*qApp, sheet, [&] {
+        QApplication::setPalette(palette);
+        IconColors::setValues(d->theme->values());
+    });
+    Q_EMIT changed();
+}
+
+void ApplicationTheme::complete(QPalette *, QString *) { }
 
 } // namespace HV

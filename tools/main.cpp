@@ -6,6 +6,7 @@
 #include <tools/command_explain.h>
 #include <tools/command_new.h>
 #include <tools/command_render.h>
+#include <tools/command_run.h>
 #include <tools/command_sheet.h>
 #include <tools/command_values.h>
 #include <tools/commandline.h>
@@ -15,6 +16,7 @@
 #include <QApplication>
 
 #include <memory>
+#include <vector>
 
 namespace
 {
@@ -22,6 +24,7 @@ namespace
 enum class Needs {
     Core, //!< files and settings only
     Widgets, //!< fonts, pictures or style sheets
+    Program, //!< the words of the command line byte for byte, for it becomes another program
 };
 
 struct Command {
@@ -29,6 +32,7 @@ struct Command {
     const char *summary;
     Needs needs;
     int (*run)(const QStringList &arguments);
+    int (*runWords)(int argc, char **argv) = nullptr; //!< for Needs::Program
 };
 
 const Command commands[] = {
@@ -38,6 +42,7 @@ const Command commands[] = {
     {"explain", "Tell where a value comes from and what uses it.", Needs::Core, runExplain},
     {"diff", "List the values in which two themes differ.", Needs::Core, runDiff},
     {"new", "Make a folder of themes of one colour.", Needs::Core, runNew},
+    {"run", "Run an unmodified program in a theme.", Needs::Program, nullptr, runProgram},
     {"sheet", "Draw themes side by side, as a picture or a page.", Needs::Widgets, runSheet},
 };
 
@@ -67,12 +72,19 @@ void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 int runCommand(const Command &command, int &argc, char **argv)
 {
     const auto previous = qInstallMessageHandler(ignoreMessage);
+    std::vector<char *> words(argv + 2, argv + argc + 1); // with the null that ends them
     std::unique_ptr<QCoreApplication> application;
-    if (command.needs == Needs::Widgets)
+    // Nothing here has a window, and the platform for screens would need one to be there. A program
+    // that is to be run must not inherit that.
+    if (command.needs == Needs::Widgets) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
         application = std::make_unique<QApplication>(argc, argv);
-    else
+    } else {
         application = std::make_unique<QCoreApplication>(argc, argv);
-    const int code = command.run(QCoreApplication::arguments().mid(2));
+    }
+    const int code = command.needs == Needs::Program
+        ? command.runWords(int(words.size()) - 1, words.data())
+        : command.run(QCoreApplication::arguments().mid(2));
     application.reset();
     qInstallMessageHandler(previous);
     return code;
@@ -82,8 +94,6 @@ int runCommand(const Command &command, int &argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    // Nothing here has a window, and the platform for screens would need one to be there.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QString name = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString();
     for (const Command &command : commands) {
         if (name == QLatin1String(command.name))

@@ -153,6 +153,11 @@ void tst_Completion::words_data()
     QTest::newRow("new-folder") << "new the" << "themes";
     QTest::newRow("new-neutral") << "new x --neutral " << "cool warm";
     QTest::newRow("new-has-one-argument") << "new x " << "";
+    QTest::newRow("themes-to-run-in") << "run --theme " << "contrast dark default light";
+    QTest::newRow("folder-of-themes") << "run --themes the" << "themes";
+    QTest::newRow("program") << "run --theme dark -- mkfif" << "mkfifo";
+    QTest::newRow("program-by-path") << "run templates/b" << "templates/b.qss";
+    QTest::newRow("arguments") << "run -- cat --theme templates/b" << "templates/b.qss";
     QTest::newRow("unknown-command") << "paint " << "";
     // clang-format on
 }

@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <hvthemeapp/legibletext.h>
+
+#include <colormath/contrast.h>
+#include <colormath/oklch.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPaintEvent>
+#include <QPixmap>
+#include <QWidget>
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace
+{
+
+// Of WCAG 2.1: levels AA and AAA, and what is asked of things that are no text.
+const double normalRatio = 4.5;
+const double highRatio = 7;
+const double disabledRatio = 3;
+
+// Classes that do not paint with a painter, or whose paint goes by ways of its own.
+const char *const leftAlone[] = {"QOpenGLWidget",  "QGLWidget",    "QQuickWidget",
+                                 "QWebEngineView", "QVideoWidget", "QAxWidget"};
+
+bool isPaintedByPainter(const QWidget *widget)
+{
+    if (widget->testAttribute(Qt::WA_PaintOnScreen) || widget->graphicsEffect()
+        || !widget->testAttribute(Qt::WA_WState_InPaintEvent))
+        return false;
+    return std::none_of(std::begin(leftAlone), std::end(leftAlone),
+                        [=](const char *name) { return widget->inherits(name); });
+}
+
+// The picture that a painter paints into; null if it is none, as for a printer.
+QImage pictureBelow(const QPainter &painter)
+{
+    const QPaintDevice *device = painter.paintEngine()->paintDevice();
+    if (device->devType() == QInternal::Image)
+        return *static_cast<const QImage *>(device);
+    if (device->devType() == QInternal::Pixmap)
+        return static_cast<const QPixmap *>(device)->toImage();
+    return {};
+}
+
+struct Share {
+    QRgb color;
+    int count;
+};
+
+/*
+ * The colour that a text is to stand out from: the one that most of the ground has. What else there
+ * is may be a frame, an icon or the text before. A ground without such a colour is taken for one if
+ * its colours are as good as alike, such as a gradient; a picture has none.
+ */
+std::optional<QColor> commonColor(const std::vector<QRgb> &pixels)
+{
+    std::vector<Share> shares;
+    for (const QRgb pixel : pixels) {
+        const auto it = std::find_if(shares.begin(), shares.end(), [=](const Share &share) {
+            return qAbs(qRed(share.color) - qRed(pixel)) <= 4
+                && qAbs(qGreen(share.color) - qGreen(pixel)) <= 4
+                && qAbs(qBlue(share.color) - qBlue(pixel)) <= 4;
+        });
+        if (it == shares.end())
+            shares.push_back({pixel, 1});
+        else
+            ++it->count;
+    }
+    if (shares.empty())
+        return std::nullopt;
+    const auto most =
+        std::max_element(shares.begin(), shares.end(), [](const Share &left, const Share &right) {
+            return left.count < right.count;
+        });
+    const QColor color(most->color);
+    if (most->count * 2 > int(pixels.size()))
+        return color;
+    const bool isAlike = std::all_of(shares.begin(), shares.end(), [&](const Share &share) {
+        return ColorMath::contrastRatio(QColor(share.color), color) < 1.3;
+    });
+    return isAlike ? std::optional<QColor>(color) : std::nullopt;
+}
+
+std::optional<QColor> groundBelow(const QPainter &painter, const QRectF &rect)
+{
+    const QImage picture = pictureBelow(painter);
+    QRectF seen = rect;
+    if (painter.hasClipping())
+        seen &= painter.clipBoundingRect();
+    const QRect area = painter.deviceTransform().mapRect(seen).toAlignedRect() & picture.rect();
+    if (area.isEmpty())
+        return std::nullopt;
+    const int columns = qMin(area.width(), 24);
+    const int rows = qMin(area.height(), 7);
+    std::vector<QRgb> pixels;
+    pixels.reserve(size_t(columns * rows));
+    for (int row = 0; row < rows; ++row) {
+        const int y = area.top() + (2 * row + 1) * area.height() / (2 * rows);
+        for (int column = 0; column < columns; ++column) {
+            const QRgb pixel =
+                picture.pixel(area.left() + (2 * column + 1) * area.width() / (2 * columns), y);
+            if (qAlpha(pixel) == 255)
+                pixels.push_back(pixel);
+        }
+    }
+    // What is translucent gets its ground later, where it cannot be seen from here.
+    if (pixels.size() * 2 < size_t(columns * rows))
+        return std::nullopt;
+    return commonColor(pixels);
+}
+
+bool isDisabledColor(const QWidget *widget, const QColor &color)
+{
+    if (!widget->isEnabled())
+        return true;
+    for (const QPalette &palette : {widget->palette(), QApplication::palette()}) {
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            if (palette.color(QPalette::Disabled, role) == color
+                && palette.color(QPalette::Active, role) != color)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+LegibleText::LegibleText(QObject *parent)
+    : QObject(parent)
+    , m_ratio(normalRatio)
+{
+    qApp->installEventFilter(this);
+}
+
+void LegibleText::setIsHighContrast(bool isHigh)
+{
+    m_ratio = isHigh ? highRatio : normalRatio;
+    m_lifted.clear();
+}
+
+bool LegibleText::eventFilter(QObject *object, QEvent *event)
+{
+    if (event->type() != QEvent::Paint || !object->isWidgetType())
+        return false;
+    auto *widget = static_cast<QWidget *>(object);
+    if (widget == m_widget) { // its own paint, which was asked for below
+        m_engine->setOpen(true);
+        return false;
+    }
+    return isPaintedByPainter(widget) && paint(widget, static_cast<QPaintEvent *>(event)->region());
+}
+
+bool LegibleText::paint(QWidget *widget, const QRegion &region)
+{
+    QPainter target(widget);
+    if (!target.isActive() || target.paintEngine()->type() != QPaintEngine::Raster)
+        return false;
+    ForwardingPaintDevice device(&target, this);
+    // Backgrounds are painted already, and those that are translucent must not be so twice.
+    device.engine()->setOpen(false);
+
+    QWidget *const outerWidget = std::exchange(m_widget, widget);
+    ForwardingPaintEngine *const outerEngine = std::exchange(m_engine, device.engine());
+    widget->setAttribute(Qt::WA_WState_InPaintEvent, false);
+    widget->render(&device, region.boundingRect().topLeft(), region, {});
+    widget->setAttribute(Qt::WA_WState_InPaintEvent);
+    m_engine = outerEngine;
+    m_widget = outerWidget;
+    return true;
+}
+
+QColor LegibleText::textColor(const QPainter &painter, const QRectF &rect, const QColor &color)
+{
+    const int faint = 40; // meant to be a trace at most, or fading
+    if (color.alpha() < faint || painter.opacity() < 1
+        || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return color;
+    // Etched text has a light copy of itself below, a pixel aside.
+    if (color == m_widget->palette().color(QPalette::Light))
+        return color;
+    const std::optional<QColor> ground = groundBelow(painter, rect);
+    if (!ground)
+        return color;
+    const double ratio = isDisabledColor(m_widget, color) ? disabledRatio : m_ratio;
+    if (ColorMath::contrastRatio(color, *ground) >= ratio)
+        return color;
+
+    if (m_lifted.size() > 1000)
+        m_lifted.clear();
+    const quint64 key = quint64(color.rgba()) << 32 | (ground->rgb() & 0xffffff) << 1
+        | quint64(ratio == m_ratio); // the ground's alpha leaves room
+    const auto it = m_lifted.constFind(key);
+    if (it != m_lifted.cend())
+        return *it;
+    return *m_lifted.insert(key, ColorMath::liftedToContrast(color, *ground, ratio));
+}

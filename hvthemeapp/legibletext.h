@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_LEGIBLETEXT_H
+#define HVTHEMEAPP_LEGIBLETEXT_H
+
+#include <hvthemeapp/forwardingpaintdevice.h>
+
+#include <QHash>
+#include <QObject>
+
+class QWidget;
+
+/*!
+ * \brief While it lives, text that does not stand out from its ground is painted lighter or darker.
+ *
+ * All widgets of the application on the screen are meant, whoever chose the colour of the text: an
+ * item of a model, a document, a palette of a widget, a paint event. Hue stays and nothing but the
+ * paint changes: models, documents and palettes keep what they hold, and what goes to printers, PDF
+ * and SVG files stays as it is.
+ *
+ * The ground is what has been painted where the text comes. On a picture or another ground of many
+ * colours, text stays as it is.
+ */
+class LegibleText : public QObject, private TextColors
+{
+public:
+    /*! \brief Needs a QApplication and is used by its thread. */
+    explicit LegibleText(QObject *parent = nullptr);
+
+    /*! \brief Sets the contrast to reach: 7 (WCAG 2.1) if it is to be high, 4.5 if not, as at first.
+     *         Disabled text reaches 3. */
+    void setIsHighContrast(bool isHigh);
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    QColor textColor(const QPainter &painter, const QRectF &rect, const QColor &color) override;
+    bool paint(QWidget *widget, const QRegion &region);
+
+    double m_ratio;
+    QWidget *m_widget = nullptr; // that is being painted,
+    ForwardingPaintEngine *m_engine = nullptr; // with this engine
+    QHash<quint64, QColor> m_lifted; // by colour and ground
+};
+
+#endif

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <plugin/foreignprogram.h>
+
+#include <QApplication>
+#include <QEvent>
+
+namespace
+{
+
+const QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
+
+} // namespace
+
+ForeignProgram::ForeignProgram(const Options &options)
+{
+    // An application style sheet wants a style to stand on, and makes none itself.
+    QApplication::style();
+    setKeepsFonts(true);
+    setLiftsText(options.liftsText);
+    connect(this, &HV::ApplicationTheme::changed, this, [this] {
+        m_palette = QApplication::palette();
+        m_styleSheet = qApp->styleSheet();
+    });
+    if (options.theme.isEmpty())
+        followDesktop();
+    else
+        setName(options.theme);
+    qApp->installEventFilter(this);
+}
+
+bool ForeignProgram::eventFilter(QObject *object, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ApplicationPaletteChange:
+    case QEvent::Polish:
+    case QEvent::StyleChange:
+        if (!m_isLookPending)
+            lookSoon();
+        break;
+    default:
+        break;
+    }
+    return HV::ApplicationTheme::eventFilter(object, event);
+}
+
+// The program may be in the middle of its change, and a window in the middle of being shown. Nothing
+// is painted before posted events are through.
+void ForeignProgram::lookSoon()
+{
+    if (qApp->styleSheet() == m_styleSheet && QApplication::palette() == m_palette)
+        return;
+    m_isLookPending = true;
+    QMetaObject::invokeMethod(this, &ForeignProgram::look, Qt::QueuedConnection);
+}
+
+void ForeignProgram::look()
+{
+    m_isLookPending = false;
+    const QPalette palette = QApplication::palette();
+    const QString styleSheet = qApp->styleSheet();
+    if (name().isEmpty() || (styleSheet == m_styleSheet && palette == m_palette))
+        return;
+    m_ownStyleSheet = withoutTheme(styleSheet);
+    for (const QPalette::ColorGroup group : groups) {
+        for (int i = 0; i < QPalette::NColorRoles; ++i) {
+            const auto role = QPalette::ColorRole(i);
+            const QBrush &brush = palette.brush(group, role);
+            if (brush == m_themePalette.brush(group, role))
+                m_ownBrushes.remove({group, role});
+            else
+                m_ownBrushes.insert({group, role}, brush);
+        }
+    }
+    restyleAgain();
+}
+
+void ForeignProgram::complete(QPalette *palette, QString *styleSheet)
+{
+    m_themePalette = *palette;
+    m_themeStyleSheets.removeAll(*styleSheet);
+    m_themeStyleSheets << *styleSheet;
+    for (auto it = m_ownBrushes.cbegin(); it != m_ownBrushes.cend(); ++it)
+        palette->setBrush(it.key().first, it.key().second, it.value());
+    if (!m_ownStyleSheet.isEmpty())
+        *styleSheet += QLatin1Char('\n') + m_ownStyleSheet;
+}
+
+QString ForeignProgram::withoutTheme(const QString &styleSheet) const
+{
+    QString own = styleSheet;
+    for (const QString &theme : m_themeStyleSheets)
+        own.remove(theme);
+    return own.trimmed();
+}

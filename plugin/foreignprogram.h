@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef PLUGIN_FOREIGNPROGRAM_H
+#define PLUGIN_FOREIGNPROGRAM_H
+
+#include <hvthemeapp/applicationtheme.h>
+
+#include <QHash>
+#include <QObject>
+#include <QPalette>
+#include <QStringList>
+
+/*!
+ * \brief The look of a program that knows nothing of it.
+ *
+ * Lays the theme below what the program sets itself: its application style sheet comes behind the
+ * theme's, and the roles that it sets in the application's palette keep its colours. Qt tells nobody
+ * that an application style sheet was replaced. So what is told is taken for a sign to look: a
+ * widget that is polished or changes its style.
+ */
+class ForeignProgram : public HV::ApplicationTheme
+{
+    Q_OBJECT
+
+public:
+    struct Options {
+        QString theme; //!< name; empty means as the desktop
+        QString folder; //!< of theme files; empty means the built-in themes
+        bool liftsText = true;
+    };
+
+    /*! \brief Themes the application, which may still be under construction. */
+    explicit ForeignProgram(const Options &options);
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+protected:
+    void complete(QPalette *palette, QString *styleSheet) override;
+
+private:
+    using Role = QPair<QPalette::ColorGroup, QPalette::ColorRole>;
+
+    void look();
+    void lookSoon();
+    QString withoutTheme(const QString &styleSheet) const;
+
+    QPalette m_themePalette; // as the theme has it
+    QStringList m_themeStyleSheets; // of all themes so far, the one in force last
+    QPalette m_palette; // what the application has since the last look
+    QString m_styleSheet;
+    QString m_ownStyleSheet; // what the program has set
+    QHash<Role, QBrush> m_ownBrushes;
+    bool m_isLookPending = false;
+};
+
+#endif

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <tools/command_run.h>
+
+#include <tools/commandline.h>
+#include <tools/outputtext.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUrlQuery>
+
+#include <cerrno>
+#include <cstring>
+#include <unistd.h>
+
+namespace
+{
+
+// As shells end when they cannot run a program.
+enum ShellExitCode {
+    ExitNotExecutable = 126,
+    ExitNotFound = 127
+};
+
+const char *const pluginVariable = "QT_QPA_GENERIC_PLUGINS";
+const char *const pluginPathVariable = "QT_PLUGIN_PATH";
+
+void addOptions(QCommandLineParser *parser)
+{
+    // What follows the program belongs to the program.
+    parser->setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser->addPositionalArgument(QStringLiteral("PROGRAM"),
+                                  QStringLiteral("The program, by name or path."));
+    parser->addPositionalArgument(QStringLiteral("ARGUMENT"), QStringLiteral("Its arguments."),
+                                  QStringLiteral("[ARGUMENT...]"));
+    parser->addOption({QStringLiteral("theme"), QStringLiteral("Theme to run the program in."),
+                       QStringLiteral("name")});
+    parser->addOption({QStringLiteral("follow"),
+                       QStringLiteral("Dark, light or high contrast as the desktop (default).")});
+    parser->addOption({QStringLiteral("themes"),
+                       QStringLiteral("Folder of theme files (default: the built-in themes)."),
+                       QStringLiteral("dir")});
+    parser->addOption({QStringLiteral("no-lift"),
+                       QStringLiteral("Leave the program's own text colours as they are.")});
+}
+
+// What is wrong with the options; empty if nothing is.
+QString mistake(const QCommandLineParser &parser)
+{
+    if (parser.positionalArguments().isEmpty())
+        return QStringLiteral("a program is missing");
+    if (parser.isSet(QStringLiteral("theme")) && parser.isSet(QStringLiteral("follow")))
+        return QStringLiteral("--theme and --follow exclude each other");
+    if (!parser.isSet(QStringLiteral("themes")))
+        return {};
+    const QDir folder(parser.value(QStringLiteral("themes")));
+    if (!folder.exists(QStringLiteral("default.theme")))
+        return folder.path()
+            % QLatin1String(": no default.theme here, with which every theme begins");
+    const QString theme = parser.value(QStringLiteral("theme"));
+    if (!theme.isEmpty() && !folder.exists(theme % QLatin1String(".theme")))
+        return folder.path() % QLatin1String(": no theme is called \"") % theme % QLatin1Char('"');
+    return {};
+}
+
+// The text for the plugin. Commas separate plugins and Qt reads the list as Latin-1, so all that is
+// neither a letter nor a digit is encoded.
+QByteArray specification(const QCommandLineParser &parser)
+{
+    const auto encoded = [](const QString &text) { return QUrl::toPercentEncoding(text); };
+    QByteArray text("hvtheme:program=");
+    text += encoded(QFileInfo(parser.positionalArguments().constFirst()).fileName());
+    if (parser.isSet(QStringLiteral("theme")))
+        text += "&theme=" + encoded(parser.value(QStringLiteral("theme")));
+    if (parser.isSet(QStringLiteral("themes")))
+        text += "&themes=" + encoded(QDir(parser.value(QStringLiteral("themes"))).absolutePath());
+    if (parser.isSet(QStringLiteral("no-lift")))
+        text += "&lift=no";
+    return text;
+}
+
+// Adds an entry to a list in the environment, unless it is there. Nothing that stands there goes.
+void addToEnvironment(const char *variable, const QByteArray &entry, char separator, bool first)
+{
+    const QByteArray list = qgetenv(variable);
+    if (list.isEmpty())
+        qputenv(variable, entry);
+    else if (!list.split(separator).contains(entry))
+        qputenv(variable, first ? entry + separator + list : list + separator + entry);
+}
+
+int execute(char **arguments)
+{
+    ::execvp(arguments[0], arguments);
+    const int error = errno;
+    const QString program = QString::fromLocal8Bit(arguments[0]);
+    if (error == ENOENT && !QFile::exists(program)) {
+        printError(QLatin1String("run: ") % program % QLatin1String(": no such program"));
+        return ExitNotFound;
+    }
+    printError(QLatin1String("run: ") % program % QLatin1String(": cannot be executed: ")
+               % QString::fromLocal8Bit(std::strerror(error)));
+    return error == ENOENT ? ExitNotFound : ExitNotExecutable;
+}
+
+} // namespace
+
+int runProgram(int argc, char **argv)
+{
+    const QString name = QStringLiteral("run");
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Runs a program that uses Qt Widgets in a theme; the program need not know of it.\n"
+        "Programs that it starts in turn have the theme as well.\n\n"
+        "Exit code: that of the program; 127 no such program, 126 it cannot be executed, 2 wrong\n"
+        "usage, or the plugin that does the work is missing."));
+    addOptions(&parser);
+    if (const std::optional<int> code = parseArguments(parser, name, arguments))
+        return *code;
+    const QString error = mistake(parser);
+    if (!error.isEmpty())
+        return usageError(name, error);
+
+    const QDir folder(
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(HVTHEME_PLUGINS_DIR)));
+    const QString plugin = QStringLiteral("generic/" HVTHEME_PLUGIN_FILE);
+    if (!folder.exists(plugin)) {
+        printError(QLatin1String("run: ") % QDir::cleanPath(folder.filePath(plugin))
+                   % QLatin1String(": the plugin that themes programs is missing"));
+        return ExitUnusable;
+    }
+    addToEnvironment(pluginPathVariable, QFile::encodeName(QDir::cleanPath(folder.path())), ':',
+                     false);
+    // Of several entries of this plugin the first counts.
+    addToEnvironment(pluginVariable, specification(parser), ',', true);
+    return execute(argv + (argc - parser.positionalArguments().size()));
+}
