@@ -5,6 +5,7 @@
 
 #include "iconcolors.h"
 #include "themedicon.h"
+#include "titlebar.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -180,6 +181,24 @@ QPixmap ThemedStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *o
         return own;
     return themedIcon(QLatin1String(drawing))
         .pixmap(own.isNull() ? QSize(16, 16) : own.size() / own.devicePixelRatio());
+}
+
+void ThemedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                     QPainter *painter, const QWidget *widget) const
+{
+    const auto *titleBar = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
+    if (control == CC_TitleBar && titleBar && IconColors::hasValues())
+        drawTitleBar(*proxy(), *titleBar, *painter, widget);
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+int ThemedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
+                             const QWidget *widget) const
+{
+    const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    // The usual twelve leave six for the sign that there is more, which nobody sees.
+    return metric == PM_ToolBarExtensionExtent ? qMax(own, 20) : own;
 }
 
 } // namespace HV

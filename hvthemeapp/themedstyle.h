@@ -13,7 +13,7 @@ namespace HV
  * \brief One of Qt's styles with the icons of the theme in force in the place of its own.
  *
  * They are those of message boxes, file dialogs, dialog buttons, title bars, line edits and tool bars.
- * Until a theme is in force the style's own stay.
+ * Title bars of windows inside windows, for which Qt has fixed colours, take those of the palette. Until a theme is in force the style's own stay.
  */
 class ThemedStyle : public QProxyStyle
 {
@@ -32,6 +32,11 @@ public:
                        const QWidget *widget = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option = nullptr,
                            const QWidget *widget = nullptr) const override;
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                            QPainter *painter, const QWidget *widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
+                    const QWidget *widget = nullptr) const override;
 
 private:
     explicit ThemedStyle(const QString &name);
