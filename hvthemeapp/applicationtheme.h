@@ -7,10 +7,14 @@
 #include <hvthemeapp/hvthemeapp_export.h>
 
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 
+class QMenu;
 class QPalette;
+class QSettings;
+class QWidget;
 
 namespace HV
 {
@@ -18,21 +22,75 @@ namespace HV
 class Theme;
 
 /*!
- * \brief The look of a whole application: a theme, the palette and the style sheets that go with it.
+ * \brief The look of a whole application: a theme, and the palette, icons and style sheet made of it.
+ *
+ * ```cpp
+ * QApplication app(argc, argv);
+ * HV::ApplicationTheme theme; // dark, light and contrast are inside the library
+ * theme.followDesktop();      // or theme.setName("dark")
+ * ```
+ *
+ * A look changes as a whole or not at all. What keeps a new one from coming into force leaves the last
+ * good one, makes the function return false, and is told in one sentence: by problem(), and once as a
+ * warning of the category `hvtheme.app`. A theme that is complete logs nothing.
+ *
+ * A style sheet that the application has set itself comes after the one of the look and stays. What
+ * the application sets later replaces all; it is joined with the look again at the next change, or by
+ * restyleAgain().
+ *
+ * Use it on the GUI thread. It may be made before the QApplication and outlive it; a look needs one.
+ * An application has one look: of several objects the last one that set it has it, and the others no
+ * longer react to files and the desktop until they set it again. Deleting the object leaves the look
+ * as it is.
  */
 class HVTHEMEAPP_EXPORT ApplicationTheme : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(QString folder READ folder WRITE setFolder NOTIFY folderChanged)
+    Q_PROPERTY(QStringList names READ names NOTIFY folderChanged)
     Q_PROPERTY(bool followsDesktop READ followsDesktop WRITE setFollowsDesktop NOTIFY
                    followsDesktopChanged)
     Q_PROPERTY(bool keepsFonts READ keepsFonts WRITE setKeepsFonts NOTIFY keepsFontsChanged)
     Q_PROPERTY(bool liftsText READ liftsText WRITE setLiftsText NOTIFY liftsTextChanged)
+    Q_PROPERTY(bool liveReload READ isLiveReload WRITE setLiveReload NOTIFY liveReloadChanged)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
 
 public:
     explicit ApplicationTheme(QObject *parent = nullptr);
+
+    /*! \brief Reads themes into \a theme, an object of a class with a vocabulary of its own (see
+     *         WorkableTheme) or any other; must not be null. */
+    explicit ApplicationTheme(std::unique_ptr<Theme> theme, QObject *parent = nullptr);
     ~ApplicationTheme() override;
 
+    /*!
+     * \brief Returns the folder that themes are taken from.
+     *
+     * At first the folder `themes` beside the executable, if it has a `default.theme`, else the one
+     * inside the library.
+     */
+    QString folder() const;
+
+    /*!
+     * \brief Takes themes from \a folder; a null or empty text chooses as at first.
+     *
+     * If a look is in force, the theme of the same name (the one that fits, if the desktop is
+     * followed) comes into force; if the folder has none, the look stays until the next setName().
+     *
+     * \return false, with a problem(), for a folder that is missing or has no `default.theme` that
+     *         can be read, or a theme that cannot; folder() and the look then stay.
+     */
+    bool setFolder(const QString &folder);
+
+    /*! \brief Returns the themes that folder() has now, sorted. A default file is one of them only if
+     *         it has colours or is alone. */
+    QStringList names() const;
+
+    /*! \brief Returns what people call the theme \a name of folder(): its `ThemeName`. */
+    Q_INVOKABLE QString displayName(const QString &name) const;
+
+    /*! \brief Returns the name of the look in force; null before the first. */
     QString name() const;
 
     /*! \brief Gives the application the look \a name; returns whether it has it now. If so, the
@@ -56,6 +114,17 @@ public:
     void setFollowsDesktop(bool follows);
 
     /*!
+     * \brief Appends the templates (`*.qss`, `*.css`) of \a folder, with tokens that begin with
+     *        \a prefix, to the style sheet of this look and all others.
+     *
+     * They come after the built-in ones, folders in the order of the calls. Restyles an application
+     * that has a look; a call before the first costs nothing.
+     *
+     * \return false, with a problem(), for a folder that does not exist; nothing then changes.
+     */
+    bool addTemplates(const QString &folder, const QString &prefix = QStringLiteral("global"));
+
+    /*!
      * \brief Whether the rules for every widget, which give font and colour to all text, are left out;
      *        false at first.
      *
@@ -77,26 +146,67 @@ public:
     bool liftsText() const;
     void setLiftsText(bool lifts);
 
-    /*! \brief Returns the theme in force; never null. */
+    /*!
+     * \brief Returns whether the look follows its files as they are saved; false at first.
+     *
+     * The files are those of the theme, its images and templates; resources never change. A file that
+     * is broken for a moment leaves the last good look.
+     */
+    bool isLiveReload() const;
+    void setLiveReload(bool reload);
+
+    /*! \brief Returns the theme in force, empty before the first look; never null, and always the
+     *         same object. */
     Theme *theme() const;
 
-    /*! \brief Gives the application the look in force once more, with what complete() now adds. Does
-     *         nothing before the first look. */
+    /*! \brief Returns the palette of the look in force, as the application has it. */
+    QPalette palette() const;
+
+    /*! \brief Returns what kept the last change from coming into force: what, where, what to do. Empty
+     *         if it is in force. */
+    QString problem() const;
+
+    /*!
+     * \brief Makes a menu of the themes, and "As the desktop"; one is checked, however it was chosen.
+     *
+     * Its themes are those of folder() whenever it opens.
+     *
+     * \param parent  owns the menu; if null, the caller does.
+     */
+    QMenu *menu(QWidget *parent = nullptr);
+
+    /*! \brief Writes the user's choice, `Theme` and `FollowsDesktop`, below the current group. */
+    void save(QSettings &settings) const;
+
+    /*!
+     * \brief Makes what save() wrote the look.
+     *
+     * \return false if nothing is written there, which is no problem(), or if it did not come into
+     *         force; the caller then chooses: `if (!theme.restore(settings)) theme.followDesktop();`
+     */
+    bool restore(const QSettings &settings);
+
+    /*! \brief Gives the application the look in force once more: with the style sheet that it has set
+     *         itself, and with what complete() now adds. Does nothing before the first look. */
     void restyleAgain();
 
 Q_SIGNALS:
     void nameChanged();
+    void folderChanged();
     void followsDesktopChanged();
     void keepsFontsChanged();
     void liftsTextChanged();
+    void liveReloadChanged();
+    void problemChanged();
 
-    /*! \brief The palette, the icons and the style sheet of another look are in force. */
+    /*! \brief The palette, the icons and the style sheet of another look are in force, and all widgets
+     *         have them. What paints by itself takes its colours from theme() or palette() now. */
     void changed();
 
 protected:
     /*!
-     * \brief Adds to the palette and the style sheet of a look before it comes into force; adds
-     *        nothing here.
+     * \brief Adds to the palette and the style sheet of a look before it comes into force; here, the
+     *        style sheet that the application has set itself.
      *
      * Called for every look, as the theme is in force and nothing else of it. What is added costs no
      * restyling of its own.
@@ -104,8 +214,12 @@ protected:
     virtual void complete(QPalette *palette, QString *styleSheet);
 
 private:
-    bool apply(const QString &name);
+    bool apply(const QString &folder, const QString &name);
     bool applyDesktop();
+    void applyLater(const QString &folder, const QString &name);
+    bool report(const QString &problem);
+    void reload();
+    void watch();
 
     class Private;
     const std::unique_ptr<Private> d;

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_PROGRAMLOOK_H
+#define HVTHEMEAPP_PROGRAMLOOK_H
+
+#include <QPalette>
+#include <QString>
+#include <QVariantMap>
+
+namespace HV
+{
+
+/*! \brief The palette that the application had before any look of ours; it is taken at the first call
+ *         with a QApplication. */
+QPalette startPalette();
+
+/*! \brief Returns whether a widget is in a paint event. */
+bool isPainting();
+
+/*! \brief Returns the style sheet of the application without \a look, which it may contain. */
+QString styleSheetBeside(const QString &look);
+
+/*!
+ * \brief Puts palette, icon colours and style sheet in force, and polishes each widget once.
+ *
+ * Also what a palette does not reach: tool tips, and links in documents, which have their colour since
+ * their HTML was set. Needs a QApplication. Internal.
+ */
+void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet);
+
+} // namespace HV
+
+#endif // HVTHEMEAPP_PROGRAMLOOK_H

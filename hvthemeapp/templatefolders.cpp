@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "templatefolders.h"
+
+#include "themefolder.h"
+
+#include <hvtheme/theming.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace HV
+{
+namespace
+{
+
+QStringList templateFiles(const QString &folder)
+{
+    QStringList files;
+    const QStringList filters = {QStringLiteral("*.qss"), QStringLiteral("*.css")};
+    const QFileInfoList entries = QDir(folder).entryInfoList(filters, QDir::Files);
+    for (const QFileInfo &entry : entries)
+        files.append(folder + QLatin1Char('/') + entry.fileName());
+    return files;
+}
+
+} // namespace
+
+void TemplateFolders::add(const QString &folder, const QString &prefix)
+{
+    m_folders.append({folder, prefix});
+}
+
+QStringList TemplateFolders::folders() const
+{
+    QStringList paths;
+    for (const Folder &folder : m_folders)
+        paths.append(folder.path);
+    return paths;
+}
+
+QStringList TemplateFolders::files() const
+{
+    QStringList files;
+    for (const Folder &folder : m_folders)
+        files += templateFiles(folder.path);
+    return files;
+}
+
+QString TemplateFolders::problem() const
+{
+    for (const Folder &folder : m_folders) {
+        if (!QFileInfo(folder.path).isDir())
+            return QStringLiteral("The templates folder \"%1\" does not exist; name one that does.")
+                .arg(folder.path);
+    }
+    const QStringList all = files();
+    for (const QString &file : all) {
+        const QString fault = ThemeFolder::problemOfText(file);
+        if (!fault.isEmpty())
+            return QStringLiteral("%1; mend it or take it out of the templates folder.").arg(fault);
+    }
+    return {};
+}
+
+QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
+{
+    const QString prefix = QStringLiteral("global");
+    QStringList builtIn = templateFiles(QStringLiteral(":/stylesheet"));
+    if (keepsFonts)
+        builtIn.removeOne(QStringLiteral(":/stylesheet/global.qss")); // its rules begin with `*`
+    builtIn += templateFiles(QStringLiteral(":/hvthemeapp/stylesheet"));
+    // A template may end in an open comment or without a line's end.
+    QString sheet = findStyleSheet(theme, builtIn, prefix) + QLatin1Char('\n');
+    for (const Folder &folder : m_folders)
+        sheet += findStyleSheet(theme, folder.path, folder.prefix) + QLatin1Char('\n');
+    return sheet;
+}
+
+} // namespace HV

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "themefolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace HV
+{
+namespace
+{
+
+const QString suffix = QStringLiteral(".theme");
+const QString defaultName = QStringLiteral("default");
+
+// Far more than a theme needs, and far less than a program can read without being noticed.
+constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+
+// Nothing but a file is opened: a pipe would never end.
+QString problemOfFile(const QString &path, bool isTheme)
+{
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return QStringLiteral("\"%1\" is no file").arg(path);
+    if (info.size() > sizeLimit)
+        return QStringLiteral("\"%1\" is larger than 4 MiB").arg(path);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QStringLiteral("\"%1\" cannot be read").arg(path);
+    const QByteArray text = file.readAll();
+    if (text.contains('\0'))
+        return QStringLiteral("\"%1\" is no text").arg(path);
+    if (isTheme && !text.contains('='))
+        return QStringLiteral("\"%1\" has no key").arg(path);
+    return {};
+}
+
+} // namespace
+
+ThemeFolder::ThemeFolder(const QString &path)
+    : m_path(path)
+{
+}
+
+QString ThemeFolder::builtInPath()
+{
+    return QStringLiteral(":/hvthemeapp/themes");
+}
+
+QString ThemeFolder::defaultPath()
+{
+    if (!QCoreApplication::instance())
+        return builtInPath();
+    const QString beside = QCoreApplication::applicationDirPath() + QLatin1String("/themes");
+    return QFileInfo::exists(ThemeFolder(beside).defaultFile()) ? beside : builtInPath();
+}
+
+QString ThemeFolder::problemOfText(const QString &path)
+{
+    return problemOfFile(path, false);
+}
+
+QString ThemeFolder::file(const QString &name) const
+{
+    return m_path + QLatin1Char('/') + name + suffix;
+}
+
+QString ThemeFolder::defaultFile() const
+{
+    return file(defaultName);
+}
+
+QString ThemeFolder::problem() const
+{
+    if (!QFileInfo(m_path).isDir())
+        return QStringLiteral("The themes folder \"%1\" does not exist; name one that does.")
+            .arg(m_path);
+    const QString fault = problemOfFile(defaultFile(), true);
+    if (fault.isEmpty())
+        return {};
+    return QStringLiteral("%1, and every themes folder needs that file; put what all themes share "
+                          "there.")
+        .arg(fault);
+}
+
+QString ThemeFolder::problemOf(const QString &name) const
+{
+    const QString ofFolder = problem();
+    if (!ofFolder.isEmpty())
+        return ofFolder;
+    // A name is no path: themes of other folders have another default file.
+    const bool isName = !name.isEmpty() && QFileInfo(name).fileName() == name;
+    const QString fault =
+        isName ? problemOfFile(file(name), true) : QStringLiteral("\"%1\" is no name").arg(name);
+    if (fault.isEmpty())
+        return {};
+    return QStringLiteral("There is no theme \"%1\" in \"%2\": %3; choose one of: %4.")
+        .arg(name, m_path, fault, names().join(QLatin1String(", ")));
+}
+
+QStringList ThemeFolder::names() const
+{
+    QStringList names;
+    const auto files =
+        QDir(m_path).entryInfoList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files)
+        names.append(file.completeBaseName());
+    if (names.size() > 1) {
+        const QSettings settings(defaultFile(), QSettings::IniFormat);
+        if (!settings.childGroups().contains(QStringLiteral("Colors")))
+            names.removeOne(defaultName);
+    }
+    return names;
+}
+
+QString ThemeFolder::displayName(const QString &name) const
+{
+    const QSettings settings(file(name), QSettings::IniFormat);
+    const QString displayName = settings.value(QStringLiteral("ThemeName")).toString();
+    return displayName.isEmpty() ? name : displayName;
+}
+
+} // namespace HV

@@ -1,0 +1,155 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "themereading.h"
+
+#include "missingcolors.h"
+#include "missingimages.h"
+#include "themefolder.h"
+
+#include <hvtheme/theme.h>
+
+#include <QSettings>
+#include <QTemporaryFile>
+
+#include <optional>
+
+namespace HV
+{
+namespace
+{
+
+QStringList keysOf(QSettings &settings, const QString &section)
+{
+    settings.beginGroup(section);
+    const QStringList keys = settings.allKeys();
+    settings.endGroup();
+    return keys;
+}
+
+// A theme takes values from files only, so what is to be added goes through one.
+class Supplement
+{
+public:
+    void add(const QString &section, const QString &key, const QString &value)
+    {
+        m_lines.append(section + QLatin1Char('\\') + key + QLatin1Char('=') + value);
+    }
+
+    // Leaves the theme as it is where no temporary file can be written.
+    template<typename Read>
+    void giveTo(Read read) const
+    {
+        QTemporaryFile file;
+        if (m_lines.isEmpty() || !file.open())
+            return;
+        file.write(m_lines.join(QLatin1Char('\n')).toLatin1());
+        file.close();
+        QSettings settings(file.fileName(), QSettings::IniFormat);
+        read(settings);
+    }
+
+private:
+    QStringList m_lines;
+};
+
+class Reading
+{
+public:
+    Reading(Theme &theme, const ThemeFolder &folder, const QString &name)
+        : m_theme(theme)
+        , m_first(folder.defaultFile(), QSettings::IniFormat)
+    {
+        if (folder.file(name) != folder.defaultFile())
+            m_second.emplace(folder.file(name), QSettings::IniFormat);
+    }
+
+    QStringList run()
+    {
+        m_theme.clear();
+        addPaletteAndIntegers();
+        read(m_first);
+        if (m_second)
+            read(*m_second);
+        const QStringList derived = addColors();
+        addMissingImages(m_theme);
+        // Everything is stored now, so what the theme's class requires is looked for in an empty
+        // part of the default file; this also gives the theme its file path.
+        m_first.beginGroup(QStringLiteral("hvtheme-no-such-section"));
+        m_theme.readSettings(m_first);
+        m_first.endGroup();
+        return derived;
+    }
+
+private:
+    void read(QSettings &settings)
+    {
+        const QMetaObject &vocabulary = *m_theme.metaObject();
+        m_theme.readDisplayName(settings);
+        m_theme.readPalettes(settings, false, vocabulary);
+        m_theme.readColors(settings, false, vocabulary);
+        m_theme.readImageFiles(settings, false, vocabulary);
+        m_theme.readGradients(settings, false, vocabulary);
+        m_theme.readFlags(settings, false, vocabulary);
+        m_theme.readIntegers(settings, false, vocabulary);
+    }
+
+    QStringList stored(const QString &section)
+    {
+        QStringList keys = keysOf(m_first, section);
+        if (m_second)
+            keys += keysOf(*m_second, section);
+        return keys;
+    }
+
+    void addPaletteAndIntegers()
+    {
+        QSettings sample(ThemeFolder().defaultFile(), QSettings::IniFormat);
+        Supplement supplement;
+        for (const QString &section : {QStringLiteral("Palettes"), QStringLiteral("Integers")}) {
+            const QStringList known = stored(section);
+            const QStringList keys = keysOf(sample, section);
+            for (const QString &key : keys) {
+                const QString path = section + QLatin1Char('/') + key;
+                if (!known.contains(key))
+                    supplement.add(section, key, sample.value(path).toString());
+            }
+        }
+        supplement.giveTo([this](QSettings &settings) {
+            const QMetaObject &vocabulary = *m_theme.metaObject();
+            m_theme.readPalettes(settings, false, vocabulary);
+            m_theme.readIntegers(settings, false, vocabulary);
+        });
+    }
+
+    QStringList addColors()
+    {
+        QHash<QString, QColor> known;
+        const QStringList keys = stored(QStringLiteral("Colors"));
+        for (const QString &key : keys)
+            known.insert(key, m_theme.color(key));
+        const QHash<QString, QColor> derived = derivedColors(known);
+        Supplement supplement;
+        for (auto it = derived.cbegin(); it != derived.cend(); ++it)
+            supplement.add(QStringLiteral("Colors"), it.key(), it->name(QColor::HexArgb));
+        supplement.giveTo([this](QSettings &settings) {
+            m_theme.readColors(settings, false, *m_theme.metaObject());
+        });
+        QStringList names = derived.keys();
+        names.sort();
+        return names;
+    }
+
+    Theme &m_theme;
+    QSettings m_first;
+    std::optional<QSettings> m_second;
+};
+
+} // namespace
+
+QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name)
+{
+    return Reading(theme, folder, name).run();
+}
+
+} // namespace HV

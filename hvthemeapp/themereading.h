@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_THEMEREADING_H
+#define HVTHEMEAPP_THEMEREADING_H
+
+#include <QStringList>
+
+namespace HV
+{
+
+class Theme;
+class ThemeFolder;
+
+/*!
+ * \brief Empties \a theme and reads \a name of \a folder into it, completed to a whole look.
+ *
+ * Read as changeTheme() reads: the default file, then the named one, which only adds. Then:
+ *  - palette entries and integers that neither file has are those of the built-in default file;
+ *  - colours of the built-in templates that neither file has are derived by the table in
+ *    docs/application.md;
+ *  - images that neither file has are the built-in drawings;
+ *  - keys that the theme's class requires are looked for, and logged by the core if they are missing.
+ *
+ * \return the colours that had to be derived, sorted.
+ *
+ * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
+ */
+QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name);
+
+} // namespace HV
+
+#endif // HVTHEMEAPP_THEMEREADING_H
