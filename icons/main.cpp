@@ -14,8 +14,11 @@
 #include <QSettings>
 #include <QTextStream>
 
+#include <cerrno>
 #include <cstdio>
 #include <optional>
+#include <system_error>
+#include <unistd.h>
 
 namespace
 {
@@ -137,9 +140,19 @@ bool writeIfChanged(const QString &path, const QByteArray &content)
     if (present.open(QIODevice::ReadOnly) && present.readAll() == content)
         return true;
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly))
         return complain(path % QLatin1String(": ") % file.errorString());
-    return true;
+    // Not through the file itself, which has no reason to tell when the disk is full.
+    for (qint64 at = 0; at < content.size();) {
+        const ssize_t count =
+            ::write(file.handle(), content.constData() + at, size_t(content.size() - at));
+        if (count < 0)
+            return complain(
+                path % QLatin1String(": ")
+                % QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
+        at += count;
+    }
+    return file.commit() || complain(path % QLatin1String(": ") % file.errorString());
 }
 
 bool tint(HV::Theme *theme, const QString &source, const QDir &output)

@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -78,43 +77,59 @@ int writeInPlace(const QString &path, const QByteArray &content)
 
 } // namespace
 
+struct StagedFile::Old {
+    struct stat status = {};
+    bool isThere = false;
+};
+
+StagedFile::StagedFile(const QString &path)
+    : m_path(path)
+    , m_old(std::make_unique<Old>())
+{
+}
+
+StagedFile::~StagedFile() = default;
+
+bool StagedFile::fail(const QString &reason, QString *error) const
+{
+    *error = m_path % QLatin1String(": ") % reason;
+    return false;
+}
+
+bool StagedFile::stage(const QByteArray &content, const QStringList &inputs, QString *error)
+{
+    m_old->isThere = ::stat(QFile::encodeName(m_path).constData(), &m_old->status) == 0;
+    if (m_old->isThere && !S_ISREG(m_old->status.st_mode))
+        return fail(QStringLiteral("not a regular file, so it is not replaced"), error);
+    if (m_old->isThere && isAmong(m_old->status, inputs))
+        return fail(
+            QStringLiteral("read by this very command, so it is not replaced; name another file"),
+            error);
+    m_content = content;
+    m_file.setFileName(m_old->isThere ? QFileInfo(m_path).canonicalFilePath() : m_path);
+    if (!m_file.open(QIODevice::WriteOnly))
+        return fail(m_file.errorString(), error);
+    // Not through the file's own write(), which has no reason to tell when the disk is full.
+    if (!writeAll(m_file.handle(), content))
+        return fail(systemReason(errno), error);
+    return true;
+}
+
+bool StagedFile::commit(QString *error)
+{
+    if (m_old->isThere && !canReplace(m_file.handle(), m_old->status)) {
+        m_file.cancelWriting();
+        const int number = writeInPlace(m_file.fileName(), m_content);
+        return number == 0 || fail(systemReason(number), error);
+    }
+    return m_file.commit() || fail(m_file.errorString(), error);
+}
+
 bool writeFile(const QString &path, const QByteArray &content, const QStringList &inputs,
                QString *error)
 {
-    struct stat old = {};
-    const bool isThere = ::stat(QFile::encodeName(path).constData(), &old) == 0;
-    if (isThere && !S_ISREG(old.st_mode)) {
-        *error = path % QLatin1String(": not a regular file, so it is not replaced");
-        return false;
-    }
-    if (isThere && isAmong(old, inputs)) {
-        *error = path
-            % QLatin1String(": read by this very command, so it is not replaced; name another "
-                            "file");
-        return false;
-    }
-    const QString target = isThere ? QFileInfo(path).canonicalFilePath() : path;
-    QSaveFile file(target);
-    if (!file.open(QIODevice::WriteOnly)) {
-        *error = path % QLatin1String(": ") % file.errorString();
-        return false;
-    }
-    // Not through the file's own write(), which has no reason to tell when the disk is full.
-    if (!writeAll(file.handle(), content)) {
-        *error = path % QLatin1String(": ") % systemReason(errno);
-        return false;
-    }
-    if (isThere && !canReplace(file.handle(), old)) {
-        file.cancelWriting();
-        const int number = writeInPlace(target, content);
-        if (number != 0)
-            *error = path % QLatin1String(": ") % systemReason(number);
-        return number == 0;
-    }
-    if (file.commit())
-        return true;
-    *error = path % QLatin1String(": ") % file.errorString();
-    return false;
+    StagedFile file(path);
+    return file.stage(content, inputs, error) && file.commit(error);
 }
 
 bool writeStandardOutput(const QString &text)

@@ -3,9 +3,12 @@
 
 #include <tools/themefiles.h>
 
-#include <QDir>
-#include <QSaveFile>
+#include <tools/outputfile.h>
 
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <memory>
@@ -33,35 +36,6 @@ bool makeFolder(const QString &folder, QString *error)
     return fail(folder % QLatin1String(": the folder cannot be made: ") % reason, error);
 }
 
-// Files in the making; those that are not committed leave no trace.
-class StagedFiles
-{
-public:
-    bool stage(const QString &path, const QByteArray &content, QString *error)
-    {
-        auto file = std::make_unique<QSaveFile>(path);
-        if (!file->open(QIODevice::WriteOnly) || file->write(content) != content.size()
-            || !file->flush())
-            return fail(path % QLatin1String(": cannot be written: ") % file->errorString(), error);
-        m_files.push_back(std::move(file));
-        return true;
-    }
-
-    bool commit(QString *error)
-    {
-        for (const auto &file : m_files) {
-            if (!file->commit())
-                return fail(file->fileName() % QLatin1String(": cannot be written: ")
-                                % file->errorString(),
-                            error);
-        }
-        return true;
-    }
-
-private:
-    std::vector<std::unique_ptr<QSaveFile>> m_files;
-};
-
 } // namespace
 
 bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
@@ -76,13 +50,17 @@ bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &file
     const bool isNew = !QFileInfo::exists(folder);
     if (!makeFolder(folder, error))
         return false;
-    StagedFiles staged;
-    const bool isStaged =
-        std::all_of(files.cbegin(), files.cend(), [&](const Maker::MadeFile &file) {
-            return staged.stage(QDir(folder).filePath(file.fileName), file.content, error);
-        });
-    if (isStaged && staged.commit(error))
+    std::vector<std::unique_ptr<StagedFile>> staged;
+    bool isDone = std::all_of(files.cbegin(), files.cend(), [&](const Maker::MadeFile &file) {
+        staged.push_back(std::make_unique<StagedFile>(QDir(folder).filePath(file.fileName)));
+        return staged.back()->stage(file.content, {}, error);
+    });
+    isDone = isDone && std::all_of(staged.cbegin(), staged.cend(), [&](const auto &file) {
+                 return file->commit(error);
+             });
+    if (isDone)
         return true;
+    staged.clear();
     if (isNew)
         QDir().rmdir(folder);
     return false;

@@ -73,6 +73,8 @@ private Q_SLOTS:
     void wrongUsage();
     void help();
     void version();
+    void fullDisk();
+    void fullDevice();
     void drawings_data();
     void drawings();
 };
@@ -237,6 +239,41 @@ void tst_Icons::drawings()
         text.contains("stroke-width=\"1.5\" stroke-linecap=\"round\" stroke-linejoin=\"round\""));
     const QRegularExpression paint("(?:fill|stroke)=\"(?!none\"|global\\.theme\\.color\\.\\w+\")");
     QVERIFY2(!paint.match(text).hasMatch(), qUtf8Printable(paint.match(text).captured()));
+}
+
+// A limit on the size of files stands for a full disk.
+void tst_Icons::fullDisk()
+{
+    const Workshop workshop;
+    const QString large =
+        workshop.write("large.svg", "<svg>" + QByteArray(9999, ' ') + picture + "</svg>");
+    QProcess shell;
+    shell.start("bash",
+                {"-c", "trap '' XFSZ; ulimit -f 4; exec \"$@\"", "bash",
+                 QCoreApplication::applicationDirPath() % QLatin1String("/hvtheme-icons"),
+                 workshop.filePath("themes"), "red", workshop.filePath("out"), large});
+    QVERIFY(shell.waitForFinished());
+    const QString errors = QString::fromUtf8(shell.readAllStandardError());
+    QVERIFY2(errors.endsWith("hvtheme-icons: " % workshop.filePath("out/large.svg")
+                             % ": File too large\n"),
+             qUtf8Printable(errors));
+    QCOMPARE(shell.exitCode(), 1);
+    QCOMPARE(QDir(workshop.filePath("out")).entryList(QDir::Files), QStringList());
+}
+
+void tst_Icons::fullDevice()
+{
+    if (!QFile::exists("/dev/full"))
+        QSKIP("this system has no /dev/full");
+    for (const char *option : {"--help", "--version"}) {
+        QProcess process;
+        process.setStandardOutputFile("/dev/full");
+        process.start(QCoreApplication::applicationDirPath() % QLatin1String("/hvtheme-icons"),
+                      {option});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QVERIFY(process.readAllStandardError().contains("No space left on device"));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Icons)

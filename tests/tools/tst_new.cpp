@@ -230,7 +230,7 @@ void tst_New::writesAllOrNothing()
     QVERIFY(shell.waitForFinished(20000));
     QCOMPARE(shell.exitCode(), 2);
     const QByteArray errors = shell.readAllStandardError();
-    QVERIFY2(errors.contains("cannot be written: "), errors.constData());
+    QVERIFY2(errors.endsWith(".theme: File too large\n"), errors.constData());
     QCOMPARE(errors.count('\n'), 1);
     QCOMPARE(filesIn(folder.path()), QStringList{"default.theme"});
     QCOMPARE(contentOf(folder.path("default.theme")), QByteArray("[General]\nThemeName=Mine\n"));
