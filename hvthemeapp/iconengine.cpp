@@ -211,7 +211,7 @@ QSize IconEngine::fittedSize(const Picture &picture, const QSize &size) const
         auto it = sizes.find(picture.path);
         if (it == sizes.end())
             it = sizes.insert(picture.path, drawingSize(picture.path));
-        return it->scaled(size, Qt::KeepAspectRatio);
+        return size.isEmpty() ? QSize() : it->scaled(size, Qt::KeepAspectRatio).expandedTo({1, 1});
     } else if (!picture.path.isEmpty()) {
         own = QImageReader(picture.path).size();
     }

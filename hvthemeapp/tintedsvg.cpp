@@ -68,10 +68,17 @@ bool isHarmlessPicture(const QString &reference)
     QByteArray data = QByteArray::fromBase64(reference.mid(comma + 1).toLatin1());
     QBuffer buffer(&data);
     QImageReader reader(&buffer);
-    const QByteArray format = reader.format();
+    const QByteArray format = reader.format(); // before its size, for which a drawing would be read
+    if (format != "png" && format != "jpeg")
+        return false;
     const QSize size = reader.size();
-    return (format == "png" || format == "jpeg") && size.isValid()
-        && qint64(size.width()) * size.height() <= maximumPicturePixels;
+    return size.isValid() && qint64(size.width()) * size.height() <= maximumPicturePixels;
+}
+
+bool isReference(const QXmlStreamAttribute &attribute)
+{
+    return attribute.name() == QLatin1String("href")
+        && (attribute.namespaceUri().isEmpty() || attribute.namespaceUri() == xlinkNamespace);
 }
 
 class Tinter
@@ -90,7 +97,7 @@ private:
     void startElement();
     void characters();
     void attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttributes &attributes);
-    void reference(const QString &value, QXmlStreamAttributes &attributes);
+    bool isSelfContained(const QString &name, const QXmlStreamAttributes &attributes);
     void checkUses();
     QString tinted(const QString &text);
     QColor color(const QString &key);
@@ -104,7 +111,7 @@ private:
     QStringList m_open; // identifiers of the elements around; null for those without
     QSet<QString> m_withUse; // identifiers of elements with a `use` inside
     QStringList m_used;
-    QString m_text; // the element whose text counts
+    QString m_text; // the element that began last, whose text follows
 };
 
 TintedSvg Tinter::run()
@@ -147,6 +154,8 @@ void Tinter::startElement()
                           .arg(maximumDepth));
 
     const QXmlStreamAttributes given = m_in.attributes();
+    if (!isSelfContained(name, given))
+        return m_in.skipCurrentElement();
     QXmlStreamAttributes attributes;
     m_out.writeStartElement(name);
     if (m_open.isEmpty()) {
@@ -187,9 +196,11 @@ void Tinter::attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttribute
         QStringLiteral("^\\s*\\w+\\.theme\\.color\\.(\\w+)\\s*$"));
     const QString name = attribute.name().toString();
     const QString value = attribute.value().toString();
-    const bool isLink = attribute.namespaceUri() == xlinkNamespace;
-    if (name == QLatin1String("href") && (isLink || attribute.namespaceUri().isEmpty()))
-        return reference(value, attributes);
+    if (isReference(attribute)) {
+        if (value.trimmed().startsWith(QLatin1Char('#')) && m_text == QLatin1String("use"))
+            m_used.append(value.trimmed().mid(1));
+        return attributes.append(QStringLiteral("xlink:href"), value.trimmed());
+    }
     if (attribute.namespaceUri() == xmlNamespace)
         return attributes.append(attribute.qualifiedName().toString(), value);
     if (!attribute.namespaceUri().isEmpty())
@@ -197,8 +208,8 @@ void Tinter::attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttribute
 
     const auto match = whole.match(value);
     if (!match.hasMatch()) {
-        if (!attributes.hasAttribute(
-                name)) // else an opacity that a colour before it has multiplied
+        // What is there already is an opacity that a colour before it has multiplied.
+        if (!attributes.hasAttribute(name))
             attributes.append(name, tinted(value));
         return;
     }
@@ -216,20 +227,24 @@ void Tinter::attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttribute
     attributes.append(opacity, QString::number(factor * tint.alphaF()));
 }
 
-void Tinter::reference(const QString &value, QXmlStreamAttributes &attributes)
+// Whether the element needs nothing but what is in the text; told if not.
+bool Tinter::isSelfContained(const QString &name, const QXmlStreamAttributes &attributes)
 {
-    const QString link = value.trimmed();
-    if (link.startsWith(QLatin1Char('#'))) {
-        if (m_text == QLatin1String("use"))
-            m_used.append(link.mid(1));
-    } else if (m_text != QLatin1String("image") || !isHarmlessPicture(link)) {
-        if (m_text != QLatin1String("a"))
-            remark(QStringLiteral("line %1: \"%2\" is left out; nothing is loaded for a drawing")
-                       .arg(m_in.lineNumber())
-                       .arg(link.left(60)));
-        return;
+    for (const QXmlStreamAttribute &one : attributes) {
+        if (!isReference(one))
+            continue;
+        const QString link = one.value().toString().trimmed();
+        // For Qt "#x" is an element, but in an image a file.
+        const bool isInside = name == QLatin1String("image") ? isHarmlessPicture(link)
+                                                             : link.startsWith(QLatin1Char('#'));
+        if (isInside || name == QLatin1String("a"))
+            continue;
+        remark(QStringLiteral("line %1: \"%2\" is left out; nothing is loaded for a drawing")
+                   .arg(m_in.lineNumber())
+                   .arg(link.left(60)));
+        return false;
     }
-    attributes.append(QStringLiteral("xlink:href"), link);
+    return true;
 }
 
 // A `use` of what holds a `use` multiplies: ten levels of ten are ten thousand million shapes.
