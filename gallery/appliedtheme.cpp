@@ -28,6 +28,9 @@ namespace Gallery
 namespace
 {
 
+// Qt decodes an image whole, however small it is drawn; these are 128 MB.
+constexpr qint64 pixelLimit = 32 * 1024 * 1024;
+
 const QString defaultName = QStringLiteral("default");
 
 QString themeFile(const QString &folder, const QString &name)
@@ -149,6 +152,12 @@ Problem checkImages(const ThemeStack &theme, const QVariantMap &values, const QS
                                 placeOfImage(theme, values, file));
         QImageReader reader(file);
         reader.setDecideFormatFromContent(true);
+        const QSize size = reader.size();
+        if (qint64(size.width()) * size.height() > pixelLimit)
+            return imageProblem(
+                file,
+                QStringLiteral("%1 x %2 pixels are too many").arg(size.width()).arg(size.height()),
+                placeOfImage(theme, values, file));
         if (reader.read().isNull())
             return imageProblem(file, reader.errorString(), placeOfImage(theme, values, file));
     }

@@ -5,6 +5,7 @@
 
 #include <gallery/pages.h>
 
+#include <QBuffer>
 #include <QImage>
 #include <QProcess>
 #include <QtTest>
@@ -37,6 +38,18 @@ Outcome runGallery(const QStringList &arguments)
     return {gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
             QString::fromUtf8(gallery.readAllStandardOutput()),
             QString::fromUtf8(gallery.readAllStandardError())};
+}
+
+// 400 million pixels in a file of some kilobytes.
+QByteArray largeImage()
+{
+    QImage image(20000, 20000, QImage::Format_Mono);
+    image.fill(1);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
+        qFatal("cannot make a large image");
+    return bytes;
 }
 
 } // namespace
@@ -208,6 +221,7 @@ void tst_Screenshots::refusedInput_data()
     QTest::newRow("pipe-for-form") << "form.ui" << pipe << QStringList{"--ui", "%1/form.ui", "--page", "form"} << 5 << "form.ui\" cannot be read: not a regular file";
     QTest::newRow("pipe-in-template") << "images/pipe.png" << pipe << QStringList{"--templates", "%1/styles"} << 6 << "pipe.png\" does not decode: not a regular file";
     QTest::newRow("device-for-image") << "images/add.png" << QByteArray("/dev/zero") << QStringList() << 6 << "add.png\" does not decode: not a regular file \\(default.theme:\\d+\\)";
+    QTest::newRow("large-image") << "images/add.png" << largeImage() << QStringList() << 6 << "add.png\" does not decode: 20000 x 20000 pixels are too many \\(default.theme:\\d+\\)";
     QTest::newRow("binary") << "night.theme" << QByteArray("\0\1\2", 3) << QStringList{"--theme", "night"} << 3 << "night.theme: a binary file";
     QTest::newRow("endless") << "default.theme" << endless << QStringList() << 8 << "default.theme:2: the value of add leads back to its own token";
     // clang-format on

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void output();
     void help_data();
     void help();
+    void sameOptions();
     void wrongUsage_data();
     void wrongUsage();
     void exitCodes_data();
@@ -91,6 +92,25 @@ void tst_Commands::help()
         QVERIFY(run.output.contains("Exit code: 0 "));
     }
     QVERIFY(CommandRun({"--help"}).output.contains("\n  " + command.toLatin1() + ' '));
+}
+
+// The options say what is read, and are the same wherever something is.
+void tst_Commands::sameOptions()
+{
+    const auto lines = [](const QString &command) {
+        QStringList told;
+        const QString help = CommandRun({command, "--help"}).output;
+        static const QRegularExpression option(
+            "^  (--(?:suffix|app-dir|templates|no-builtin|prefix) (?:.|\n   )*)",
+            QRegularExpression::MultilineOption);
+        for (auto hits = option.globalMatch(help); hits.hasNext();)
+            told << hits.next().captured(1).simplified();
+        return told;
+    };
+    const QStringList expected = lines("check");
+    QCOMPARE(expected.size(), 5);
+    for (const char *command : {"render", "values", "explain", "diff", "sheet"})
+        QCOMPARE(lines(command), expected);
 }
 
 void tst_Commands::wrongUsage_data()
@@ -229,7 +249,8 @@ void tst_Commands::fullDevice_data()
     for (const char *arguments :
          {"--help", "--version", "check --help", "check --rules", "check themes",
           "check themes --format json", "check themes --format sarif", "render themes night",
-          "values themes night", "explain themes night Veil", "diff themes default night"})
+          "values themes night", "explain themes night Veil", "diff themes default night",
+          "new --help", "run --help"})
         QTest::newRow(arguments) << arguments;
 }
 
