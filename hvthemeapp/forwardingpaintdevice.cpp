@@ -24,6 +24,37 @@ qreal scaleOf(const QPainter &painter)
     return painter.paintEngine()->paintDevice()->devicePixelRatioF();
 }
 
+// Where the glyphs of a text are that came without measures, as web pages paint them: they are drawn
+// small, and looked for.
+QRectF extentOfGlyphs(const QPainter &painter, const QPointF &position, const QTextItem &item)
+{
+    const QRectF seen = painter.hasClipping() ? painter.clipBoundingRect() : painter.window();
+    const int part = 4;
+    QImage image((seen.size() / part).toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+    image.fill(0);
+    QPainter small(&image);
+    small.scale(1.0 / part, 1.0 / part);
+    small.translate(-seen.topLeft());
+    small.drawTextItem(position, item);
+    small.end();
+    QRect found;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (line[x] != 0)
+                found |= QRect(x, y, 1, 1);
+        }
+    }
+    return QRectF(found.topLeft() * part, found.size() * part).translated(seen.topLeft()) & seen;
+}
+
+QRectF extentOf(const QPainter &painter, const QPointF &position, const QTextItem &item)
+{
+    const QRectF extent(position.x(), position.y() - item.ascent(), item.width(),
+                        item.ascent() + item.descent());
+    return extent.isEmpty() ? extentOfGlyphs(painter, position, item) : extent;
+}
+
 template<typename Point>
 void drawPolygonWith(QPainter *painter, const Point *points, int count,
                      QPaintEngine::PolygonDrawMode mode)
@@ -219,11 +250,10 @@ void ForwardingPaintEngine::drawTextItem(const QPointF &position, const QTextIte
     if (!m_isOpen)
         return;
     const QPen pen = m_target->pen();
-    const QRectF rect(position.x(), position.y() - item.ascent(), item.width(),
-                      item.ascent() + item.descent());
     QPen seen = pen;
     if (pen.brush().style() == Qt::SolidPattern)
-        seen.setColor(m_colors->textColor(*m_target, rect, pen.color()));
+        seen.setColor(
+            m_colors->textColor(*m_target, extentOf(*m_target, position, item), pen.color()));
     if (seen == pen) {
         m_target->drawTextItem(position, item);
         return;

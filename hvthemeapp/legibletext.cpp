@@ -37,16 +37,21 @@ bool isPaintedByPainter(const QWidget *widget)
                         [=](const char *name) { return widget->inherits(name); });
 }
 
-// The picture that a painter paints into; null if it is none, as for a printer.
-QImage pictureBelow(const QPainter &painter)
-{
-    const QPaintDevice *device = painter.paintEngine()->paintDevice();
-    if (device->devType() == QInternal::Image)
-        return *static_cast<const QImage *>(device);
-    if (device->devType() == QInternal::Pixmap)
-        return static_cast<const QPixmap *>(device)->toImage();
-    return {};
-}
+// The picture that a painter paints into; nothing if it is none, as for a printer. A copy of a picture
+// that is painted into is a deep one, and one for each text would be too many.
+struct PictureBelow {
+    explicit PictureBelow(const QPainter &painter)
+    {
+        const QPaintDevice *device = painter.paintEngine()->paintDevice();
+        if (device->devType() == QInternal::Image)
+            image = static_cast<const QImage *>(device);
+        if (device->devType() == QInternal::Pixmap)
+            ofPixmap = static_cast<const QPixmap *>(device)->toImage();
+    }
+
+    QImage ofPixmap; // shares its pixels with the pixmap
+    const QImage *image = &ofPixmap;
+};
 
 struct Share {
     QRgb color;
@@ -89,7 +94,8 @@ std::optional<QColor> commonColor(const std::vector<QRgb> &pixels)
 
 std::optional<QColor> groundBelow(const QPainter &painter, const QRectF &rect)
 {
-    const QImage picture = pictureBelow(painter);
+    const PictureBelow below(painter);
+    const QImage &picture = *below.image;
     QRectF seen = rect;
     if (painter.hasClipping())
         seen &= painter.clipBoundingRect();
@@ -127,6 +133,29 @@ bool isDisabledColor(const QWidget *widget, const QColor &color)
         }
     }
     return false;
+}
+
+// Disabled text of these classes is etched: a light copy of it lies below, a pixel aside.
+bool isEtched(const QWidget *widget, const QColor &color)
+{
+    const bool mayBe = !widget->isEnabled() || widget->inherits("QMenu")
+        || widget->inherits("QMenuBar") || widget->inherits("QTabBar");
+    return mayBe && color == widget->palette().color(QPalette::Light);
+}
+
+/*
+ * The contrast that a text is lifted to. A colour says something and keeps its strength with the least;
+ * a grey that was chosen for paper says how important the text is, so black comes out as white.
+ */
+double targetRatio(const QColor &color, const QColor &ground, double least)
+{
+    if (ColorMath::toOklch(color).chroma > 0.03)
+        return least;
+    const bool isDark = ColorMath::relativeLuminance(ground) < 0.18;
+    const double onPaper = ColorMath::contrastRatio(color, isDark ? Qt::white : Qt::black);
+    const double asText = ColorMath::contrastRatio(
+        QApplication::palette().color(isDark ? QPalette::Text : QPalette::WindowText), ground);
+    return qMax(least, qMin(onPaper, asText));
 }
 
 } // namespace
@@ -181,22 +210,23 @@ QColor LegibleText::textColor(const QPainter &painter, const QRectF &rect, const
     if (color.alpha() < faint || painter.opacity() < 1
         || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
         return color;
-    // Etched text has a light copy of itself below, a pixel aside.
-    if (color == m_widget->palette().color(QPalette::Light))
+    if (isEtched(m_widget, color))
         return color;
     const std::optional<QColor> ground = groundBelow(painter, rect);
     if (!ground)
         return color;
-    const double ratio = isDisabledColor(m_widget, color) ? disabledRatio : m_ratio;
+    const bool isDisabled = isDisabledColor(m_widget, color);
+    const double ratio = isDisabled ? disabledRatio : m_ratio;
     if (ColorMath::contrastRatio(color, *ground) >= ratio)
         return color;
 
     if (m_lifted.size() > 1000)
         m_lifted.clear();
     const quint64 key = quint64(color.rgba()) << 32 | (ground->rgb() & 0xffffff) << 1
-        | quint64(ratio == m_ratio); // the ground's alpha leaves room
+        | quint64(isDisabled); // the ground's alpha leaves room
     const auto it = m_lifted.constFind(key);
     if (it != m_lifted.cend())
         return *it;
-    return *m_lifted.insert(key, ColorMath::liftedToContrast(color, *ground, ratio));
+    const double target = isDisabled ? ratio : targetRatio(color, *ground, ratio);
+    return *m_lifted.insert(key, ColorMath::liftedToContrast(color, *ground, target));
 }
