@@ -1,0 +1,308 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "textrecorder.h"
+
+#include <colormath/contrast.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QHash>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+
+namespace
+{
+
+// The part of a text's rectangle that a colour covers before the text has to be legible on it.
+constexpr double groundShare = 0.15;
+
+QVector<QColor> groundsIn(const QImage &image, const QRect &rect)
+{
+    QHash<QRgb, int> counts;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x)
+            ++counts[image.pixel(x, y)];
+    }
+    QVector<QColor> grounds;
+    int most = 0;
+    QRgb main = 0;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        if (it.value() >= groundShare * rect.width() * rect.height())
+            grounds.append(QColor(it.key()));
+        if (it.value() > most || (it.value() == most && it.key() < main)) {
+            most = it.value();
+            main = it.key();
+        }
+    }
+    if (grounds.isEmpty())
+        grounds.append(QColor(main));
+    return grounds;
+}
+
+bool isPenOfDisabledText(const QColor &pen, const QColor &disabledPen)
+{
+    if (disabledPen.isValid() && pen == disabledPen)
+        return true;
+    const QPalette palette = QApplication::palette();
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        const QColor color = palette.color(QPalette::Disabled, role);
+        if (pen.rgb() == color.rgb() && color != palette.color(QPalette::Active, role))
+            return true;
+    }
+    return false;
+}
+
+QString nameOf(const QWidget *widget)
+{
+    QString name = QLatin1String(widget->metaObject()->className());
+    if (!widget->objectName().isEmpty())
+        name += QLatin1Char('#') + widget->objectName();
+    return name;
+}
+
+/*! Knows who paints: each widget is told to by an event. */
+class PaintWatcher final : public QObject
+{
+public:
+    PaintWatcher() { qApp->installEventFilter(this); }
+
+    const QWidget *widget() const { return m_widget; }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && object->isWidgetType())
+            m_widget = static_cast<const QWidget *>(object);
+        return false;
+    }
+
+private:
+    const QWidget *m_widget = nullptr;
+};
+
+} // namespace
+
+class TextRecorder::Engine final : public QPaintEngine
+{
+public:
+    explicit Engine(const QSize &size)
+        : QPaintEngine(AllFeatures)
+        , image(size, QImage::Format_RGB32)
+    {
+        image.fill(Qt::black);
+    }
+
+    QImage image;
+    QVector<RecordedText> texts;
+    const PaintWatcher *watcher = nullptr;
+    QColor disabledPen;
+
+    bool begin(QPaintDevice *) override
+    {
+        const bool begun = m_painter.begin(&image);
+        followSystemClip();
+        return begun;
+    }
+    bool end() override
+    {
+        m_painter.paintEngine()->setSystemClip(QRegion());
+        return m_painter.end();
+    }
+    Type type() const override { return User; }
+
+    void updateState(const QPaintEngineState &state) override
+    {
+        followSystemClip();
+        const DirtyFlags flags = state.state();
+        if (flags & DirtyTransform)
+            m_painter.setTransform(state.transform());
+        if (flags & DirtyPen)
+            m_painter.setPen(state.pen());
+        if (flags & DirtyBrush)
+            m_painter.setBrush(state.brush());
+        if (flags & DirtyBrushOrigin)
+            m_painter.setBrushOrigin(state.brushOrigin());
+        if (flags & DirtyFont)
+            m_painter.setFont(state.font());
+        if (flags & DirtyBackground)
+            m_painter.setBackground(state.backgroundBrush());
+        if (flags & DirtyBackgroundMode)
+            m_painter.setBackgroundMode(state.backgroundMode());
+        if (flags & DirtyHints)
+            m_painter.setRenderHints(state.renderHints());
+        if (flags & DirtyCompositionMode)
+            m_painter.setCompositionMode(state.compositionMode());
+        if (flags & DirtyOpacity)
+            m_painter.setOpacity(state.opacity());
+        if (flags & DirtyClipEnabled)
+            m_painter.setClipping(state.isClipEnabled());
+        if (flags & DirtyClipRegion)
+            m_painter.setClipRegion(state.clipRegion(), state.clipOperation());
+        if (flags & DirtyClipPath)
+            m_painter.setClipPath(state.clipPath(), state.clipOperation());
+    }
+
+    void drawRects(const QRectF *rects, int count) override { m_painter.drawRects(rects, count); }
+    void drawRects(const QRect *rects, int count) override { m_painter.drawRects(rects, count); }
+    void drawLines(const QLineF *lines, int count) override { m_painter.drawLines(lines, count); }
+    void drawLines(const QLine *lines, int count) override { m_painter.drawLines(lines, count); }
+    void drawEllipse(const QRectF &rect) override { m_painter.drawEllipse(rect); }
+    void drawEllipse(const QRect &rect) override { m_painter.drawEllipse(rect); }
+    void drawPath(const QPainterPath &path) override { m_painter.drawPath(path); }
+    void drawPoints(const QPointF *points, int count) override
+    {
+        m_painter.drawPoints(points, count);
+    }
+    void drawPoints(const QPoint *points, int count) override
+    {
+        m_painter.drawPoints(points, count);
+    }
+    void drawPolygon(const QPointF *points, int count, PolygonDrawMode mode) override
+    {
+        drawPolygonOf(points, count, mode);
+    }
+    void drawPolygon(const QPoint *points, int count, PolygonDrawMode mode) override
+    {
+        drawPolygonOf(points, count, mode);
+    }
+    void drawPixmap(const QRectF &to, const QPixmap &pixmap, const QRectF &from) override
+    {
+        m_painter.drawPixmap(to, pixmap, from);
+    }
+    void drawTiledPixmap(const QRectF &to, const QPixmap &pixmap, const QPointF &from) override
+    {
+        m_painter.drawTiledPixmap(to, pixmap, from);
+    }
+    void drawImage(const QRectF &to, const QImage &picture, const QRectF &from,
+                   Qt::ImageConversionFlags flags) override
+    {
+        m_painter.drawImage(to, picture, from, flags);
+    }
+    void drawTextItem(const QPointF &position, const QTextItem &item) override
+    {
+        keep(position, item);
+        m_painter.drawTextItem(position, item);
+    }
+
+private:
+    // What a widget's parents leave of it: Qt tells the engine it was given, not those inside.
+    void followSystemClip()
+    {
+        if (m_painter.paintEngine()->systemClip() != systemClip())
+            m_painter.paintEngine()->setSystemClip(systemClip());
+    }
+
+    template<typename Point>
+    void drawPolygonOf(const Point *points, int count, PolygonDrawMode mode)
+    {
+        if (mode == PolylineMode)
+            m_painter.drawPolyline(points, count);
+        else if (mode == ConvexMode)
+            m_painter.drawConvexPolygon(points, count);
+        else
+            m_painter.drawPolygon(points, count,
+                                  mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
+    }
+
+    void keep(const QPointF &position, const QTextItem &item)
+    {
+        const QString text = item.text().trimmed();
+        const QRectF own(position.x(), position.y() - item.ascent(), item.width(),
+                         item.ascent() + item.descent());
+        QRect rect = m_painter.transform().mapRect(own).toAlignedRect() & image.rect();
+        if (!systemClip().isEmpty())
+            rect &= systemClip().boundingRect();
+        if (m_painter.hasClipping()) {
+            const QRectF clip = m_painter.clipBoundingRect();
+            rect &= m_painter.transform().mapRect(clip).toAlignedRect();
+        }
+        if (text.isEmpty() || rect.width() < 2 || rect.height() < 2)
+            return;
+        QColor pen = m_painter.pen().color();
+        const bool disabled = isPenOfDisabledText(pen, disabledPen);
+        pen.setAlphaF(pen.alphaF() * m_painter.opacity());
+        RecordedText kept;
+        for (const QColor &ground : groundsIn(image, rect)) {
+            const double contrast = ColorMath::contrastRatio(pen, ground);
+            if (contrast > kept.contrast)
+                continue;
+            kept.contrast = contrast;
+            kept.ground = ground;
+        }
+        kept.text = text;
+        kept.rect = rect;
+        kept.pen = ColorMath::over(pen, kept.ground);
+        kept.enabled = !disabled;
+        if (const QWidget *widget = watcher ? watcher->widget() : nullptr) {
+            kept.enabled = kept.enabled && widget->isEnabled();
+            kept.widget = nameOf(widget);
+            if (const QWidget *parent = widget->parentWidget())
+                kept.widget += QLatin1String(" in ") + nameOf(parent);
+        }
+        texts.append(kept);
+    }
+
+    QPainter m_painter;
+};
+
+TextRecorder::TextRecorder(const QSize &size, const QColor &disabledPen)
+    : m_engine(std::make_unique<Engine>(size))
+{
+    m_engine->disabledPen = disabledPen;
+}
+
+TextRecorder::~TextRecorder() = default;
+
+void TextRecorder::record(QWidget *window)
+{
+    const PaintWatcher watcher;
+    m_engine->watcher = &watcher;
+    window->render(this);
+    m_engine->watcher = nullptr;
+}
+
+const QVector<RecordedText> &TextRecorder::texts() const
+{
+    return m_engine->texts;
+}
+
+const QImage &TextRecorder::image() const
+{
+    return m_engine->image;
+}
+
+QPaintEngine *TextRecorder::paintEngine() const
+{
+    return m_engine.get();
+}
+
+int TextRecorder::metric(PaintDeviceMetric metric) const
+{
+    const QImage &image = m_engine->image;
+    switch (metric) {
+    case PdmWidth:
+        return image.width();
+    case PdmHeight:
+        return image.height();
+    case PdmWidthMM:
+        return image.widthMM();
+    case PdmHeightMM:
+        return image.heightMM();
+    case PdmDepth:
+        return image.depth();
+    case PdmNumColors:
+        return image.colorCount();
+    case PdmDpiX:
+    case PdmPhysicalDpiX:
+        return image.logicalDpiX();
+    case PdmDpiY:
+    case PdmPhysicalDpiY:
+        return image.logicalDpiY();
+    case PdmDevicePixelRatio:
+        return 1;
+    default:
+        return QPaintDevice::metric(metric);
+    }
+}

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEME_TESTS_TEXTRECORDER_H
+#define HVTHEME_TESTS_TEXTRECORDER_H
+
+#include <QColor>
+#include <QImage>
+#include <QPaintDevice>
+#include <QRect>
+#include <QVector>
+
+#include <memory>
+
+class QWidget;
+
+/*! One run of text as it was drawn. */
+struct RecordedText {
+    QString text;
+    QRect rect; /*!< in the window, what the clip left of it */
+    QColor pen; /*!< as drawn, opaque */
+    QColor ground; /*!< of the colours that lay below a good part of it, the worst to read on */
+    double contrast = 21;
+    QString widget; /*!< class and object name of who drew it, and of its window */
+    bool enabled = true; /*!< whether the widget was, and the pen not that of disabled text */
+};
+
+/*! Paints into an image as ever, and keeps every text with its pen and the ground below it. */
+class TextRecorder final : public QPaintDevice
+{
+public:
+    /*! \a disabledPen is known for that of disabled text, beside those of the palette. */
+    explicit TextRecorder(const QSize &size, const QColor &disabledPen = {});
+    ~TextRecorder() override;
+
+    /*! Draws \a window with everything in it. */
+    void record(QWidget *window);
+
+    const QVector<RecordedText> &texts() const;
+    const QImage &image() const;
+
+    QPaintEngine *paintEngine() const override;
+
+protected:
+    int metric(PaintDeviceMetric metric) const override;
+
+private:
+    class Engine;
+    std::unique_ptr<Engine> m_engine;
+};
+
+#endif
