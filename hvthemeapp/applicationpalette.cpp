@@ -28,7 +28,7 @@ constexpr Ground grounds[] = {
     {QPalette::Base,          "Base",          "EditBackgroundColor",    "EditDisabledBackgroundColor"},
     {QPalette::AlternateBase, "AlternateBase", "BackgroundColor_3",      "BackgroundColor_3"},
     {QPalette::Button,        "Button",        "BackgroundColor_4",      "BackgroundColor_3"},
-    {QPalette::Highlight,     "Highlight",     "Color_Brand_8",          "BackgroundColor_6"},
+    {QPalette::Highlight,     "Highlight",     "EditHighlightBorderColor", "BackgroundColor_6"},
     {QPalette::ToolTipBase,   "ToolTipBase",   "ToolTipBackgroundColor", "ToolTipBackgroundColor"},
     {QPalette::Light,         "Light",         "BackgroundColor_7",      "BackgroundColor_7"},
     {QPalette::Midlight,      "Midlight",      "BackgroundColor_5",      "BackgroundColor_5"},

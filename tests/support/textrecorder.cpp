@@ -47,7 +47,8 @@ bool isPenOfDisabledText(const QColor &pen, const QColor &disabledPen)
     if (disabledPen.isValid() && pen == disabledPen)
         return true;
     const QPalette palette = QApplication::palette();
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
         const QColor color = palette.color(QPalette::Disabled, role);
         if (pen.rgb() == color.rgb() && color != palette.color(QPalette::Active, role))
             return true;
