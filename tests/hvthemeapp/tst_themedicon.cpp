@@ -90,6 +90,7 @@ private Q_SLOTS:
     void builtIn_data();
     void builtIn();
     void everyImageOfTheTemplates();
+    void ownImagesWin();
     void followsASwitch();
     void isCrisp_data();
     void isCrisp();
@@ -155,6 +156,38 @@ void tst_ThemedIcon::everyImageOfTheTemplates()
         QVERIFY(m_theme.setName(look));
         QCOMPARE(ink(themedIcon("add").pixmap(20, 20)), m_theme.theme()->color("Color_W100"));
     }
+}
+
+// A theme file of colours and one image: that one is taken, and all others are drawn.
+void tst_ThemedIcon::ownImagesWin()
+{
+    const TemporaryFolder themes;
+    const QString drawing = themes.write("mine.hvicon", filled("global.theme.color.Color_Red_6"));
+    QImage green(20, 20, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QVERIFY(green.save(themes.filePath("green.png")));
+    const auto fromProgram = [](const QString &path) {
+        return QDir(QCoreApplication::applicationDirPath()).relativeFilePath(path).toUtf8();
+    };
+    for (const char *name : {"default", "dark"}) {
+        QFile file(QString(":/hvthemeapp/themes/%1.theme").arg(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray text = file.readAll();
+        QVERIFY(!text.contains("\n[ImageFiles]"));
+        const QByteArray images = "\n[ImageFiles]\nadd=" + fromProgram(themes.filePath("green.png"))
+            + "\nclose=" + fromProgram(drawing) + "\nrocket=" + fromProgram(drawing) + "\n";
+        themes.write(QString("%1.theme").arg(name), name == QString("dark") ? text + images : text);
+    }
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(themes.path()));
+    QVERIFY2(theme.setName("dark"), qPrintable(theme.problem()));
+    const QColor red = theme.theme()->color("Color_Red_6");
+    COMPARE_COLOR(middle(themedIcon("add")), QColor(Qt::green));
+    COMPARE_COLOR(middle(themedIcon("add"), QIcon::Disabled), QColor(0, 255, 0, 115));
+    COMPARE_COLOR(middle(themedIcon("close")), red);
+    COMPARE_COLOR(middle(themedIcon("rocket")), red); // a key that has no built-in drawing
+    COMPARE_COLOR(ink(themedIcon("search").pixmap(20, 20)), theme.theme()->color("Color_W100"));
+    QCOMPARE(theme.theme()->imageFile("search"), QString(":/hvthemeapp/icons/search.hvicon"));
 }
 
 void tst_ThemedIcon::followsASwitch()
