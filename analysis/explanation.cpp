@@ -14,11 +14,6 @@
 namespace
 {
 
-QString place(const QString &file, TextPosition position)
-{
-    return QStringLiteral("%1:%2:%3: ").arg(file).arg(position.line).arg(position.column);
-}
-
 QString shortPlace(const Definition &definition)
 {
     return QFileInfo(definition.layer->file.path()).fileName() % QLatin1String(", line ")
@@ -27,7 +22,7 @@ QString shortPlace(const Definition &definition)
 
 QString shownEntry(const ThemeFile &file, const ThemeFileEntry &entry, const QString &value)
 {
-    return place(file.path(), entry.keyPosition) % QLatin1Char('[') % entry.section()
+    return Place{file.path(), entry.keyPosition}.text() % QLatin1String(": [") % entry.section()
         % QLatin1String("] ") % entry.name() % QLatin1Char('=') % value;
 }
 
@@ -214,10 +209,7 @@ void Explanation::tellTokens()
         if (m_isDefined && !m_theme.find(token.kind, m_key))
             where +=
                 QLatin1String(", by ") % articleFor(nounOf(token.kind)) % QLatin1String(" token");
-        addLine(
-            2,
-            place(templates.fileAt(token.offset).input.path(), templates.positionAt(token.offset))
-                % where);
+        addLine(2, templates.placeAt(token.offset).text() % QLatin1String(": ") % where);
     }
     const bool isVisible = std::any_of(std::begin(allKinds), std::end(allKinds), [&](Kind kind) {
         return isInStyleSheets(kind) && m_theme.find(kind, m_key);

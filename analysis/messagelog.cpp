@@ -3,11 +3,20 @@
 
 #include <analysis/messagelog.h>
 
-MessageLog *MessageLog::s_innermost = nullptr;
+#include <QThread>
+
+std::atomic<MessageLog *> MessageLog::s_innermost{nullptr};
 
 MessageLog::MessageLog()
-    : m_outer(std::exchange(s_innermost, this))
-    , m_previous(qInstallMessageHandler(keep))
+    : MessageLog(Listener())
+{
+}
+
+MessageLog::MessageLog(Listener listener)
+    : m_listener(std::move(listener))
+    , m_thread(QThread::currentThreadId())
+    , m_outer(s_innermost.exchange(this))
+    , m_previous(qInstallMessageHandler(handle))
 {
 }
 
@@ -17,8 +26,23 @@ MessageLog::~MessageLog()
     s_innermost = m_outer;
 }
 
-void MessageLog::keep(QtMsgType type, const QMessageLogContext &context, const QString &text)
+void MessageLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (s_innermost)
-        s_innermost->m_messages.append({type, QString::fromLatin1(context.function), text});
+    const LoggedMessage message{type, QString::fromLatin1(context.function), text};
+    MessageLog *log = s_innermost;
+    while (log) {
+        if (log->m_listener) {
+            if (!log->m_listener(message))
+                return;
+        } else if (log->m_thread == QThread::currentThreadId()) {
+            log->m_messages.append(message);
+            return;
+        }
+        // Somebody else's handler may stand between two logs.
+        if (log->m_previous != handle) {
+            log->m_previous(type, context, text);
+            return;
+        }
+        log = log->m_outer;
+    }
 }

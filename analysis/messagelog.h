@@ -8,6 +8,8 @@
 #include <QVector>
 #include <QtGlobal>
 
+#include <atomic>
+#include <functional>
 #include <utility>
 
 /*! \brief A message that went through Qt's message logger. */
@@ -18,27 +20,42 @@ struct LoggedMessage {
 };
 
 /*!
- * \brief Catches all messages of Qt's message logger for as long as it lives.
+ * \brief Qt's messages for as long as it lives: those of a piece of work, or all there are.
  *
- * Logs may be nested, the innermost catches; one thread only.
+ * Logs may be nested; what one does not keep goes on to the one around it, and at last to the handler
+ * that was there before. Make and destroy them on one thread, the innermost first.
  */
 class MessageLog
 {
 public:
+    /*! \brief Called with a message; returns whether it is passed on. */
+    using Listener = std::function<bool(const LoggedMessage &)>;
+
+    /*! \brief Keeps what this thread says. Other threads are none of its business. */
     MessageLog();
+
+    /*!
+     * \brief Hears all messages of all threads, and passes on what \a listener says.
+     *
+     * \param listener  called on the thread that the message comes from.
+     */
+    explicit MessageLog(Listener listener);
+
     ~MessageLog();
     Q_DISABLE_COPY_MOVE(MessageLog)
 
     QVector<LoggedMessage> messages() const { return m_messages; }
-    /*! \brief Returns the caught messages and forgets them. */
+    /*! \brief Returns the kept messages and forgets them. */
     QVector<LoggedMessage> take() { return std::exchange(m_messages, {}); }
 
 private:
-    static void keep(QtMsgType type, const QMessageLogContext &context, const QString &text);
+    static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
-    static MessageLog *s_innermost;
-    MessageLog *m_outer;
-    QtMessageHandler m_previous;
+    static std::atomic<MessageLog *> s_innermost;
+    const Listener m_listener;
+    const Qt::HANDLE m_thread;
+    MessageLog *const m_outer;
+    const QtMessageHandler m_previous;
     QVector<LoggedMessage> m_messages;
 };
 

@@ -61,7 +61,7 @@ QVector<Finding> check(const ThemeProjectOptions &options)
     QString error;
     const std::unique_ptr<ThemeProject> input = ThemeProject::read(options, &error);
     require(input != nullptr, qPrintable(error));
-    return runRules(*input);
+    return runLintRules(*input);
 }
 
 void sampleFolder(benchmark::State &state)

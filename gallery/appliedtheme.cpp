@@ -129,7 +129,8 @@ Problem imageProblem(const QString &file, const QString &reason, const QString &
 QString placeOfImage(const ThemeStack &theme, const QVariantMap &values, const QString &file)
 {
     const Definition *definition = theme.find(Kind::ImageFile, values.key(file));
-    return definition ? QLatin1String(" (") + placeOf(*definition) + QLatin1Char(')') : QString();
+    return definition ? QLatin1String(" (") + definition->keyPlace().shortText() + QLatin1Char(')')
+                      : QString();
 }
 
 // A missing image is the library's to report, and the rest of the theme stands without it.
@@ -172,7 +173,7 @@ Problem checkSubstitution(const ThemeProject &project, const ThemeStack &theme)
     QString place = theme.displayName();
     for (const Kind kind : {Kind::ImageFile, Kind::Color, Kind::Integer}) {
         if (const Definition *definition = theme.find(kind, key))
-            place = placeOf(*definition);
+            place = definition->keyPlace().shortText();
     }
     qCritical("%ls: the value of %ls leads back to its own token, so the style sheet would never "
               "be done. Give it a value without tokens.",
@@ -341,7 +342,7 @@ QString AppliedTheme::placesFor(const QString &message) const
         const QString quoted = hits.next().captured(1);
         for (const Definition &definition : stack.definitions()) {
             if (definition.key() == quoted || definition.value->text() == quoted)
-                places << placeOf(definition);
+                places << definition.keyPlace().shortText();
         }
     }
     if (places.isEmpty())

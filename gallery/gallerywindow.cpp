@@ -59,7 +59,7 @@ QWidget *createHeader(QComboBox *themes)
     return header;
 }
 
-QWidget *createMessagePane(MessageLog *log)
+QWidget *createMessagePane(MessageList *log)
 {
     auto *messages = new QListView;
     messages->setObjectName(QStringLiteral("messages"));

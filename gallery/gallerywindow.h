@@ -4,7 +4,7 @@
 #define GALLERY_GALLERYWINDOW_H
 
 #include "appliedtheme.h"
-#include "messagelog.h"
+#include "messagelist.h"
 #include "options.h"
 #include "themewatcher.h"
 
@@ -35,7 +35,7 @@ public:
 
     /*! \brief Returns the page that is shown, null before the first. */
     QWidget *page() const;
-    const MessageLog &messageLog() const { return m_log; }
+    const MessageList &messages() const { return m_log; }
 
 Q_SIGNALS:
     /*! \brief A reload() is over, whether or not it found a problem. */
@@ -49,7 +49,7 @@ private:
     QString pageName() const;
     bool showsForm() const;
 
-    MessageLog m_log;
+    MessageList m_log;
     AppliedTheme m_applied;
     ThemeWatcher m_watcher;
     ThemeSource m_source;

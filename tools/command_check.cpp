@@ -45,17 +45,17 @@ struct KnownOptions {
 QString ruleList()
 {
     QString text;
-    for (const Rule &rule : allRules())
-        text += QString(QLatin1String(rule.name)).leftJustified(21) % QLatin1Char(' ')
-            % severityName(rule.severity).leftJustified(8) % QLatin1Char(' ')
-            % QLatin1String(rule.summary) % QLatin1Char('\n');
+    for (const LintRule *rule : allLintRules())
+        text += QString(QLatin1String(rule->name)).leftJustified(21) % QLatin1Char(' ')
+            % severityName(rule->severity).leftJustified(8) % QLatin1Char(' ')
+            % QLatin1String(rule->summary) % QLatin1Char('\n');
     return text;
 }
 
 bool isRule(const QString &name)
 {
-    return std::any_of(allRules().cbegin(), allRules().cend(),
-                       [&](const Rule &rule) { return name == QLatin1String(rule.name); });
+    return std::any_of(allLintRules().cbegin(), allLintRules().cend(),
+                       [&](const LintRule *rule) { return name == QLatin1String(rule->name); });
 }
 
 // Returns what is wrong with the values of the options, or a null text.
@@ -104,7 +104,7 @@ int check(const Options &options, bool areNotesShown)
     const std::unique_ptr<ThemeProject> project = ThemeOptions::open(options.project);
     if (!project)
         return ExitUnusable;
-    const QVector<Finding> findings = runRules(*project, options.disabledRules);
+    const QVector<Finding> findings = runLintRules(*project, options.disabledRules);
     // What fails the check is shown.
     areNotesShown = areNotesShown || options.failOn == Severity::Info;
     if (!writeReport(formatted(findings, options.format, areNotesShown)))

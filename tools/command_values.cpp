@@ -19,8 +19,8 @@ namespace
 
 QString placeOf(const Definition &definition)
 {
-    return definition.layer->file.path() % QLatin1Char(':')
-        % QString::number(definition.entry()->keyPosition.line);
+    const Place place = definition.keyPlace();
+    return place.file % QLatin1Char(':') % QString::number(place.position.line);
 }
 
 QString asTable(const QVector<StoredValue> &values)

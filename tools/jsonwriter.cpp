@@ -13,9 +13,9 @@ QByteArray FindingWriters::json(const QVector<Finding> &findings)
     int counts[3] = {};
     for (const Finding &finding : findings) {
         ++counts[int(finding.severity)];
-        list.append(QJsonObject{{"file", finding.file},
-                                {"line", finding.position.line},
-                                {"column", finding.position.column},
+        list.append(QJsonObject{{"file", finding.place.file},
+                                {"line", finding.place.position.line},
+                                {"column", finding.place.position.column},
                                 {"severity", severityName(finding.severity)},
                                 {"rule", finding.rule},
                                 {"message", finding.message}});

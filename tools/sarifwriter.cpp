@@ -46,21 +46,21 @@ QString pageOf(const QString &rule)
 QJsonArray describedRules()
 {
     QJsonArray rules;
-    for (const Rule &rule : allRules()) {
-        const QString name = QLatin1String(rule.name);
+    for (const LintRule *rule : allLintRules()) {
+        const QString name = QLatin1String(rule->name);
         rules.append(
             QJsonObject{{"id", name},
-                        {"shortDescription", QJsonObject{{"text", QLatin1String(rule.summary)}}},
+                        {"shortDescription", QJsonObject{{"text", QLatin1String(rule->summary)}}},
                         {"helpUri", pageOf(name)},
-                        {"defaultConfiguration", QJsonObject{{"level", levelOf(rule.severity)}}}});
+                        {"defaultConfiguration", QJsonObject{{"level", levelOf(rule->severity)}}}});
     }
     return rules;
 }
 
 int ruleIndex(const QString &name)
 {
-    for (int i = 0; i < allRules().size(); ++i) {
-        if (name == QLatin1String(allRules().at(i).name))
+    for (int i = 0; i < allLintRules().size(); ++i) {
+        if (name == QLatin1String(allLintRules().at(i)->name))
             return i;
     }
     return -1;
@@ -69,9 +69,9 @@ int ruleIndex(const QString &name)
 QJsonObject resultOf(const Finding &finding)
 {
     // The format has no line 0, whatever a finding says.
-    const QJsonObject region{{"startLine", qMax(1, finding.position.line)},
-                             {"startColumn", qMax(1, finding.position.column)}};
-    const QJsonObject place{{"artifactLocation", QJsonObject{{"uri", uriOf(finding.file)}}},
+    const QJsonObject region{{"startLine", qMax(1, finding.place.position.line)},
+                             {"startColumn", qMax(1, finding.place.position.column)}};
+    const QJsonObject place{{"artifactLocation", QJsonObject{{"uri", uriOf(finding.place.file)}}},
                             {"region", region}};
     return {{"ruleId", finding.rule},
             {"ruleIndex", ruleIndex(finding.rule)},

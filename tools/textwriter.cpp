@@ -5,6 +5,8 @@
 
 #include <format/printabletext.h>
 
+#include <QByteArrayList>
+
 #include <algorithm>
 
 namespace
@@ -72,8 +74,7 @@ QByteArray FindingWriters::text(const QVector<Finding> &findings, TextStyle styl
         if (finding.severity == Severity::Info && !style.areNotesShown)
             continue;
         const QByteArray severity = severityName(finding.severity).toUtf8();
-        result += printable(finding.file).toUtf8() + ':' + QByteArray::number(finding.position.line)
-            + ':' + QByteArray::number(finding.position.column) + ": ";
+        result += printable(finding.place.text()).toUtf8() + ": ";
         result += style.isColored ? colorOf(finding.severity) + severity + "\033[0m" : severity;
         result += ": " + printable(finding.message).toUtf8() + " [" + finding.rule.toUtf8() + "]\n";
     }

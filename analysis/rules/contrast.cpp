@@ -161,7 +161,7 @@ private:
     int m_advised = 0;
 };
 
-void checkPair(const ThemeProject &input, const ThemeStack &theme, const TextPair &pair,
+void checkPair(const ThemeProject &project, const ThemeStack &theme, const TextPair &pair,
                const Colors &colors, Palette *palette, QSet<QString> *known, Report &report)
 {
     const Ground text = colors.read(pair.foreground.text);
@@ -169,44 +169,47 @@ void checkPair(const ThemeProject &input, const ThemeStack &theme, const TextPai
     if (text.size() != 1 || ground.isEmpty())
         return;
     QString background;
-    const double minimum = input.options().minimalContrast;
+    const double minimum = project.options().minimalContrast;
     const double ratio = leastContrast(text.first().color, ground, &background);
     const QString identity = text.first().name % QLatin1Char('\n') % background;
     if (ratio >= minimum || known->contains(identity))
         return;
     known->insert(identity);
-    const TextPosition place = input.templates().positionAt(pair.foreground.offset);
-    const InputFile &file = input.templates().fileAt(pair.foreground.offset).input;
-    const QString message =
-        QStringLiteral("%1 on %2 has a contrast of %3 in theme %4, less than %5 (%6, %7:%8)%9")
-            .arg(text.first().name, background, ColorMath::contrastText(ratio), theme.name(),
-                 ColorMath::contrastText(minimum), pair.selector.text,
-                 file.path().section(QLatin1Char('/'), -1), QString::number(place.line),
-                 palette->advice(text.first().color, ground, minimum));
+    const Place place = project.templates().placeAt(pair.foreground.offset);
+    const QString message = text.first().name % QLatin1String(" on ") % background
+        % QLatin1String(" has a contrast of ") % ColorMath::contrastText(ratio)
+        % QLatin1String(" in theme ") % theme.name() % QLatin1String(", less than ")
+        % ColorMath::contrastText(minimum) % QLatin1String(" (") % pair.selector.text
+        % QLatin1String(", ") % place.shortText() % QLatin1Char(')')
+        % palette->advice(text.first().color, ground, minimum);
     const Definition *definition = theme.find(Kind::Color, text.first().key);
     const Severity severity = pair.drawsText ? Severity::Warning : Severity::Info;
-    if (definition)
-        report.add(definition->layer->file.path(), definition->entry()->keyPosition, message,
-                   severity);
-    else
-        report.add(file.path(), place, message, severity);
+    report.add(definition ? definition->keyPlace() : place, message, severity);
 }
 
-} // namespace
-
-void Rules::contrast(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    const QVector<TextPair> pairs = textPairs(input.styleRules());
-    for (const ThemeStack *theme : input.themes()) {
-        const Colors colors(*theme, input.options().prefix);
+    const QVector<TextPair> pairs = textPairs(project.styleRules());
+    for (const ThemeStack *theme : project.themes()) {
+        const Colors colors(*theme, project.options().prefix);
         Palette palette(*theme);
         QSet<QString> known;
         // Certain text first: a pair is told of once, with the greater severity.
         for (const bool drawsText : {true, false}) {
             for (const TextPair &pair : pairs) {
                 if (pair.drawsText == drawsText)
-                    checkPair(input, *theme, pair, colors, &palette, &known, report);
+                    checkPair(project, *theme, pair, colors, &palette, &known, report);
             }
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule contrast{"contrast", Severity::Warning,
+                               "Text and its background are too close.", check};
+
+} // namespace LintRules

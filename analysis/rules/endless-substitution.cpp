@@ -3,10 +3,13 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::endlessSubstitution(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.themes()) {
-        const QString key = input.finished(*theme).endlessKey;
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.themes()) {
+        const QString key = project.finished(*theme).endlessKey;
         if (key.isNull())
             continue;
         // Only the text of an image file can hold a token; those of the other kinds are formatted.
@@ -18,3 +21,14 @@ void Rules::endlessSubstitution(const ThemeProject &input, Report &report)
                                   .arg(key));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule endlessSubstitution{
+    "endless-substitution", Severity::Error,
+    "A value reproduces its own token, so substitution never ends.", check};
+
+} // namespace LintRules

@@ -4,7 +4,7 @@
 #ifndef ANALYSIS_RULES_FINDING_H
 #define ANALYSIS_RULES_FINDING_H
 
-#include <analysis/theme/themefile.h>
+#include <format/place.h>
 
 #include <QString>
 
@@ -20,8 +20,7 @@ QString severityName(Severity severity);
 
 /*! \brief One thing that is wrong, and where. */
 struct Finding {
-    QString file;
-    TextPosition position;
+    Place place;
     Severity severity = Severity::Error;
     QString message; //!< one line, without a full stop
     QString rule;

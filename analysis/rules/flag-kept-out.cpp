@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::flagKeptOut(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.themes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.themes()) {
         for (const Definition &definition : theme->definitions()) {
             if (definition.fate != Definition::Fate::Exists || definition.kind() != Kind::Flag)
                 continue;
@@ -13,7 +16,17 @@ void Rules::flagKeptOut(const ThemeProject &input, Report &report)
             report.addAtKey(definition,
                             QStringLiteral("flag %1 is not stored, because %2 has an integer of "
                                            "this name")
-                                .arg(definition.key(), placeOf(integer)));
+                                .arg(definition.key(), integer.keyPlace().shortText()));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule flagKeptOut{"flag-kept-out", Severity::Error,
+                                  "An integer of its name keeps a flag out.", check};
+
+} // namespace LintRules

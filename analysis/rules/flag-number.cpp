@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::flagNumber(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const Definition &definition : theme->definitions()) {
             bool isNumber = false;
             definition.value->value.toLongLong(&isNumber);
@@ -19,3 +22,13 @@ void Rules::flagNumber(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule flagNumber{"flag-number", Severity::Error,
+                                 "A flag is not a decimal number and is stored as false.", check};
+
+} // namespace LintRules

@@ -23,23 +23,31 @@ bool isGarbled(const QByteArray &bytes)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-} // namespace
-
-void Rules::garbledText(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const auto &layer : input.layers()) {
+    for (const auto &layer : project.layers()) {
         for (const ThemeFileEntry &entry : layer->file.entries()) {
             if (isGarbled(entry.rawKey))
-                report.add(layer->file.path(), entry.keyPosition,
+                report.add({layer->file.path(), entry.keyPosition},
                            QStringLiteral("the key is read as Latin-1 and becomes \"%1\"; write "
                                           "other characters as %Uhhhh")
                                .arg(entry.name()));
             // A byte order mark makes the values, not the keys, UTF-8.
             if (isGarbled(entry.rawValue) && !layer->file.hasByteOrderMark())
-                report.add(layer->file.path(), entry.valuePosition,
+                report.add({layer->file.path(), entry.valuePosition},
                            QStringLiteral("the value is read as Latin-1 and becomes \"%1\"; write "
                                           "other characters as \\xhhhh")
                                .arg(QString::fromLatin1(entry.rawValue.trimmed())));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule garbledText{"garbled-text", Severity::Warning,
+                                  "Text that is not ASCII comes out garbled.", check};
+
+} // namespace LintRules

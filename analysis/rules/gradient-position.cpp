@@ -24,11 +24,9 @@ QString objection(const GradientStopValue &stop, double last)
     return {};
 }
 
-} // namespace
-
-void Rules::gradientPosition(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const Definition &definition : theme->definitions()) {
             if (definition.kind() != Kind::Gradient || definition.fate != Definition::Fate::Stored)
                 continue;
@@ -39,7 +37,7 @@ void Rules::gradientPosition(const ThemeProject &input, Report &report)
                 last = qMax(last, stop.position.toDouble());
                 const ThemeFileEntry *entry = stopEntry(definition, i, QStringLiteral("pos"));
                 if (!text.isEmpty() && entry)
-                    report.add(definition.layer->file.path(), entry->valuePosition,
+                    report.add({definition.layer->file.path(), entry->valuePosition},
                                QStringLiteral("position of stop %1 of gradient %2: ")
                                        .arg(i + 1)
                                        .arg(definition.key())
@@ -48,3 +46,14 @@ void Rules::gradientPosition(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule gradientPosition{
+    "gradient-position", Severity::Warning,
+    "A position in a gradient is no number, out of range or out of order.", check};
+
+} // namespace LintRules

@@ -43,14 +43,14 @@ const ThemeFileEntry *stopEntry(const Definition &gradient, int stop, const QStr
                                      % QLatin1Char('/') % key);
 }
 
-QVector<ThemeImage> themeImages(const ThemeProject &input)
+QVector<ThemeImage> themeImages(const ThemeProject &project)
 {
     QVector<ThemeImage> images;
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const int index : theme->stored(Kind::ImageFile)) {
             const Definition &definition = theme->definitions().at(index);
             const QString path =
-                imageFilePath(input.options().applicationFolder, definition.value->text());
+                imageFilePath(project.options().applicationFolder, definition.value->text());
             if (!path.startsWith(QLatin1String(":/")))
                 images.append({&definition, path});
         }
@@ -58,23 +58,17 @@ QVector<ThemeImage> themeImages(const ThemeProject &input)
     return images;
 }
 
-bool isDefined(const ThemeProject &input, const QString &key)
+bool isDefined(const ThemeProject &project, const QString &key)
 {
-    const std::vector<const ThemeStack *> &themes = input.allThemes();
+    const std::vector<const ThemeStack *> &themes = project.allThemes();
     return std::any_of(themes.cbegin(), themes.cend(), [&key](const ThemeStack *theme) {
         return kindInStyleSheets(*theme, key).has_value();
     });
 }
 
-bool isBuiltInTemplate(const ThemeProject &input, int offset)
+bool isBuiltInTemplate(const ThemeProject &project, int offset)
 {
-    return input.templates().fileAt(offset).input.path().startsWith(QLatin1String(":/"));
-}
-
-QString placeOf(const Definition &definition)
-{
-    const QString file = QFileInfo(definition.layer->file.path()).fileName();
-    return file % QLatin1Char(':') % QString::number(definition.entry()->keyPosition.line);
+    return project.templates().fileAt(offset).input.path().startsWith(QLatin1String(":/"));
 }
 
 QStringList storedKeys(const ThemeStack &stack, Kind kind)

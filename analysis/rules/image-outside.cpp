@@ -6,12 +6,15 @@
 #include <QDir>
 #include <QMap>
 
-// A layout beside the program leads every image out, so each file is told of once.
-void Rules::imageOutside(const ThemeProject &input, Report &report)
+namespace
 {
-    const QString folder = QDir::cleanPath(input.options().applicationFolder) % QLatin1Char('/');
+
+// A layout beside the program leads every image out, so each file is told of once.
+void check(const ThemeProject &project, Report &report)
+{
+    const QString folder = QDir::cleanPath(project.options().applicationFolder) % QLatin1Char('/');
     QMap<QString, QMap<int, const Definition *>> outside; // by file and line
-    for (const ThemeImage &image : themeImages(input)) {
+    for (const ThemeImage &image : themeImages(project)) {
         const Definition &definition = *image.definition;
         if (!QString(image.path % QLatin1Char('/')).startsWith(folder))
             outside[definition.layer->file.path()].insert(definition.entry()->keyPosition.line,
@@ -27,3 +30,13 @@ void Rules::imageOutside(const ThemeProject &input, Report &report)
                               .arg(first.value->text(), others));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule imageOutside{"image-outside", Severity::Info,
+                                   "An image path leaves the application's folder.", check};
+
+} // namespace LintRules

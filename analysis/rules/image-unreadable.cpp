@@ -31,12 +31,10 @@ QString objection(const QString &path)
     return {};
 }
 
-} // namespace
-
-void Rules::imageUnreadable(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     QHash<QString, QString> objections;
-    for (const ThemeImage &image : themeImages(input)) {
+    for (const ThemeImage &image : themeImages(project)) {
         if (!objections.contains(image.path))
             objections.insert(image.path, objection(image.path));
         const QString text = objections.value(image.path);
@@ -45,3 +43,13 @@ void Rules::imageUnreadable(const ThemeProject &input, Report &report)
                               QStringLiteral("image file %1 %2").arg(image.path, text));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule imageUnreadable{"image-unreadable", Severity::Error,
+                                      "An image file cannot be read or decoded.", check};
+
+} // namespace LintRules

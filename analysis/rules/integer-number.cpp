@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::integerNumber(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const Definition &definition : theme->definitions()) {
             bool isNumber = false;
             definition.value->value.toLongLong(&isNumber);
@@ -19,3 +22,14 @@ void Rules::integerNumber(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule integerNumber{"integer-number", Severity::Error,
+                                    "An integer is not a decimal number and is stored as 0.",
+                                    check};
+
+} // namespace LintRules

@@ -20,11 +20,9 @@ QString objection(const QString &text, const Suggestion &suggestion)
     return sentence + suggestion.question(text);
 }
 
-} // namespace
-
-void Rules::invalidColor(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         const Suggestion suggestion(storedKeys(*theme, Kind::Palette));
         for (const ColorText &color : colorTexts(*theme)) {
             // Commas and order have rules of their own, which say more.
@@ -35,3 +33,14 @@ void Rules::invalidColor(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule invalidColor{
+    "invalid-color", Severity::Error,
+    "A colour text is neither a palette entry nor a hexadecimal colour.", check};
+
+} // namespace LintRules

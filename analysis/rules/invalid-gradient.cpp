@@ -33,15 +33,13 @@ QString reason(const Definition &definition)
     return QStringLiteral("its size is below 1 or no number");
 }
 
-} // namespace
-
 // The library visits the keys of the arrays as names of gradients too, and reports each. Only what
 // keeps a gradient out is told here: those reports come with every gradient that is whole.
-void Rules::invalidGradient(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     static const QRegularExpression arrayKey(
         QStringLiteral("^(?<name>.+)/(?:size|\\d+/(?:pos|color))$"));
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         QSet<QString> named;
         for (const Definition &definition : theme->definitions()) {
             if (definition.kind() == Kind::Gradient)
@@ -69,3 +67,13 @@ void Rules::invalidGradient(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule invalidGradient{"invalid-gradient", Severity::Error,
+                                      "A gradient is not whole and is dropped.", check};
+
+} // namespace LintRules

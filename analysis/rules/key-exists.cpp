@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::keyExists(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.themes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.themes()) {
         for (const Definition &definition : theme->definitions()) {
             if (definition.fate != Definition::Fate::Exists || definition.kind() == Kind::Flag)
                 continue;
@@ -13,7 +16,19 @@ void Rules::keyExists(const ThemeProject &input, Report &report)
             report.addAtKey(definition,
                             QStringLiteral("%1 %2 exists already; the value in %3 stays, this one "
                                            "has no effect")
-                                .arg(nounOf(definition.kind()), definition.key(), placeOf(winner)));
+                                .arg(nounOf(definition.kind()), definition.key(),
+                                     winner.keyPlace().shortText()));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule keyExists{
+    "key-exists", Severity::Error,
+    "The default file has the key already, so this value has no effect.", check};
+
+} // namespace LintRules

@@ -3,17 +3,31 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::missingValue(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.themes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.themes()) {
         const ThemeFile &file = (theme->own() ? *theme->own() : theme->base()).file;
-        for (const TemplateToken &token : input.tokens()) {
-            if (kindInStyleSheets(*theme, token.key) || !isDefined(input, token.key))
+        for (const TemplateToken &token : project.tokens()) {
+            if (kindInStyleSheets(*theme, token.key) || !isDefined(project, token.key))
                 continue;
-            report.add(file.path(), sectionPosition(file, token.kind),
+            report.add({file.path(), sectionPosition(file, token.kind)},
                        QStringLiteral("theme %1 has no %2 %3, which templates use and another "
                                       "theme defines")
                            .arg(theme->name(), nounOf(token.kind), token.key));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule missingValue{
+    "missing-value", Severity::Warning,
+    "A theme lacks a value that templates use and other themes have.", check};
+
+} // namespace LintRules

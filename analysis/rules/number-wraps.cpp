@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::numberWraps(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const Definition &definition : theme->definitions()) {
             const bool isNumeric =
                 definition.kind() == Kind::Flag || definition.kind() == Kind::Integer;
@@ -27,3 +30,13 @@ void Rules::numberWraps(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule numberWraps{"number-wraps", Severity::Error,
+                                  "A number does not fit into 32 bits and wraps.", check};
+
+} // namespace LintRules

@@ -3,9 +3,12 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::paletteOrder(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const ColorText &color : colorTexts(*theme)) {
             if (!color.isNamedTooEarly(*theme))
                 continue;
@@ -20,7 +23,17 @@ void Rules::paletteOrder(const ThemeProject &input, Report &report)
                     ? QStringLiteral("palette entry %1 names itself; %2").arg(color.text(), taken)
                     : QStringLiteral("palette entry %1 (%2) is stored only after this "
                                      "colour; %3")
-                          .arg(color.text(), placeOf(*entry), taken));
+                          .arg(color.text(), entry->keyPlace().shortText(), taken));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule paletteOrder{"palette-order", Severity::Error,
+                                   "A palette entry is named before it is stored.", check};
+
+} // namespace LintRules

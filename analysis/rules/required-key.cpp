@@ -13,21 +13,19 @@ Kind searchedKind(Kind kind)
     return kind == Kind::Gradient ? Kind::Flag : kind;
 }
 
-} // namespace
-
-void Rules::requiredKey(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    const ThemeStack &base = input.base();
+    const ThemeStack &base = project.base();
     const ThemeFile &file = base.base().file;
     for (const Kind kind : allKinds) {
         const QHash<QString, int> &stored = base.stored(searchedKind(kind));
         const Suggestion suggestion(stored.keys());
-        const QStringList keys = input.vocabulary().keys(kind);
+        const QStringList keys = project.vocabulary().keys(kind);
         for (const QString &key : keys) {
             if (stored.contains(key))
                 continue;
             const QString near = suggestion.nearest(key);
-            report.add(file.path(), sectionPosition(file, kind),
+            report.add({file.path(), sectionPosition(file, kind)},
                        QStringLiteral("required %1 %2 is not set%3")
                            .arg(nounOf(kind), key,
                                 near.isEmpty() || keys.contains(near)
@@ -36,3 +34,13 @@ void Rules::requiredKey(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule requiredKey{"required-key", Severity::Error, "A required key is not set.",
+                                  check};
+
+} // namespace LintRules

@@ -9,7 +9,7 @@
 
 #include <QSet>
 
-struct Rule;
+struct LintRule;
 
 /*! \brief A colour text as the library reads it: a palette entry, a colour or a gradient's stop. */
 struct ColorText {
@@ -29,10 +29,10 @@ class Report
 {
 public:
     /*! \brief Sets the rule in whose name the next findings are added. */
-    void begin(const Rule &rule) { m_rule = &rule; }
+    void begin(const LintRule &rule) { m_rule = &rule; }
 
-    void add(const QString &file, TextPosition position, const QString &message);
-    void add(const QString &file, TextPosition position, const QString &message, Severity severity);
+    void add(const Place &place, const QString &message);
+    void add(const Place &place, const QString &message, Severity severity);
 
     /*! \brief Adds a finding at the key, or else at the value, of \a definition. */
     void addAtKey(const Definition &definition, const QString &message);
@@ -46,24 +46,29 @@ public:
     QVector<Finding> findings() const;
 
 private:
-    const Rule *m_rule = nullptr;
+    const LintRule *m_rule = nullptr;
     QVector<Finding> m_findings;
     QSet<QString> m_seen;
 };
 
-/*! \brief One thing that `hvtheme check` looks for. */
-struct Rule {
+/*!
+ * \brief One thing that `hvtheme check` looks for.
+ *
+ * Each stands in a source of its own, which is named after it: its name, what it looks for and how.
+ * The list of sources in CMake is the table of all of them.
+ */
+struct LintRule {
     const char *name; //!< stable: it stands in reports, options and the name of its page
     Severity severity;
     const char *summary; //!< one sentence
-    void (*check)(const ThemeProject &input, Report &report);
+    void (*check)(const ThemeProject &project, Report &report);
 };
 
 /*! \brief Returns all rules, in the order of the documentation. */
-const QVector<Rule> &allRules();
+const QVector<const LintRule *> &allLintRules();
 
 /*! \brief Returns what all rules but the \a disabled ones, given by name, find. */
-QVector<Finding> runRules(const ThemeProject &input, const QStringList &disabled = {});
+QVector<Finding> runLintRules(const ThemeProject &project, const QStringList &disabled = {});
 
 /*! \brief Returns every colour text that the library looks at when it loads \a stack. */
 QVector<ColorText> colorTexts(const ThemeStack &stack);
@@ -78,19 +83,16 @@ struct ThemeImage {
 };
 
 /*! \brief Returns the image files of all themes, with paths in the application's folder. */
-QVector<ThemeImage> themeImages(const ThemeProject &input);
+QVector<ThemeImage> themeImages(const ThemeProject &project);
 
 /*! \brief Tells whether any theme gives style sheets a value for \a key. */
-bool isDefined(const ThemeProject &input, const QString &key);
+bool isDefined(const ThemeProject &project, const QString &key);
 
 /*! \brief Returns the key that was meant if an integer token took its unit for a part of it. */
-std::optional<QString> keyWithoutUnit(const ThemeProject &input, const TemplateToken &token);
+std::optional<QString> keyWithoutUnit(const ThemeProject &project, const TemplateToken &token);
 
 /*! \brief Tells whether \a offset lies in a template of the library, which nobody can mend. */
-bool isBuiltInTemplate(const ThemeProject &input, int offset);
-
-/*! \brief Returns "FILE:LINE" of \a definition, the file without its folder. */
-QString placeOf(const Definition &definition);
+bool isBuiltInTemplate(const ThemeProject &project, int offset);
 
 /*! \brief Returns the keys of \a kind that are in force in \a stack. */
 QStringList storedKeys(const ThemeStack &stack, Kind kind);
@@ -100,60 +102,5 @@ TextPosition sectionPosition(const ThemeFile &file, Kind kind);
 
 /*! \brief Returns the kind whose value style sheets see for \a key, or nothing. */
 std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key);
-
-namespace Rules
-{
-
-// What the library itself would report.
-void requiredKey(const ThemeProject &input, Report &report);
-void keyExists(const ThemeProject &input, Report &report);
-void invalidColor(const ThemeProject &input, Report &report);
-void paletteOrder(const ThemeProject &input, Report &report);
-void invalidGradient(const ThemeProject &input, Report &report);
-void flagKeptOut(const ThemeProject &input, Report &report);
-
-// What it takes silently.
-void flagNumber(const ThemeProject &input, Report &report);
-void integerNumber(const ThemeProject &input, Report &report);
-void numberWraps(const ThemeProject &input, Report &report);
-void gradientPosition(const ThemeProject &input, Report &report);
-void valueList(const ThemeProject &input, Report &report);
-void duplicateKey(const ThemeProject &input, Report &report);
-void unknownSection(const ThemeProject &input, Report &report);
-void skippedLine(const ThemeProject &input, Report &report);
-void garbledText(const ThemeProject &input, Report &report);
-void sharedName(const ThemeProject &input, Report &report);
-void themeNeverRead(const ThemeProject &input, Report &report);
-void defaultReadTwice(const ThemeProject &input, Report &report);
-void themeName(const ThemeProject &input, Report &report);
-
-// Templates.
-void undefinedToken(const ThemeProject &input, Report &report);
-void missingValue(const ThemeProject &input, Report &report);
-void tokenKind(const ThemeProject &input, Report &report);
-void swallowedUnit(const ThemeProject &input, Report &report);
-void straySeparator(const ThemeProject &input, Report &report);
-void endlessSubstitution(const ThemeProject &input, Report &report);
-void templateEncoding(const ThemeProject &input, Report &report);
-void styleSheetSyntax(const ThemeProject &input, Report &report);
-void unterminatedComment(const ThemeProject &input, Report &report);
-void unknownClass(const ThemeProject &input, Report &report);
-void unknownSubcontrol(const ThemeProject &input, Report &report);
-void unknownPseudoState(const ThemeProject &input, Report &report);
-void unknownProperty(const ThemeProject &input, Report &report);
-
-// Images.
-void imageMissing(const ThemeProject &input, Report &report);
-void imageUnreadable(const ThemeProject &input, Report &report);
-void imageOutside(const ThemeProject &input, Report &report);
-
-// What nothing uses.
-void unusedKey(const ThemeProject &input, Report &report);
-void unusedPalette(const ThemeProject &input, Report &report);
-
-// What can be read.
-void contrast(const ThemeProject &input, Report &report);
-
-} // namespace Rules
 
 #endif

@@ -9,11 +9,11 @@ namespace
 
 // The rule of the same number, if both have as many. Else the one in the same line: substitution
 // puts no line ends in, unless a path holds one.
-int templateOffset(const ThemeProject &input, const QString &finished,
+int templateOffset(const ThemeProject &project, const QString &finished,
                    const QVector<StyleRule> &finishedRules, int offset)
 {
-    const QString templates = input.templates().text();
-    const QVector<StyleRule> &rules = input.styleRules().rules();
+    const QString templates = project.templates().text();
+    const QVector<StyleRule> &rules = project.styleRules().rules();
     if (rules.size() == finishedRules.size()) {
         int at = 0;
         for (int i = 0; i < rules.size() && finishedRules.at(i).end <= offset; ++i)
@@ -37,18 +37,27 @@ QString withoutOpenComment(const QString &text)
     return isOpen ? text.left(rules.comments().constLast().start) : text;
 }
 
-} // namespace
-
-void Rules::styleSheetSyntax(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const ThemeStack *theme : input.themes()) {
-        const QString finished = withoutOpenComment(input.finished(*theme).text);
+    for (const ThemeStack *theme : project.themes()) {
+        const QString finished = withoutOpenComment(project.finished(*theme).text);
         const QVector<int> rejected = StyleParser::rejectedRules(finished);
         const QVector<StyleRule> rules =
             rejected.isEmpty() ? QVector<StyleRule>() : StyleRules(finished).rules();
         for (const int offset : rejected)
-            report.addAtTemplate(input.templates(), templateOffset(input, finished, rules, offset),
+            report.addAtTemplate(project.templates(),
+                                 templateOffset(project, finished, rules, offset),
                                  QStringLiteral("Qt cannot parse the style sheet from this rule "
                                                 "on, and drops what follows"));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule styleSheetSyntax{"style-sheet-syntax", Severity::Error,
+                                       "Qt cannot parse the finished style sheet.", check};
+
+} // namespace LintRules

@@ -17,23 +17,36 @@ bool isUnit(const QString &text)
 
 } // namespace
 
-std::optional<QString> keyWithoutUnit(const ThemeProject &input, const TemplateToken &token)
+std::optional<QString> keyWithoutUnit(const ThemeProject &project, const TemplateToken &token)
 {
-    if (token.kind != Kind::Integer || isDefined(input, token.key) || !isUnit(token.key.right(2)))
+    if (token.kind != Kind::Integer || isDefined(project, token.key) || !isUnit(token.key.right(2)))
         return std::nullopt;
     const QString key = token.key.chopped(2);
-    return isDefined(input, key) ? std::make_optional(key) : std::nullopt;
+    return isDefined(project, key) ? std::make_optional(key) : std::nullopt;
 }
-
-void Rules::swallowedUnit(const ThemeProject &input, Report &report)
+namespace
 {
-    for (const TemplateToken &token : input.tokens()) {
-        const std::optional<QString> key = keyWithoutUnit(input, token);
+
+void check(const ThemeProject &project, Report &report)
+{
+    for (const TemplateToken &token : project.tokens()) {
+        const std::optional<QString> key = keyWithoutUnit(project, token);
         if (!key)
             continue;
-        report.addAtTemplate(input.templates(), token.offset,
+        report.addAtTemplate(project.templates(), token.offset,
                              QStringLiteral("%1 is taken for the key and replaced by nothing; "
                                             "write %2|%3")
                                  .arg(token.key, *key, token.key.right(2)));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule swallowedUnit{"swallowed-unit", Severity::Error,
+                                    "An integer token takes its unit for a part of the key.",
+                                    check};
+
+} // namespace LintRules

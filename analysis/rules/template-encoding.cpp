@@ -17,15 +17,13 @@ void checkLine(const InputFile &file, const QByteArray &line, int number, Report
     if (state.invalidChars == 0 && state.remainingChars == 0)
         return;
     const int column = qMax(0, text.indexOf(QChar(QChar::ReplacementCharacter))) + 1;
-    report.add(file.path(), {number, column},
+    report.add({file.path(), {number, column}},
                QStringLiteral("these bytes are not UTF-8 and come out as replacement characters"));
 }
 
-} // namespace
-
-void Rules::templateEncoding(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const TemplateText::File &file : input.templates().files()) {
+    for (const TemplateText::File &file : project.templates().files()) {
         const QByteArray content = file.input.content();
         const int end = content.indexOf('\0');
         const QByteArray read = content.left(end < 0 ? content.size() : end);
@@ -35,9 +33,19 @@ void Rules::templateEncoding(const ThemeProject &input, Report &report)
             const int stop = lineEnd < 0 ? read.size() : lineEnd;
             checkLine(file.input, read.mid(start, stop - start), number + 1, report);
             if (lineEnd < 0 && end >= 0)
-                report.add(file.input.path(), {number + 1, stop - start + 1},
+                report.add({file.input.path(), {number + 1, stop - start + 1}},
                            QStringLiteral("a NUL byte: the library reads nothing behind it"));
             start = stop + 1;
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule templateEncoding{"template-encoding", Severity::Error,
+                                       "A template is not UTF-8 or holds a NUL byte.", check};
+
+} // namespace LintRules

@@ -5,16 +5,30 @@
 
 #include <QFileInfo>
 
-void Rules::themeNeverRead(const ThemeProject &input, Report &report)
+namespace
 {
-    const ThemeFile &base = input.base().base().file;
+
+void check(const ThemeProject &project, Report &report)
+{
+    const ThemeFile &base = project.base().base().file;
     const ThemeFileEntry *name = base.find(QStringLiteral("ThemeName"));
-    for (const ThemeStack *theme : input.themes()) {
+    for (const ThemeStack *theme : project.themes()) {
         if (theme->isOwnRead())
             continue;
-        report.add(base.path(), name ? name->valuePosition : TextPosition{1, 1},
+        report.add({base.path(), name ? name->valuePosition : TextPosition{1, 1}},
                    QStringLiteral("the display name equals the name of %1, so the library takes "
                                   "this theme for it and never reads that file")
                        .arg(QFileInfo(theme->own()->file.path()).fileName()));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule themeNeverRead{
+    "theme-never-read", Severity::Error,
+    "The default file's display name keeps a theme's file from being read.", check};
+
+} // namespace LintRules

@@ -10,9 +10,9 @@ namespace
 {
 
 // Why a key that exists is not one for style sheets.
-QString hiddenKind(const ThemeProject &input, const QString &key)
+QString hiddenKind(const ThemeProject &project, const QString &key)
 {
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         if (theme->stored(Kind::Palette).contains(key))
             return QStringLiteral("; it is a palette entry, which only a colour key can bring into "
                                   "style sheets");
@@ -22,10 +22,10 @@ QString hiddenKind(const ThemeProject &input, const QString &key)
     return {};
 }
 
-QStringList visibleKeys(const ThemeProject &input)
+QStringList visibleKeys(const ThemeProject &project)
 {
     QSet<QString> keys;
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const Kind kind : allKinds) {
             if (!isInStyleSheets(kind))
                 continue;
@@ -36,9 +36,9 @@ QStringList visibleKeys(const ThemeProject &input)
     return keys.values();
 }
 
-bool hasImages(const ThemeProject &input)
+bool hasImages(const ThemeProject &project)
 {
-    const auto &themes = input.allThemes();
+    const auto &themes = project.allThemes();
     return std::any_of(themes.cbegin(), themes.cend(), [](const ThemeStack *theme) {
         return !theme->stored(Kind::ImageFile).isEmpty();
     });
@@ -46,27 +46,35 @@ bool hasImages(const ThemeProject &input)
 
 // The application library draws all images of the built-in templates itself for a theme that names
 // none, so such a theme is whole.
-bool isDrawnByApplication(const ThemeProject &input, const TemplateToken &token)
+bool isDrawnByApplication(const ThemeProject &project, const TemplateToken &token)
 {
     return token.kind == Kind::ImageFile
-        && input.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
+        && project.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
 }
 
-} // namespace
-
-void Rules::undefinedToken(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    const Suggestion suggestion(visibleKeys(input));
-    const bool isWithoutImages = !hasImages(input);
-    for (const TemplateToken &token : input.tokens()) {
-        if (isDefined(input, token.key) || keyWithoutUnit(input, token))
+    const Suggestion suggestion(visibleKeys(project));
+    const bool isWithoutImages = !hasImages(project);
+    for (const TemplateToken &token : project.tokens()) {
+        if (isDefined(project, token.key) || keyWithoutUnit(project, token))
             continue;
-        if (isWithoutImages && isDrawnByApplication(input, token))
+        if (isWithoutImages && isDrawnByApplication(project, token))
             continue;
-        const QString hidden = hiddenKind(input, token.key);
+        const QString hidden = hiddenKind(project, token.key);
         report.addAtTemplate(
-            input.templates(), token.offset,
+            project.templates(), token.offset,
             QStringLiteral("no theme defines %1, and nothing takes its place").arg(token.key)
                 % (hidden.isEmpty() ? suggestion.question(token.key) : hidden));
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule undefinedToken{"undefined-token", Severity::Error,
+                                     "No theme defines the key of a token.", check};
+
+} // namespace LintRules

@@ -21,17 +21,15 @@ QString meantClass(const Suggestion &classes, const QString &type)
     return classes.nearest(type);
 }
 
-} // namespace
-
-void Rules::unknownClass(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     const Suggestion classes(StyleVocabulary::classes());
-    for (const StyleRule &rule : input.styleRules().rules()) {
+    for (const StyleRule &rule : project.styleRules().rules()) {
         for (const StyleSelector &selector : rule.selectors) {
             for (const StyleSelector::Step &step : selector.steps) {
                 const QString meant = meantClass(classes, step.type);
-                if (!meant.isEmpty() && !isBuiltInTemplate(input, step.offset))
-                    report.addAtTemplate(input.templates(), step.offset,
+                if (!meant.isEmpty() && !isBuiltInTemplate(project, step.offset))
+                    report.addAtTemplate(project.templates(), step.offset,
                                          QLatin1String("Qt has no widget class ") % step.type
                                              % QLatin1String("; did you mean ") % meant
                                              % QLatin1Char('?'));
@@ -39,3 +37,13 @@ void Rules::unknownClass(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unknownClass{"unknown-class", Severity::Warning,
+                                   "A selector names a class that is nearly one of Qt's.", check};
+
+} // namespace LintRules

@@ -19,18 +19,26 @@ bool isUnknown(const QString &property)
         && !property.startsWith(QLatin1String("qproperty-"), Qt::CaseInsensitive);
 }
 
-} // namespace
-
-void Rules::unknownProperty(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     const Suggestion properties(StyleVocabulary::properties());
-    for (const StyleRule &rule : input.styleRules().rules()) {
+    for (const StyleRule &rule : project.styleRules().rules()) {
         for (const StyleDeclaration &declaration : rule.declarations) {
-            if (isUnknown(declaration.property) && !isBuiltInTemplate(input, declaration.start))
-                report.addAtTemplate(input.templates(), declaration.start,
+            if (isUnknown(declaration.property) && !isBuiltInTemplate(project, declaration.start))
+                report.addAtTemplate(project.templates(), declaration.start,
                                      QLatin1String("Qt knows no property ") % declaration.property
                                          % QLatin1String(" and takes no notice of it")
                                          % properties.question(declaration.property.toLower()));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unknownProperty{"unknown-property", Severity::Warning,
+                                      "Qt does not know a property.", check};
+
+} // namespace LintRules

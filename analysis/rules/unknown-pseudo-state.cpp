@@ -23,19 +23,27 @@ QString message(const PseudoCheck &check, const StyleSelector &selector,
         % check.stateQuestion(pseudo.name);
 }
 
-} // namespace
-
-void Rules::unknownPseudoState(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     const PseudoCheck check;
-    for (const StyleRule &rule : input.styleRules().rules()) {
+    for (const StyleRule &rule : project.styleRules().rules()) {
         for (const StyleSelector &selector : rule.selectors) {
             const QVector<StyleSelector::Pseudo> unknown = check.unknownStates(selector);
             for (const StyleSelector::Pseudo &pseudo : unknown) {
-                if (!isBuiltInTemplate(input, pseudo.offset))
-                    report.addAtTemplate(input.templates(), pseudo.offset,
+                if (!isBuiltInTemplate(project, pseudo.offset))
+                    report.addAtTemplate(project.templates(), pseudo.offset,
                                          message(check, selector, pseudo));
             }
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unknownPseudoState{"unknown-pseudo-state", Severity::Warning,
+                                         "A selector names a state that does not exist.", check};
+
+} // namespace LintRules

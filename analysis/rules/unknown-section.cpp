@@ -26,17 +26,15 @@ void checkTopLevelKey(const ThemeFile &file, const ThemeFileEntry &entry, Report
     if (entry.key == nameKey)
         return;
     report.add(
-        file.path(), entry.keyPosition,
+        {file.path(), entry.keyPosition},
         QStringLiteral("%1 stands in no section, where only ThemeName is read").arg(entry.key)
             % Suggestion({nameKey}).question(entry.key));
 }
 
-} // namespace
-
-void Rules::unknownSection(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     const Suggestion suggestion(knownSections());
-    for (const auto &layer : input.layers()) {
+    for (const auto &layer : project.layers()) {
         QSet<QString> known;
         for (const QString &name : knownSections())
             known.insert(name);
@@ -44,7 +42,7 @@ void Rules::unknownSection(const ThemeProject &input, Report &report)
             if (known.contains(name))
                 return;
             known.insert(name); // one report is enough
-            report.add(layer->file.path(), position,
+            report.add({layer->file.path(), position},
                        QStringLiteral("section %1 is not read").arg(name)
                            % suggestion.question(name));
         };
@@ -60,3 +58,14 @@ void Rules::unknownSection(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unknownSection{"unknown-section", Severity::Warning,
+                                     "The library does not read the section or top-level key.",
+                                     check};
+
+} // namespace LintRules

@@ -17,17 +17,26 @@ QString message(const PseudoCheck &check, const StyleSelector &selector,
     return QLatin1String("no widget of Qt has a sub-control ") % pseudo.name % hint;
 }
 
-} // namespace
-
-void Rules::unknownSubcontrol(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
     const PseudoCheck check;
-    for (const StyleRule &rule : input.styleRules().rules()) {
+    for (const StyleRule &rule : project.styleRules().rules()) {
         for (const StyleSelector &selector : rule.selectors) {
             const std::optional<StyleSelector::Pseudo> pseudo = check.unknownSubControl(selector);
-            if (pseudo && !isBuiltInTemplate(input, pseudo->offset))
-                report.addAtTemplate(input.templates(), pseudo->offset,
+            if (pseudo && !isBuiltInTemplate(project, pseudo->offset))
+                report.addAtTemplate(project.templates(), pseudo->offset,
                                      message(check, selector, *pseudo));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unknownSubcontrol{"unknown-subcontrol", Severity::Warning,
+                                        "A selector names a sub-control that no widget has.",
+                                        check};
+
+} // namespace LintRules

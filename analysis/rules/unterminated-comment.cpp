@@ -3,17 +3,19 @@
 
 #include <analysis/rules/rules.h>
 
-// Templates are one text to the library and to Qt, so a comment goes on into the next file.
-void Rules::unterminatedComment(const ThemeProject &input, Report &report)
+namespace
 {
-    const TemplateText &templates = input.templates();
-    for (const StyleRules::Comment &comment : input.styleRules().comments()) {
+
+// Templates are one text to the library and to Qt, so a comment goes on into the next file.
+void check(const ThemeProject &project, Report &report)
+{
+    const TemplateText &templates = project.templates();
+    for (const StyleRules::Comment &comment : project.styleRules().comments()) {
         const QString file = templates.fileAt(comment.start).input.path();
         const QString endFile = templates.fileAt(comment.end - 1).input.path();
-        if (isBuiltInTemplate(input, comment.start) || (comment.isClosed && file == endFile))
+        if (isBuiltInTemplate(project, comment.start) || (comment.isClosed && file == endFile))
             continue;
-        const QString end = comment.isClosed ? endFile.section(QLatin1Char('/'), -1)
-                % QLatin1Char(':') % QString::number(templates.positionAt(comment.end - 1).line)
+        const QString end = comment.isClosed ? templates.placeAt(comment.end - 1).shortText()
                                              : QStringLiteral("the end of all templates");
         report.addAtTemplate(templates, comment.start,
                              QLatin1String("the comment is not closed in this file, and swallows "
@@ -21,3 +23,14 @@ void Rules::unterminatedComment(const ThemeProject &input, Report &report)
                                  % end);
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unterminatedComment{"unterminated-comment", Severity::Error,
+                                          "A template's comment is not closed and swallows rules.",
+                                          check};
+
+} // namespace LintRules

@@ -3,12 +3,15 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::unusedKey(const ThemeProject &input, Report &report)
+namespace
+{
+
+void check(const ThemeProject &project, Report &report)
 {
     QSet<QString> used;
-    for (const TemplateToken &token : input.tokens())
+    for (const TemplateToken &token : project.tokens())
         used.insert(token.key);
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         // Flags are for the application's code; no token is meant for them.
         for (const Kind kind : {Kind::Color, Kind::ImageFile, Kind::Integer}) {
             for (const int index : theme->stored(kind)) {
@@ -21,3 +24,13 @@ void Rules::unusedKey(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unusedKey{"unused-key", Severity::Info,
+                                "No template uses a colour, image file or integer.", check};
+
+} // namespace LintRules

@@ -3,16 +3,19 @@
 
 #include <analysis/rules/rules.h>
 
-void Rules::unusedPalette(const ThemeProject &input, Report &report)
+namespace
+{
+
+void check(const ThemeProject &project, Report &report)
 {
     QSet<QString> used;
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const ColorText &color : colorTexts(*theme)) {
             if (color.isResolved)
                 used.insert(color.text());
         }
     }
-    for (const ThemeStack *theme : input.allThemes()) {
+    for (const ThemeStack *theme : project.allThemes()) {
         for (const int index : theme->stored(Kind::Palette)) {
             const Definition &definition = theme->definitions().at(index);
             if (!used.contains(definition.key()))
@@ -22,3 +25,13 @@ void Rules::unusedPalette(const ThemeProject &input, Report &report)
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule unusedPalette{"unused-palette", Severity::Info,
+                                    "Nothing uses a palette entry.", check};
+
+} // namespace LintRules

@@ -19,18 +19,27 @@ bool isRead(const QString &key)
     return key == QLatin1String("ThemeName");
 }
 
-} // namespace
-
-void Rules::valueList(const ThemeProject &input, Report &report)
+void check(const ThemeProject &project, Report &report)
 {
-    for (const auto &layer : input.layers()) {
+    for (const auto &layer : project.layers()) {
         for (const QString &key : layer->values.listKeys) {
             const ThemeFileEntry *entry = layer->file.find(key);
             if (entry && isRead(key))
-                report.add(layer->file.path(), entry->valuePosition,
+                report.add({layer->file.path(), entry->valuePosition},
                            QStringLiteral("the comma makes a list of the value of %1, which is "
                                           "stored as nothing; put it in quotation marks")
                                .arg(entry->name()));
         }
     }
 }
+
+} // namespace
+
+namespace LintRules
+{
+
+extern const LintRule valueList{"value-list", Severity::Error,
+                                "Commas turn a value into a list, which is stored as nothing.",
+                                check};
+
+} // namespace LintRules

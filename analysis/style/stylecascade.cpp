@@ -137,7 +137,7 @@ private:
     {
         if (m_templates) {
             found->file = m_templates->fileAt(found->offset).input.path();
-            found->position = m_templates->positionAt(found->offset);
+            found->position = m_templates->placeAt(found->offset).position;
             return;
         }
         const QString before = m_text.left(found->offset);

@@ -105,13 +105,14 @@ const TemplateText::File &TemplateText::fileAt(int offset) const
     return next == m_files.cbegin() ? *next : *std::prev(next);
 }
 
-TextPosition TemplateText::positionAt(int offset) const
+Place TemplateText::placeAt(int offset) const
 {
-    const int fileStart = fileAt(offset).offset;
+    const File &file = fileAt(offset);
+    const int fileStart = file.offset;
     const auto lineAt = [this](int place) {
         return std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), place);
     };
     const auto line = lineAt(offset);
     const int lineStart = qMax(fileStart, *std::prev(line));
-    return {int(line - lineAt(fileStart)) + 1, offset - lineStart + 1};
+    return {file.input.path(), {int(line - lineAt(fileStart)) + 1, offset - lineStart + 1}};
 }

@@ -53,8 +53,8 @@ public:
 
     /*! \brief Returns the file that the character at \a offset comes from. */
     const File &fileAt(int offset) const;
-    /*! \brief Returns the place of \a offset within its file. */
-    TextPosition positionAt(int offset) const;
+    /*! \brief Returns the place of \a offset: its file and the position in it. */
+    Place placeAt(int offset) const;
 
 private:
     TemplateText() = default;

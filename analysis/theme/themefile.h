@@ -5,15 +5,10 @@
 #define ANALYSIS_THEME_THEMEFILE_H
 
 #include <analysis/theme/inputfile.h>
+#include <format/place.h>
 
 #include <QHash>
 #include <QVector>
-
-/*! \brief A place in a text; line and column count characters from 1. */
-struct TextPosition {
-    int line = 0;
-    int column = 0;
-};
 
 /*! \brief One `key=value` of a theme file, where it stands and how QSettings names it. */
 struct ThemeFileEntry {

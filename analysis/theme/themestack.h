@@ -44,6 +44,8 @@ struct Definition {
     const QString &key() const { return value->key; }
     /*! \brief Returns the entry in the file's text; never null for what QSettings lists. */
     const ThemeFileEntry *entry() const;
+    Place keyPlace() const { return {layer->file.path(), entry()->keyPosition}; }
+    Place valuePlace() const { return {layer->file.path(), entry()->valuePosition}; }
 };
 
 /*!

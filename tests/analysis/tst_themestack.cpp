@@ -142,13 +142,13 @@ void tst_ThemeStack::templateText()
     QCOMPARE(integer.key, QStringLiteral("N"));
     QCOMPARE(integer.kind, Kind::Integer);
     QCOMPARE(templates->fileAt(integer.offset).input.path(), folder + "/A.CSS");
-    QCOMPARE(templates->positionAt(integer.offset).column, 11);
+    QCOMPARE(templates->placeAt(integer.offset).position.column, 11);
     const TemplateToken color = templates->tokens().at(1);
     QCOMPARE(templates->fileAt(color.offset).input.path(), folder + "/b.qss");
-    QCOMPARE(templates->positionAt(color.offset).line, 2);
-    QCOMPARE(templates->positionAt(color.offset).column, 9);
+    QCOMPARE(templates->placeAt(color.offset).position.line, 2);
+    QCOMPARE(templates->placeAt(color.offset).position.column, 9);
     QCOMPARE(templates->fileAt(templates->tokens().at(2).offset).input.path(), single);
-    QCOMPARE(templates->positionAt(templates->files().last().offset).line, 1);
+    QCOMPARE(templates->placeAt(templates->files().last().offset).position.line, 1);
 }
 
 void tst_ThemeStack::templatesRefused()

@@ -163,7 +163,7 @@ void tst_Gallery::everyPageOpens()
         QVERIFY(!window.page()->grab().isNull());
     }
     QCoreApplication::processEvents();
-    QCOMPARE(window.messageLog().rowCount(), 0);
+    QCOMPARE(window.messages().rowCount(), 0);
 }
 
 void tst_Gallery::badThemeLeavesTheLastGoodOne_data()
@@ -211,8 +211,8 @@ void tst_Gallery::badThemeLeavesTheLastGoodOne()
     QCOMPARE(buttonColor(window), good);
     QCOMPARE(window.statusBar()->currentMessage(),
              QStringLiteral("This is the last good theme; see the messages"));
-    QTRY_COMPARE(window.messageLog().rowCount(), 1);
-    const QString shown = window.messageLog().index(0).data().toString();
+    QTRY_COMPARE(window.messages().rowCount(), 1);
+    const QString shown = window.messages().index(0).data().toString();
     QVERIFY(shown.startsWith(QLatin1String("critical: ")));
     QVERIFY(shown.contains(QRegularExpression(message)));
 
@@ -228,7 +228,7 @@ void tst_Gallery::opensWithoutAnyTheme()
     GalleryWindow window(options);
     window.show();
     QVERIFY(window.page() != nullptr);
-    QTRY_COMPARE(window.messageLog().rowCount(), 1);
+    QTRY_COMPARE(window.messages().rowCount(), 1);
     QCOMPARE(window.statusBar()->currentMessage(),
              QStringLiteral("No theme could be loaded; see the messages"));
 }
@@ -269,8 +269,8 @@ void tst_Gallery::messagesNamePlaces()
         options.pages = QStringList{"labels"};
         GalleryWindow window(options);
         QCoreApplication::processEvents();
-        for (int row = 0; row < window.messageLog().rowCount(); ++row)
-            shown << window.messageLog().index(row).data().toString();
+        for (int row = 0; row < window.messages().rowCount(); ++row)
+            shown << window.messages().index(row).data().toString();
     }
     qInstallMessageHandler(previous);
     expected.replace(QLatin1String("PATH"), QCoreApplication::applicationDirPath());

@@ -4,7 +4,7 @@
 #include "distincttheme.h"
 #include "specimenpicture.h"
 
-#include <gallery/messagelog.h>
+#include <gallery/messagelist.h>
 #include <gallery/picturediff.h>
 
 #include <QPainter>
@@ -69,7 +69,7 @@ private Q_SLOTS:
     void comparison();
 
 private:
-    MessageLog m_log; // swallows what the platform says of every window shown
+    MessageList m_log; // swallows what the platform says of every window shown
     DistinctTheme m_files;
 };
 

@@ -259,9 +259,9 @@ void tst_LiveReload::imageGoneAndBack()
     QSignalSpy reloaded(m_window.get(), &GalleryWindow::reloaded);
     QVERIFY(QFile::remove(path));
     QVERIFY(reloaded.wait());
-    QTRY_COMPARE(m_window->messageLog().rowCount(), 1);
+    QTRY_COMPARE(m_window->messages().rowCount(), 1);
     m_files->writeImage(QStringLiteral("close"), QColor(0x123456));
-    QTRY_COMPARE(m_window->messageLog().rowCount(), 0);
+    QTRY_COMPARE(m_window->messages().rowCount(), 0);
 }
 
 void tst_LiveReload::templates()

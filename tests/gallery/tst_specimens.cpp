@@ -4,7 +4,7 @@
 #include "distincttheme.h"
 #include "specimenpicture.h"
 
-#include <gallery/messagelog.h>
+#include <gallery/messagelist.h>
 
 #include <QtTest>
 
@@ -69,7 +69,7 @@ private:
     bool changes(int rule, const QString &body, const QImage &whole) const;
     const EngineNote *noteOf(const QString &selector) const;
 
-    MessageLog m_log; // swallows what the platform says of every window shown
+    MessageList m_log; // swallows what the platform says of every window shown
     DistinctTheme m_files;
     QVector<Rule> m_rules;
     QVector<EngineNote> m_notes = engineNotes();

@@ -4,7 +4,7 @@
 #include "distincttheme.h"
 #include "specimenpicture.h"
 
-#include <gallery/messagelog.h>
+#include <gallery/messagelist.h>
 
 #include <QtTest>
 
@@ -27,7 +27,7 @@ private Q_SLOTS:
 private:
     QImage picture(const QString &selector) const;
 
-    MessageLog m_log; // swallows what the platform says of every window shown
+    MessageList m_log; // swallows what the platform says of every window shown
     DistinctTheme m_files;
 };
 

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
-#ifndef GALLERY_MESSAGELOG_H
-#define GALLERY_MESSAGELOG_H
+#ifndef GALLERY_MESSAGELIST_H
+#define GALLERY_MESSAGELIST_H
+
+#include <analysis/messagelog.h>
 
 #include <QAbstractListModel>
 #include <QVector>
@@ -14,10 +16,10 @@ namespace Gallery
 /*!
  * \brief The messages of the program since the last clear(), each once, as a list model.
  *
- * While it lives it is Qt's message handler and passes each message on to the one before, so that
- * stderr shows them too. One at a time; messages may come from any thread and arrive queued.
+ * Whoever heard the messages before hears them still, so stderr shows them too. Messages may come
+ * from any thread and arrive queued.
  */
-class MessageLog final : public QAbstractListModel
+class MessageList final : public QAbstractListModel
 {
     Q_OBJECT
 
@@ -35,8 +37,8 @@ public:
         }
     };
 
-    explicit MessageLog(QObject *parent = nullptr);
-    ~MessageLog() override;
+    explicit MessageList(QObject *parent = nullptr);
+    ~MessageList() override;
 
     /*! \brief Forgets the messages so far, those on their way included. */
     void clear();
@@ -51,13 +53,12 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    static void handleMessage(QtMsgType severity, const QMessageLogContext &context,
-                              const QString &text);
     void append(int generation, Message message);
 
     PlaceFinder m_findPlaces;
     QVector<Message> m_messages;
     int m_generation = 0;
+    ::MessageLog m_log;
 };
 
 } // namespace Gallery

@@ -1,21 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
-#include "messagelog.h"
+#include "messagelist.h"
 
 #include <format/printabletext.h>
 
 #include <QGuiApplication>
-
-#include <atomic>
 
 namespace Gallery
 {
 
 namespace
 {
-
-std::atomic<MessageLog *> currentLog{nullptr};
-QtMessageHandler previousHandler = nullptr;
 
 QString severityName(QtMsgType severity)
 {
@@ -42,21 +37,27 @@ bool isPlatformRemark(const QString &text)
 
 } // namespace
 
-MessageLog::MessageLog(QObject *parent)
+// Messages come in the middle of painting and polishing, where a model must not change under its
+// view; hence queued.
+MessageList::MessageList(QObject *parent)
     : QAbstractListModel(parent)
+    , m_log([this](const LoggedMessage &message) {
+        if (isPlatformRemark(message.text))
+            return false;
+        QMetaObject::invokeMethod(
+            this,
+            [this, generation = m_generation, heard = Message{message.type, message.text}] {
+                append(generation, heard);
+            },
+            Qt::QueuedConnection);
+        return true;
+    })
 {
-    Q_ASSERT(currentLog == nullptr);
-    currentLog = this;
-    previousHandler = qInstallMessageHandler(handleMessage);
 }
 
-MessageLog::~MessageLog()
-{
-    currentLog = nullptr;
-    qInstallMessageHandler(previousHandler);
-}
+MessageList::~MessageList() = default;
 
-void MessageLog::clear()
+void MessageList::clear()
 {
     beginResetModel();
     ++m_generation;
@@ -64,12 +65,12 @@ void MessageLog::clear()
     endResetModel();
 }
 
-int MessageLog::rowCount(const QModelIndex &parent) const
+int MessageList::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_messages.size();
 }
 
-QVariant MessageLog::data(const QModelIndex &index, int role) const
+QVariant MessageList::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
@@ -77,26 +78,7 @@ QVariant MessageLog::data(const QModelIndex &index, int role) const
     return QString(severityName(message.severity) + QLatin1String(": ") + printable(message.text));
 }
 
-// Messages come in the middle of painting and polishing, where a model must not change under its
-// view; hence queued.
-void MessageLog::handleMessage(QtMsgType severity, const QMessageLogContext &context,
-                               const QString &text)
-{
-    if (isPlatformRemark(text))
-        return;
-    if (MessageLog *log = currentLog) {
-        QMetaObject::invokeMethod(
-            log,
-            [log, generation = log->m_generation, message = Message{severity, text}] {
-                log->append(generation, message);
-            },
-            Qt::QueuedConnection);
-    }
-    if (previousHandler != nullptr)
-        previousHandler(severity, context, text);
-}
-
-void MessageLog::append(int generation, Message message)
+void MessageList::append(int generation, Message message)
 {
     const QString places = m_findPlaces ? m_findPlaces(message.text) : QString();
     if (!places.isEmpty() && !message.text.contains(places))
