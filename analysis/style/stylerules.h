@@ -22,7 +22,7 @@ struct StyleRule {
     QString selector; //!< without comments, blanks simplified; with commas if there are several
     int start = 0; //!< of the selector
     int end = 0; //!< behind the closing brace
-    QVector<StyleSelector> selectors; //!< each by itself; Qt refuses the rule if one is not valid
+    QVector<StyleSelector> selectors; //!< each by itself, those that are not valid too
     QVector<StyleDeclaration> declarations;
 
     /*! \brief Returns the declaration that \a offset lies in, or null. */

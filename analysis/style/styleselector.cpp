@@ -70,8 +70,14 @@ private:
         return m_text.mid(start, m_at - start);
     }
 
-    // As class names, attributes and pseudos begin: not with a digit.
-    QString readIdentifier() { return current().isDigit() ? QString() : readName(); }
+    // As classes, attributes and pseudos are called: not beginning with a digit, nor "-" and a digit.
+    QString readIdentifier()
+    {
+        const int first = m_at + (current() == u'-' ? 1 : 0);
+        const bool isName = first < m_text.size() && isNameCharacter(m_text.at(first))
+            && !m_text.at(first).isDigit() && m_text.at(first) != u'-';
+        return isName ? readName() : QString();
+    }
 
     bool readCombinator(StyleSelector::Combinator *combinator)
     {
@@ -172,7 +178,7 @@ private:
             return !value->isEmpty();
         }
         const int start = m_at;
-        while (m_at < m_text.size() && m_text.at(m_at) != quote)
+        while (m_at < m_text.size() && m_text.at(m_at) != quote && m_text.at(m_at) != u'\n')
             ++m_at;
         *value = m_text.mid(start, m_at - start);
         return take(quote.unicode());

@@ -63,7 +63,11 @@ struct StyleSelector {
     int offset = 0;
     QVector<Step> steps; //!< the last one is the widget that the rule styles
 
-    /*! \brief Tells whether it could be taken apart; else there are no steps. */
+    /*!
+     * \brief Tells whether it could be taken apart; else there are no steps.
+     *
+     * What Qt refuses is not valid, and neither is `QLabel >`, which Qt reads and never matches.
+     */
     bool isValid() const { return !steps.isEmpty(); }
 
     const Step &subject() const { return steps.constLast(); }

@@ -78,12 +78,14 @@ void tst_StyleSelector::parsed_data()
     QTest::newRow("condition-apart")    << "QLabel [a=b]"                   << "QLabel *[a=b]||";
     QTest::newRow("empty")              << " "                              << "";
     QTest::newRow("digit")              << "1a"                             << "";
+    QTest::newRow("dash-and-digit")     << "-8"                             << "";
     QTest::newRow("star-behind")        << "QLabel*"                        << "";
     QTest::newRow("blank-behind-colon") << "QLabel: hover"                  << "";
     QTest::newRow("three-colons")       << "QLabel:::hover"                 << "";
     QTest::newRow("number-unquoted")    << "[a=5]"                          << "";
     QTest::newRow("bracket-open")       << "QLabel[a"                       << "";
     QTest::newRow("quote-open")         << "QLabel[a=\"b]"                  << "";
+    QTest::newRow("quote-over-lines")   << "QLabel[a=\"b\n\"]"               << "";
     QTest::newRow("nothing-joined")     << "QLabel >"                       << "";
     QTest::newRow("other-character")    << "QLabel % QFrame"                << "";
     // clang-format on
