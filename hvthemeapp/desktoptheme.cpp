@@ -3,7 +3,10 @@
 
 #include "desktoptheme.h"
 
+#include <QColor>
 #include <QSettings>
+
+#include <optional>
 
 namespace HV
 {
@@ -11,23 +14,65 @@ namespace HV
 namespace
 {
 
-// Flags are numbers, as the core reads them: what is none is 0.
-bool flag(const QString &folder, const QString &name, const QString &key, bool otherwise)
+/*! The two files of a theme, read without a theme's messages. */
+class ThemeFiles
 {
-    for (const QString &base : {name, QStringLiteral("default")}) {
-        const QSettings file(folder + QLatin1Char('/') + base + QLatin1String(".theme"),
-                             QSettings::IniFormat);
-        const QVariant value = file.value(QLatin1String("Flags/") + key);
-        if (value.isValid())
-            return value.toInt() != 0;
+public:
+    ThemeFiles(const QString &folder, const QString &name)
+        : m_default(folder + QLatin1String("/default.theme"), QSettings::IniFormat)
+        , m_own(folder + QLatin1Char('/') + name + QLatin1String(".theme"), QSettings::IniFormat)
+        , m_name(name)
+    {
     }
-    return otherwise;
-}
 
-bool names(const QString &name, const char *word)
-{
-    return name.contains(QLatin1String(word), Qt::CaseInsensitive);
-}
+    bool isDark() const
+    {
+        if (const std::optional<bool> isSet = flag(QStringLiteral("DarkSurfaces")))
+            return *isSet;
+        const QColor ground = color(QStringLiteral("BackgroundColor_3"));
+        return ground.isValid() ? qGray(ground.rgb()) < 128 : !isNamed("light");
+    }
+
+    bool isOfHighContrast() const
+    {
+        return flag(QStringLiteral("HighContrast")).value_or(isNamed("contrast"));
+    }
+
+private:
+    // Numbers, as the core reads them: what is none is 0. The theme's replaces the default one.
+    std::optional<bool> flag(const QString &key) const
+    {
+        for (const QSettings *file : {&m_own, &m_default}) {
+            const QVariant value = file->value(QLatin1String("Flags/") + key);
+            if (value.isValid())
+                return value.toInt() != 0;
+        }
+        return {};
+    }
+
+    // The default file's goes before the theme's: a theme only adds colours.
+    QString text(const QString &key) const
+    {
+        return m_default.value(key, m_own.value(key)).toString();
+    }
+
+    QColor color(const QString &key) const
+    {
+        const QString named = text(QLatin1String("Colors/") + key);
+        const QString mixed = text(QLatin1String("Palettes/") + named);
+        const QString digits = mixed.isEmpty() ? named : mixed;
+        return QColor(digits.startsWith(QLatin1Char('#')) ? digits : QLatin1Char('#') + digits);
+    }
+
+    bool isNamed(const char *word) const
+    {
+        return m_name.contains(QLatin1String(word), Qt::CaseInsensitive);
+    }
+
+    QSettings m_default;
+    QSettings m_own;
+    QString m_name;
+};
 
 } // namespace
 
@@ -39,10 +84,9 @@ QString themeForDesktop(const QString &folder, const QStringList &themes,
     QString best;
     int bestRank = -1;
     for (const QString &name : themes) {
-        const bool isDark =
-            flag(folder, name, QStringLiteral("DarkSurfaces"), !names(name, "light"));
-        const bool isContrast =
-            flag(folder, name, QStringLiteral("HighContrast"), names(name, "contrast"));
+        const ThemeFiles files(folder, name);
+        const bool isDark = files.isDark();
+        const bool isContrast = files.isOfHighContrast();
         const bool isUsual = name == QLatin1String("dark") || name == QLatin1String("light")
             || name == QLatin1String("contrast");
         const int rank = (isContrast == wantsContrast ? 4 : 0) + (isDark == wantsDark ? 2 : 0)

@@ -14,8 +14,8 @@ namespace HV
 /*!
  * \brief Returns the one of the themes \a names in \a folder that fits the desktop best.
  *
- * What a theme is, its file says (flags `DarkSurfaces` and `HighContrast`), else `default.theme`, else
- * its name. A theme of the contrast that is asked for goes before one that is only as dark or light; of
+ * What a theme is, the flags `DarkSurfaces` and `HighContrast` of its file say, else those of
+ * `default.theme`, else its ground, `BackgroundColor_3`, and its name. A theme of the contrast that is asked for goes before one that is only as dark or light; of
  * equals "dark", "light" and "contrast" come first, then the first. Null if there are no names.
  */
 QString themeForDesktop(const QString &folder, const QStringList &names,

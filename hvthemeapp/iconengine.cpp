@@ -206,8 +206,11 @@ QSize IconEngine::fittedSize(const Picture &picture, const QSize &size) const
     if (!picture.pixmap.isNull()) {
         own = picture.pixmap.size();
     } else if (isDrawing(picture.path)) {
-        // Sizes do not change with the theme, but asking for one parses the drawing.
+        // Asking for a size parses the drawing. A file may have changed since the last look.
         static QHash<QString, QSize> sizes;
+        static int generation = -1;
+        if (std::exchange(generation, IconColors::generation()) != generation)
+            sizes.clear();
         auto it = sizes.find(picture.path);
         if (it == sizes.end())
             it = sizes.insert(picture.path, drawingSize(picture.path));

@@ -20,6 +20,8 @@ namespace
 
 const int maximumBytes = 1 << 20;
 const int maximumDepth = 100;
+// Elements, times what is applied to each of them at worst. An icon has some dozens of the one.
+const qint64 maximumWork = 200000;
 const int maximumRemarks = 3;
 const int maximumPicturePixels = 1 << 20;
 const QLatin1String svgNamespace("http://www.w3.org/2000/svg");
@@ -98,7 +100,7 @@ private:
     void characters();
     void attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttributes &attributes);
     bool isSelfContained(const QString &name, const QXmlStreamAttributes &attributes);
-    void checkUses();
+    void checkWork();
     QString tinted(const QString &text);
     QColor color(const QString &key);
     void remark(const QString &sentence);
@@ -111,6 +113,8 @@ private:
     QStringList m_open; // identifiers of the elements around; null for those without
     QSet<QString> m_withUse; // identifiers of elements with a `use` inside
     QStringList m_used;
+    qint64 m_elements = 0;
+    qint64 m_rules = 0; // of style sheets inside
     QString m_text; // the element that began last, whose text follows
 };
 
@@ -134,7 +138,7 @@ TintedSvg Tinter::run()
     }
     if (m_in.hasError())
         refuse(QStringLiteral("line %1: %2").arg(m_in.lineNumber()).arg(m_in.errorString()));
-    checkUses();
+    checkWork();
     if (!m_result.error.isNull())
         m_result.text.clear();
     return m_result;
@@ -156,6 +160,7 @@ void Tinter::startElement()
     const QXmlStreamAttributes given = m_in.attributes();
     if (!isSelfContained(name, given))
         return m_in.skipCurrentElement();
+    ++m_elements;
     QXmlStreamAttributes attributes;
     m_out.writeStartElement(name);
     if (m_open.isEmpty()) {
@@ -182,6 +187,7 @@ void Tinter::characters()
     QString text = m_in.text().toString();
     if (m_text == QLatin1String("style")) {
         text = tinted(text);
+        m_rules += text.count(QLatin1Char('{'));
         if (text.contains(QLatin1String("@import"), Qt::CaseInsensitive)) {
             remark(QStringLiteral("line %1: @import is left out").arg(m_in.lineNumber()));
             return;
@@ -248,13 +254,15 @@ bool Tinter::isSelfContained(const QString &name, const QXmlStreamAttributes &at
 }
 
 // A `use` of what holds a `use` multiplies: ten levels of ten are ten thousand million shapes.
-void Tinter::checkUses()
+void Tinter::checkWork()
 {
     m_withUse.remove(QString());
     for (const QString &id : qAsConst(m_used)) {
         if (m_withUse.contains(id))
             return refuse(QStringLiteral("a \"use\" repeats \"%1\", which holds another").arg(id));
     }
+    if (m_elements * (1 + m_used.size() + m_rules) > maximumWork)
+        refuse(QStringLiteral("it has too many elements, uses and style rules to be an icon"));
 }
 
 QString Tinter::tinted(const QString &text)

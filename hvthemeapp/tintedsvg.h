@@ -29,8 +29,8 @@ struct TintedSvg {
  * a translucent one multiplies the opacity that stands beside it. `currentColor` is the colour of the
  * strokes. Only elements that draw are kept. What a document asks for from outside, scripts, animations
  * and embedded pictures other than PNG and JPEG of modest size are left out. Documents that do not
- * parse, are larger than 1 MiB, nest deeper than 100 elements, or in which a `use` repeats a `use`
- * cannot be used.
+ * parse, are larger than 1 MiB, nest deeper than 100 elements, in which a `use` repeats a `use`, or with
+ * so many elements, uses and style rules that they would take long, cannot be used.
  */
 TintedSvg tintedSvg(const QByteArray &source, QIcon::Mode mode);
 

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void init();
     void fittingTheme_data();
     void fittingTheme();
+    void ownFolder_data();
+    void ownFolder();
     void changeRestylesInTime();
     void ownChoiceEndsIt();
     void choiceWhileFollowing();
@@ -71,6 +73,45 @@ void tst_FollowDesktop::fittingTheme()
     QVERIFY(theme.followDesktop());
     QVERIFY(theme.followsDesktop());
     QCOMPARE(theme.name(), QString("light")); // as the palette, until the portal answers
+    QFETCH(QString, name);
+    QTRY_COMPARE(theme.name(), name);
+}
+
+void tst_FollowDesktop::ownFolder_data()
+{
+    QTest::addColumn<uint>("scheme");
+    QTest::addColumn<uint>("contrast");
+    QTest::addColumn<QString>("name");
+
+    QTest::newRow("dark-by-flag") << 1U << 0U << "berlin";
+    QTest::newRow("light-by-ground") << 2U << 0U << "cairo";
+    QTest::newRow("dark-contrast-by-name") << 1U << 1U << "contrasty";
+    QTest::newRow("light-contrast-by-flag") << 2U << 1U << "athens";
+}
+
+// Four themes with names of their own. They lack most of what a theme has, which is another matter.
+void tst_FollowDesktop::ownFolder()
+{
+    QFETCH(uint, scheme);
+    QFETCH(uint, contrast);
+    const auto builtIn = [](const char *name) {
+        QFile file(QString(":/hvthemeapp/themes/%1.theme").arg(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const auto withoutFlags = [](QByteArray text) {
+        return text.left(text.indexOf("\n[Flags]") + 1);
+    };
+    const QByteArray light = withoutFlags(builtIn("light"));
+    const TemporaryFolder themes;
+    themes.write("default.theme", builtIn("default"));
+    themes.write("athens.theme", light + "[Flags]\nHighContrast=1\n");
+    themes.write("berlin.theme", builtIn("dark"));
+    themes.write("cairo.theme", light);
+    themes.write("contrasty.theme", withoutFlags(builtIn("contrast")));
+    const StandInPortal stand({{"color-scheme", scheme}, {"contrast", contrast}});
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(themes.path()));
+    QVERIFY2(theme.followDesktop(), qPrintable(theme.problem()));
     QFETCH(QString, name);
     QTRY_COMPARE(theme.name(), name);
 }

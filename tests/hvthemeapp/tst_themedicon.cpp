@@ -109,6 +109,8 @@ private Q_SLOTS:
     void unusableDrawing_data();
     void unusableDrawing();
     void repeatedUseTakesNoTime();
+    void tooMuchWork_data();
+    void tooMuchWork();
     void hugeDeclaredSize();
     void byPath();
     void styleSheet_data();
@@ -484,6 +486,30 @@ void tst_ThemedIcon::unusableDrawing()
     QCOMPARE(pixmap.size(), QSize(20, 20));
     QVERIFY(!isEmpty(pixmap)); // the dashed square
     QVERIFY(!isEmpty(themedIcon(path).pixmap(40, 40)));
+}
+
+void tst_ThemedIcon::tooMuchWork_data()
+{
+    QTest::addColumn<QByteArray>("text");
+
+    const QByteArray shape = "<rect class=\"a\" width=\"20\" height=\"20\"/>";
+    QTest::newRow("uses") << "<g id=\"a\">" + shape.repeated(1000) + "</g>"
+            + QByteArray("<use xlink:href=\"#a\"/>").repeated(10000);
+    QTest::newRow("rules") << "<style>" + QByteArray(".a{fill:red}").repeated(30000) + "</style>"
+            + shape.repeated(5000);
+}
+
+// Each within a megabyte, and each for Qt a matter of half a minute.
+void tst_ThemedIcon::tooMuchWork()
+{
+    QFETCH(QByteArray, text);
+    const QString path =
+        m_folder.write(QString("work-%1.svg").arg(QTest::currentDataTag()), svg(text));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("it has too many elements"));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!isEmpty(themedIcon(path).pixmap(20, 20)));
+    QVERIFY(timer.elapsed() < 2000);
 }
 
 // Qt itself follows it: ten shapes in ten levels.
