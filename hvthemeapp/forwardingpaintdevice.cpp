@@ -5,6 +5,8 @@
 
 #include <QPainterPath>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -138,7 +140,7 @@ void ForwardingPaintEngine::updateClip(const QPaintEngineState &painting)
 // A shape ends the texts whose lines may follow.
 bool ForwardingPaintEngine::isOpenForShapes()
 {
-    m_changedColors.clear();
+    m_underlined.clear();
     return m_isOpen;
 }
 
@@ -159,17 +161,14 @@ void ForwardingPaintEngine::forwardLines(const Line *lines, int count)
 {
     if (!m_isOpen)
         return;
-    const QPen pen = m_target->pen();
-    const auto changed = m_changedColors.constFind(pen.color().rgba());
-    if (changed == m_changedColors.cend()) {
-        m_target->drawLines(lines, count);
+    const auto isDrawn = [this](const QPointF &from, const QPointF &to) {
+        return std::any_of(m_underlined.cbegin(), m_underlined.cend(), [=](const QRectF &text) {
+            return text.contains(from) && text.contains(to);
+        });
+    };
+    if (count == 1 && lines->y1() == lines->y2() && isDrawn(lines->p1(), lines->p2()))
         return;
-    }
-    QPen decoration = pen;
-    decoration.setColor(*changed);
-    m_target->setPen(decoration);
     m_target->drawLines(lines, count);
-    m_target->setPen(pen);
 }
 
 void ForwardingPaintEngine::drawLines(const QLineF *lines, int count)
@@ -250,18 +249,16 @@ void ForwardingPaintEngine::drawTextItem(const QPointF &position, const QTextIte
     if (!m_isOpen)
         return;
     const QPen pen = m_target->pen();
+    const QRectF extent = extentOf(*m_target, position, item);
     QPen seen = pen;
     if (pen.brush().style() == Qt::SolidPattern)
-        seen.setColor(
-            m_colors->textColor(*m_target, extentOf(*m_target, position, item), pen.color()));
-    if (seen == pen) {
-        m_target->drawTextItem(position, item);
-        return;
-    }
+        seen.setColor(m_colors->textColor(*m_target, extent, pen.color()));
     m_target->setPen(seen);
     m_target->drawTextItem(position, item);
     m_target->setPen(pen);
-    m_changedColors.insert(pen.color().rgba(), seen.color());
+    const auto lines = QTextItem::Underline | QTextItem::Overline | QTextItem::StrikeOut;
+    if (item.renderFlags() & lines)
+        m_underlined << extent.adjusted(-1, -1, 1, item.descent() + 1);
 }
 
 ForwardingPaintDevice::ForwardingPaintDevice(QPainter *target, TextColors *colors)

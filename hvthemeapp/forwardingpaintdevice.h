@@ -4,10 +4,10 @@
 #ifndef HVTHEMEAPP_FORWARDINGPAINTDEVICE_H
 #define HVTHEMEAPP_FORWARDINGPAINTDEVICE_H
 
-#include <QHash>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QVector>
 
 /*! \brief Chooses the colour that a text is painted in. */
 class TextColors
@@ -69,9 +69,9 @@ private:
     QPainter *m_target;
     TextColors *m_colors;
     QTransform m_toTarget; // undoes the scale of the screen, which the target applies itself
-    // From the colours of the last texts to what they were changed to. The lines below texts come
-    // after those of a whole line of text.
-    QHash<QRgb, QColor> m_changedColors;
+    // Of the underlined texts since the last shape: what they and their lines cover. The target has
+    // drawn those lines, and they come once more behind a whole line of text.
+    QVector<QRectF> m_underlined;
     bool m_isOpen = true;
 };
 

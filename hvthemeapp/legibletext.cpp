@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QImage>
-#include <QPaintEvent>
 #include <QPixmap>
 #include <QWidget>
 
@@ -23,19 +22,6 @@ namespace
 const double normalRatio = 4.5;
 const double highRatio = 7;
 const double disabledRatio = 3;
-
-// Classes that do not paint with a painter, or whose paint goes by ways of its own.
-const char *const leftAlone[] = {"QOpenGLWidget",  "QGLWidget",    "QQuickWidget",
-                                 "QWebEngineView", "QVideoWidget", "QAxWidget"};
-
-bool isPaintedByPainter(const QWidget *widget)
-{
-    if (widget->testAttribute(Qt::WA_PaintOnScreen) || widget->graphicsEffect()
-        || !widget->testAttribute(Qt::WA_WState_InPaintEvent))
-        return false;
-    return std::none_of(std::begin(leftAlone), std::end(leftAlone),
-                        [=](const char *name) { return widget->inherits(name); });
-}
 
 // The picture that a painter paints into; nothing if it is none, as for a printer. A copy of a picture
 // that is painted into is a deep one, and one for each text would be too many.
@@ -121,11 +107,11 @@ std::optional<QColor> groundBelow(const QPainter &painter, const QRectF &rect)
     return commonColor(pixels);
 }
 
-bool isDisabledColor(const QWidget *widget, const QColor &color)
+bool isDisabledColor(const QWidget &widget, const QColor &color)
 {
-    if (!widget->isEnabled())
+    if (!widget.isEnabled())
         return true;
-    for (const QPalette &palette : {widget->palette(), QApplication::palette()}) {
+    for (const QPalette &palette : {widget.palette(), QApplication::palette()}) {
         for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
             if (palette.color(QPalette::Disabled, role) == color
                 && palette.color(QPalette::Active, role) != color)
@@ -136,11 +122,11 @@ bool isDisabledColor(const QWidget *widget, const QColor &color)
 }
 
 // Disabled text of these classes is etched: a light copy of it lies below, a pixel aside.
-bool isEtched(const QWidget *widget, const QColor &color)
+bool isEtched(const QWidget &widget, const QColor &color)
 {
-    const bool mayBe = !widget->isEnabled() || widget->inherits("QMenu")
-        || widget->inherits("QMenuBar") || widget->inherits("QTabBar");
-    return mayBe && color == widget->palette().color(QPalette::Light);
+    const bool mayBe = !widget.isEnabled() || widget.inherits("QMenu")
+        || widget.inherits("QMenuBar") || widget.inherits("QTabBar");
+    return mayBe && color == widget.palette().color(QPalette::Light);
 }
 
 /*
@@ -160,11 +146,10 @@ double targetRatio(const QColor &color, const QColor &ground, double least)
 
 } // namespace
 
-LegibleText::LegibleText(QObject *parent)
-    : QObject(parent)
-    , m_ratio(normalRatio)
+LegibleText::LegibleText()
+    : m_ratio(normalRatio)
+    , m_forwarding(this)
 {
-    qApp->installEventFilter(this);
 }
 
 void LegibleText::setIsHighContrast(bool isHigh)
@@ -173,49 +158,18 @@ void LegibleText::setIsHighContrast(bool isHigh)
     m_lifted.clear();
 }
 
-bool LegibleText::eventFilter(QObject *object, QEvent *event)
-{
-    if (event->type() != QEvent::Paint || !object->isWidgetType())
-        return false;
-    auto *widget = static_cast<QWidget *>(object);
-    if (widget == m_widget) { // its own paint, which was asked for below
-        m_engine->setOpen(true);
-        return false;
-    }
-    return isPaintedByPainter(widget) && paint(widget, static_cast<QPaintEvent *>(event)->region());
-}
-
-bool LegibleText::paint(QWidget *widget, const QRegion &region)
-{
-    QPainter target(widget);
-    if (!target.isActive() || target.paintEngine()->type() != QPaintEngine::Raster)
-        return false;
-    ForwardingPaintDevice device(&target, this);
-    // Backgrounds are painted already, and those that are translucent must not be so twice.
-    device.engine()->setOpen(false);
-
-    QWidget *const outerWidget = std::exchange(m_widget, widget);
-    ForwardingPaintEngine *const outerEngine = std::exchange(m_engine, device.engine());
-    widget->setAttribute(Qt::WA_WState_InPaintEvent, false);
-    widget->render(&device, region.boundingRect().topLeft(), region, {});
-    widget->setAttribute(Qt::WA_WState_InPaintEvent);
-    m_engine = outerEngine;
-    m_widget = outerWidget;
-    return true;
-}
-
 QColor LegibleText::textColor(const QPainter &painter, const QRectF &rect, const QColor &color)
 {
     const int faint = 40; // meant to be a trace at most, or fading
     if (color.alpha() < faint || painter.opacity() < 1
         || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
         return color;
-    if (isEtched(m_widget, color))
+    if (isEtched(*m_forwarding.widget(), color))
         return color;
     const std::optional<QColor> ground = groundBelow(painter, rect);
     if (!ground)
         return color;
-    const bool isDisabled = isDisabledColor(m_widget, color);
+    const bool isDisabled = isDisabledColor(*m_forwarding.widget(), color);
     const double ratio = isDisabled ? disabledRatio : m_ratio;
     if (ColorMath::contrastRatio(color, *ground) >= ratio)
         return color;

@@ -4,12 +4,9 @@
 #ifndef HVTHEMEAPP_LEGIBLETEXT_H
 #define HVTHEMEAPP_LEGIBLETEXT_H
 
-#include <hvthemeapp/forwardingpaintdevice.h>
+#include <hvthemeapp/paintforwarding.h>
 
 #include <QHash>
-#include <QObject>
-
-class QWidget;
 
 /*!
  * \brief While it lives, text that does not stand out from its ground is painted lighter or darker.
@@ -26,21 +23,17 @@ class LegibleText : public QObject, private TextColors
 {
 public:
     /*! \brief Needs a QApplication and is used by its thread. */
-    explicit LegibleText(QObject *parent = nullptr);
+    LegibleText();
 
     /*! \brief Sets the contrast to reach: 7 (WCAG 2.1) if it is to be high, 4.5 if not, as at first.
      *         Disabled text reaches 3. */
     void setIsHighContrast(bool isHigh);
 
-    bool eventFilter(QObject *object, QEvent *event) override;
-
 private:
     QColor textColor(const QPainter &painter, const QRectF &rect, const QColor &color) override;
-    bool paint(QWidget *widget, const QRegion &region);
 
     double m_ratio;
-    QWidget *m_widget = nullptr; // that is being painted,
-    ForwardingPaintEngine *m_engine = nullptr; // with this engine
+    PaintForwarding m_forwarding;
     QHash<quint64, QColor> m_lifted; // by colour and ground
 };
 

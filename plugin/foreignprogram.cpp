@@ -23,6 +23,10 @@ ForeignProgram::ForeignProgram(const Options &options)
         m_palette = QApplication::palette();
         m_styleSheet = qApp->styleSheet();
     });
+    // What lies beside a program of others under the name of a folder of themes is none.
+    const QString builtIn = QStringLiteral(":/hvthemeapp/themes");
+    if (!setFolder(options.folder.isEmpty() ? builtIn : options.folder))
+        return; // it has said why
     if (options.theme.isEmpty())
         followDesktop();
     else
