@@ -29,7 +29,7 @@ namespace
 {
 
 // Qt decodes an image whole, however small it is drawn; these are 128 MB.
-constexpr qint64 pixelLimit = 32 * 1024 * 1024;
+constexpr qint64 pixelLimit = qint64(32) * 1024 * 1024;
 
 const QString defaultName = QStringLiteral("default");
 

@@ -15,7 +15,7 @@ namespace
 constexpr qint64 sizeLimit = 4 * 1024 * 1024;
 
 // Of four bytes each: 128 MB. Most formats are decoded whole even to be drawn small.
-constexpr qint64 pixelLimit = 32 * 1024 * 1024;
+constexpr qint64 pixelLimit = qint64(32) * 1024 * 1024;
 
 // Vector images have any size.
 bool isTooLarge(const QImageReader &reader)
