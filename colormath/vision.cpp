@@ -10,9 +10,9 @@
 namespace
 {
 
-using ColorMath::Vision;
-using Matrix = std::array<std::array<double, 3>, 3>;
+using Matrix = ColorMath::ColorMatrix;
 
+constexpr Matrix normal = {{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
 constexpr Matrix protan = {{{0.152286, 1.052583, -0.204868},
                             {0.114503, 0.786281, 0.099216},
                             {-0.003882, -0.048116, 1.051998}}};
@@ -22,18 +22,6 @@ constexpr Matrix deutan = {{{0.367322, 0.860646, -0.227968},
 constexpr Matrix tritan = {{{1.255528, -0.076749, -0.178779},
                             {-0.078411, 0.930809, 0.147602},
                             {0.004733, 0.691367, 0.303900}}};
-
-const Matrix &matrixOf(Vision vision)
-{
-    switch (vision) {
-    case Vision::Protan:
-        return protan;
-    case Vision::Deutan:
-        return deutan;
-    default:
-        return tritan;
-    }
-}
 
 std::array<double, 256> decodingTable()
 {
@@ -70,11 +58,34 @@ QRgb seen(const Matrix &matrix, QRgb color)
 namespace ColorMath
 {
 
+QString visionName(Vision vision)
+{
+    static const std::array<const char *, visionCount> names{"normal", "protan", "deutan",
+                                                             "tritan"};
+    return QString::fromLatin1(names[size_t(vision)]);
+}
+
+std::optional<Vision> visionCalled(const QString &name)
+{
+    for (const Vision vision : {Vision::Normal, Vision::Protan, Vision::Deutan, Vision::Tritan}) {
+        if (name == visionName(vision))
+            return vision;
+    }
+    return std::nullopt;
+}
+
+const ColorMatrix &colorMatrix(Vision vision)
+{
+    static const std::array<const ColorMatrix *, visionCount> matrices{&normal, &protan, &deutan,
+                                                                       &tritan};
+    return *matrices[size_t(vision)];
+}
+
 QColor seenBy(Vision vision, const QColor &color)
 {
     if (vision == Vision::Normal)
         return color;
-    return QColor::fromRgba(seen(matrixOf(vision), color.rgba()));
+    return QColor::fromRgba(seen(colorMatrix(vision), color.rgba()));
 }
 
 QImage seenBy(Vision vision, const QImage &image)
@@ -82,7 +93,7 @@ QImage seenBy(Vision vision, const QImage &image)
     if (vision == Vision::Normal)
         return image;
     QImage result = image.convertToFormat(QImage::Format_ARGB32);
-    const Matrix &matrix = matrixOf(vision);
+    const Matrix &matrix = colorMatrix(vision);
     for (int y = 0; y < result.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
         for (int x = 0; x < result.width(); ++x)

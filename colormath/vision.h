@@ -9,6 +9,7 @@
 #include <QColor>
 
 #include <array>
+#include <optional>
 
 class QImage;
 
@@ -22,6 +23,18 @@ enum class Vision {
     Deutan, //!< without those for medium waves: red and green look alike
     Tritan, //!< without those for short waves: blue and green, yellow and violet look alike
 };
+
+/*! \brief Returns "normal", "protan", "deutan" or "tritan". */
+QString visionName(Vision vision);
+
+/*! \brief Returns the vision of that name, or nothing. */
+std::optional<Vision> visionCalled(const QString &name);
+
+/*! \brief A linear map of linear sRGB, row by row. */
+using ColorMatrix = std::array<std::array<double, 3>, 3>;
+
+/*! \brief Returns what seenBy() does to a colour. */
+const ColorMatrix &colorMatrix(Vision vision);
 
 /*!
  * \brief Returns what a person of this \a vision sees, as a colour for everybody else.

@@ -160,6 +160,9 @@ QString SheetModel::note() const
     if (!missing.isEmpty())
         text += QLatin1String("White stands in for the background of ")
             % missing.join(QLatin1String(", ")) % QLatin1String(". ");
+    if (m_vision != ColorMath::Vision::Normal)
+        text += QLatin1String("The sheet is shown as ") % ColorMath::visionName(m_vision)
+            % QLatin1String(" eyes see it; values and ratios are the theme's. ");
     return text
         % QLatin1String("A ratio is the contrast with that background by WCAG 2.1. Colours of text "
                         "are graded: AAA from 7:1, AA from 4.5:1, AA for large text from 3:1.");

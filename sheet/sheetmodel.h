@@ -6,6 +6,7 @@
 
 #include <analysis/theme/storedvalues.h>
 #include <analysis/themeproject.h>
+#include <colormath/vision.h>
 
 #include <QMap>
 #include <QSet>
@@ -66,6 +67,10 @@ public:
     /*! \brief Tells whether any theme has the colour that colours are to be shown on. */
     bool hasGround() const;
 
+    /*! \brief Sets the eyes that the whole sheet is shown as seen by. */
+    void setVision(ColorMath::Vision vision) { m_vision = vision; }
+    ColorMath::Vision vision() const { return m_vision; }
+
     /*! \brief Returns what a reader must know of the colours and their contrast, in sentences. */
     QString note() const;
 
@@ -76,6 +81,7 @@ private:
     void addTheme(const ThemeStack &stack, const QString &applicationFolder,
                   const QString &groundKey);
 
+    ColorMath::Vision m_vision = ColorMath::Vision::Normal;
     QVector<SheetTheme> m_themes;
     QStringList m_keys[kindCount];
     QSet<QString> m_textKeys;

@@ -91,6 +91,8 @@ private:
     void addTable(const Section &section);
     void addIcons();
     QString title() const;
+    QString filterStyle() const;
+    QString filter() const;
     QString colorCell(const SheetTheme &theme, const StoredValue &value) const;
     QString integerCell(const SheetTheme &theme, const StoredValue &value) const;
     QString gradientCell(const SheetTheme &theme, const StoredValue &value) const;
@@ -100,6 +102,31 @@ private:
     QString m_html;
     QString m_links;
 };
+
+// Browsers simulate as the picture does: SVG filters count in linear sRGB.
+QString Page::filter() const
+{
+    if (m_model.vision() == ColorMath::Vision::Normal)
+        return {};
+    QStringList rows;
+    for (const auto &row : ColorMath::colorMatrix(m_model.vision())) {
+        QString text;
+        for (const double factor : row)
+            text += QString::number(factor, 'f', 6) % QLatin1Char(' ');
+        rows << text % QLatin1String("0 0");
+    }
+    rows << QStringLiteral("0 0 0 1 0");
+    return QLatin1String("<svg width=\"0\" height=\"0\" aria-hidden=\"true\"><filter id=\"vision\">"
+                         "<feColorMatrix values=\"")
+        % rows.join(QLatin1String("  ")) % QLatin1String("\"/></filter></svg>\n");
+}
+
+QString Page::filterStyle() const
+{
+    return m_model.vision() == ColorMath::Vision::Normal
+        ? QString()
+        : QStringLiteral("main { filter: url(#vision); }\n");
+}
 
 QString Page::title() const
 {
@@ -119,7 +146,7 @@ void Page::addHead()
                       "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src "
                       "'none'; img-src data:; style-src 'unsafe-inline'\"/>\n<title>")
         % title() % QLatin1String("</title>\n<style>\n") % QString::fromUtf8(style.readAll())
-        % QLatin1String("</style>\n</head>\n<body>\n");
+        % filterStyle() % QLatin1String("</style>\n</head>\n<body>\n") % filter();
 }
 
 void Page::addSections()

@@ -362,6 +362,6 @@ QByteArray sheetPicture(const SheetModel &model, QString *error)
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
+    ColorMath::seenBy(model.vision(), image).save(&buffer, "PNG");
     return content;
 }

@@ -28,6 +28,11 @@ QString backgroundOption()
     return QStringLiteral("background");
 }
 
+QString visionOption()
+{
+    return QStringLiteral("vision");
+}
+
 void addOptions(QCommandLineParser *parser)
 {
     parser->setApplicationDescription(QStringLiteral(
@@ -41,6 +46,10 @@ void addOptions(QCommandLineParser *parser)
     parser->addOption({backgroundOption(),
                        "Colour or palette entry to show colours on (default: BackgroundColor_3).",
                        "key", "BackgroundColor_3"});
+    parser->addOption({visionOption(),
+                       "Eyes to show the sheet as seen by: normal, protan, deutan or tritan "
+                       "(default: normal).",
+                       "vision", "normal"});
     parser->addOption({{QStringLiteral("o"), outputOption()},
                        "File to write: a picture (.png) or a page (.html).",
                        "file"});
@@ -78,6 +87,11 @@ int runSheet(const QStringList &arguments)
     const bool isPage = file.endsWith(QLatin1String(".html"), Qt::CaseInsensitive);
     if (!isPage && !file.endsWith(QLatin1String(".png"), Qt::CaseInsensitive))
         return usageError(name, QStringLiteral("--output must name a .png or .html file"));
+    const auto vision = ColorMath::visionCalled(parser.value(visionOption()));
+    if (!vision)
+        return usageError(name,
+                          QLatin1String("no vision is called \"") % parser.value(visionOption())
+                              % QLatin1String("\"; there are normal, protan, deutan and tritan"));
     const auto input =
         ThemeOptions::readProject(name, parser, {1, std::numeric_limits<int>::max()});
     if (!input)
@@ -86,7 +100,8 @@ int runSheet(const QStringList &arguments)
     QStringList themes = parser.positionalArguments().mid(1);
     themes.removeDuplicates();
     const QString background = parser.value(backgroundOption());
-    const SheetModel model(*input, themes, background);
+    SheetModel model(*input, themes, background);
+    model.setVision(*vision);
     if (parser.isSet(backgroundOption()) && !model.hasGround())
         return usageError(name,
                           QLatin1String("no theme has a colour or palette entry called ")

@@ -17,6 +17,8 @@ private Q_SLOTS:
     void pageIsWellFormed_data();
     void pageIsWellFormed();
     void pageNeedsNothingElse();
+    void vision_data();
+    void vision();
     void pageNamesAllValues();
     void pageEscapesNames();
     void contrastIsGraded_data();
@@ -106,6 +108,39 @@ void tst_Sheet::pageIsWellFormed()
     QVERIFY(links.size() > 3);
     for (const QString &target : links + labels)
         QVERIFY2(anchors.contains(target), qPrintable(target));
+}
+
+void tst_Sheet::vision_data()
+{
+    QTest::addColumn<QString>("vision");
+    QTest::addColumn<QString>("firstFactors"); // of the matrix; empty: no filter
+
+    QTest::newRow("normal") << "normal" << QString();
+    QTest::newRow("protan") << "protan"
+                            << "0.152286 1.052583 -0.204868";
+    QTest::newRow("deutan") << "deutan"
+                            << "0.367322 0.860646 -0.227968";
+    QTest::newRow("tritan") << "tritan"
+                            << "1.255528 -0.076749 -0.178779";
+}
+
+void tst_Sheet::vision()
+{
+    QFETCH(QString, vision);
+    QFETCH(QString, firstFactors);
+    const QString page = sheet(".html", QStringList{"themes", "night", "--vision", vision});
+    QCOMPARE(page.contains("feColorMatrix values=\"" + firstFactors), !firstFactors.isEmpty());
+    QCOMPARE(page.contains("main { filter: url(#vision); }"), !firstFactors.isEmpty());
+    QCOMPARE(page.contains("shown as " + vision + " eyes see it"), !firstFactors.isEmpty());
+
+    const QTemporaryDir folder;
+    const auto picture = [&](const QString &eyes) {
+        const QString file = folder.filePath(eyes + ".png");
+        const CommandRun run({"sheet", "themes", "night", "--vision", eyes, "-o", file});
+        return run.exitCode == 0 ? QImage(file) : QImage();
+    };
+    QVERIFY(!picture(vision).isNull());
+    QCOMPARE(picture(vision) == picture("normal"), firstFactors.isEmpty());
 }
 
 void tst_Sheet::pageNeedsNothingElse()
