@@ -45,7 +45,7 @@ void checkPositions(const TemplateText &templates)
             line = 1;
             column = 1;
         }
-        const TextPosition position = templates.positionAt(i);
+        const TextPosition position = templates.placeAt(i).position;
         require(position.line == line && position.column == column, "another position");
         const bool isLineEnd = text.at(i) == QLatin1Char('\n');
         line += isLineEnd ? 1 : 0;

@@ -136,16 +136,13 @@ private:
     void place(StyleMatch *found) const
     {
         if (m_templates) {
-            found->file = m_templates->fileAt(found->offset).input.path();
-            found->position = m_templates->placeAt(found->offset).position;
+            found->place = m_templates->placeAt(found->offset);
             return;
         }
-        const QString before = m_text.left(found->offset);
-        const int lineStart = before.lastIndexOf(QLatin1Char('\n')) + 1;
-        const int opening = lineStart == 0 ? m_opening.size() : 0;
-        found->position = {before.count(QLatin1Char('\n')) + 1,
-                           found->offset - lineStart - opening + 1};
         found->offset -= m_opening.size();
+        const QString before = m_text.mid(m_opening.size(), found->offset);
+        found->place.position = {int(before.count(QLatin1Char('\n'))) + 1,
+                                 int(before.size() - before.lastIndexOf(QLatin1Char('\n')))};
     }
 
     const std::optional<TemplateText> m_templates;

@@ -6,6 +6,7 @@
 
 #include <analysis/style/styleelement.h>
 #include <analysis/style/templatetext.h>
+#include <format/place.h>
 
 #include <QStringList>
 #include <QVector>
@@ -27,8 +28,7 @@ struct StyleMatch {
     int node = 0; //!< index in the path of the object that matches: not 0 where it is inherited
     bool isOfWidget = false; //!< the element is a sub-control that takes this from its widget
 
-    QString file; //!< of the template; empty in a widget's own style sheet
-    TextPosition position; //!< of the declaration in that file or style sheet
+    Place place; //!< of the declaration; without a file in a widget's own style sheet
     int offset = 0; //!< of the declaration in the whole text
 };
 
@@ -48,7 +48,7 @@ struct StyleProperty {
  * const StyleCascade cascade(templates);
  * const StyleElement element = StyleElement::of(widget, cascade.attributes());
  * for (const StyleProperty &property : cascade.properties(element))
- *     qInfo() << property.name << property.winner().value << property.winner().position.line;
+ *     qInfo() << property.name << property.winner().value << property.winner().place.text();
  * ```
  *
  * The order is Qt's, and not in all things that of the web: a style sheet that is nearer to the

@@ -570,12 +570,8 @@ void tst_StyleCascade::positions()
     const StyleCascade cascade(*templates);
     QStringList lines;
     for (const StyleMatch &match : cascade.matches(StyleElement::of(&label, {})))
-        lines << QString("%1:%2:%3 %4 %5 %6")
-                     .arg(QFileInfo(match.file).fileName())
-                     .arg(match.position.line)
-                     .arg(match.position.column)
-                     .arg(match.selector, match.value)
-                     .arg(match.sheet);
+        lines << QFileInfo(match.place.text()).fileName()
+                + QString(" %1 %2 %3").arg(match.selector, match.value).arg(match.sheet);
     QCOMPARE(lines,
              QStringList({":2:2 * e 0", ":1:1 * d 0", "b.qss:3:5 QLabel global.theme.color.C -1",
                           "a.qss:1:10 QFrame a -1", "b.qss:1:5 * b -1"}));
