@@ -206,15 +206,9 @@ QSize IconEngine::fittedSize(const Picture &picture, const QSize &size) const
     if (!picture.pixmap.isNull()) {
         own = picture.pixmap.size();
     } else if (isDrawing(picture.path)) {
-        // Asking for a size parses the drawing. A file may have changed since the last look.
-        static QHash<QString, QSize> sizes;
-        static int generation = -1;
-        if (std::exchange(generation, IconColors::generation()) != generation)
-            sizes.clear();
-        auto it = sizes.find(picture.path);
-        if (it == sizes.end())
-            it = sizes.insert(picture.path, drawingSize(picture.path));
-        return size.isEmpty() ? QSize() : it->scaled(size, Qt::KeepAspectRatio).expandedTo({1, 1});
+        const QSize declared = drawingSize(picture.path);
+        return size.isEmpty() ? QSize()
+                              : declared.scaled(size, Qt::KeepAspectRatio).expandedTo({1, 1});
     } else if (!picture.path.isEmpty()) {
         own = QImageReader(picture.path).size();
     }

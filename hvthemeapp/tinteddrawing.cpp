@@ -7,11 +7,14 @@
 #include "tintedsvg.h"
 
 #include <QFile>
+#include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPainter>
 #include <QSet>
 #include <QSvgRenderer>
+
+#include <utility>
 
 namespace HV
 {
@@ -106,11 +109,28 @@ bool isDrawing(const QString &path)
         || path.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
 }
 
+// A style sheet asks for the size of each picture at each restyling, and an icon at each painting.
 QSize drawingSize(const QString &path)
 {
+    static QMutex mutex;
+    static QHash<QString, QSize> sizes;
+    static int generation = 0;
+    {
+        const QMutexLocker locker(&mutex);
+        // A file may have changed since the last look.
+        const int current = IconColors::generation();
+        if (std::exchange(generation, current) != current)
+            sizes.clear();
+        const auto it = sizes.constFind(path);
+        if (it != sizes.cend())
+            return *it;
+    }
     QSvgRenderer renderer;
     load(renderer, path, QIcon::Normal);
-    return declaredSize(renderer);
+    const QSize size = declaredSize(renderer);
+    const QMutexLocker locker(&mutex);
+    sizes.insert(path, size);
+    return size;
 }
 
 QImage drawnImage(const QString &path, const QSize &size, QIcon::Mode mode)

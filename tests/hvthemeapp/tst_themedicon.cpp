@@ -112,6 +112,7 @@ private Q_SLOTS:
     void tooMuchWork_data();
     void tooMuchWork();
     void hugeDeclaredSize();
+    void changedFile();
     void byPath();
     void styleSheet_data();
     void styleSheet();
@@ -537,6 +538,20 @@ void tst_ThemedIcon::hugeDeclaredSize()
                        "<rect width=\"20\" height=\"10\" fill=\"red\"/></svg>");
     QCOMPARE(QPixmap(path).size(), QSize(1024, 512));
     QCOMPARE(themedIcon(path).actualSize({20, 20}), QSize(20, 10));
+}
+
+// A designer saves the drawing again; the next restyling shows it.
+void tst_ThemedIcon::changedFile()
+{
+    const QString path = m_folder.write("changing.svg", filled("red"));
+    const QIcon icon = themedIcon(path);
+    COMPARE_COLOR(middle(icon), QColor(Qt::red));
+    m_folder.write(
+        "changing.svg",
+        filled("blue").replace("width=\"20\"", "width=\"40\"").replace("0 0 20 20", "0 0 40 20"));
+    QVERIFY(m_theme.setName("light"));
+    COMPARE_COLOR(middle(icon), QColor(Qt::blue));
+    QCOMPARE(icon.actualSize({40, 40}), QSize(40, 20));
 }
 
 void tst_ThemedIcon::byPath()
