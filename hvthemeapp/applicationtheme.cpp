@@ -8,6 +8,7 @@
 #include "desktoptheme.h"
 #include "iconplugins.h"
 #include "legibletext.h"
+#include "placeholders.h"
 #include "programlook.h"
 #include "templatefolders.h"
 #include "themedstyle.h"
@@ -89,6 +90,7 @@ public:
     TemplateFolders templates;
     bool keepsFonts = false;
     std::unique_ptr<LegibleText> legibleText; // null unless text is lifted
+    std::unique_ptr<Placeholders> placeholders; // while there is a look
     QPalette palette;
     QString problem;
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
@@ -135,6 +137,8 @@ ApplicationTheme::ApplicationTheme(std::unique_ptr<Theme> theme, QObject *parent
     startPalette();
     if (qApp)
         ThemedStyle::install();
+    if (!d->placeholders)
+        d->placeholders = std::make_unique<Placeholders>();
 }
 
 ApplicationTheme::~ApplicationTheme()

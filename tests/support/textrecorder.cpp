@@ -113,36 +113,36 @@ public:
     }
     Type type() const override { return User; }
 
-    void updateState(const QPaintEngineState &state) override
+    void updateState(const QPaintEngineState &now) override
     {
         followSystemClip();
-        const DirtyFlags flags = state.state();
+        const DirtyFlags flags = now.state();
         if (flags & DirtyTransform)
-            m_painter.setTransform(state.transform());
+            m_painter.setTransform(now.transform());
         if (flags & DirtyPen)
-            m_painter.setPen(state.pen());
+            m_painter.setPen(now.pen());
         if (flags & DirtyBrush)
-            m_painter.setBrush(state.brush());
+            m_painter.setBrush(now.brush());
         if (flags & DirtyBrushOrigin)
-            m_painter.setBrushOrigin(state.brushOrigin());
+            m_painter.setBrushOrigin(now.brushOrigin());
         if (flags & DirtyFont)
-            m_painter.setFont(state.font());
+            m_painter.setFont(now.font());
         if (flags & DirtyBackground)
-            m_painter.setBackground(state.backgroundBrush());
+            m_painter.setBackground(now.backgroundBrush());
         if (flags & DirtyBackgroundMode)
-            m_painter.setBackgroundMode(state.backgroundMode());
+            m_painter.setBackgroundMode(now.backgroundMode());
         if (flags & DirtyHints)
-            m_painter.setRenderHints(state.renderHints());
+            m_painter.setRenderHints(now.renderHints());
         if (flags & DirtyCompositionMode)
-            m_painter.setCompositionMode(state.compositionMode());
+            m_painter.setCompositionMode(now.compositionMode());
         if (flags & DirtyOpacity)
-            m_painter.setOpacity(state.opacity());
+            m_painter.setOpacity(now.opacity());
         if (flags & DirtyClipEnabled)
-            m_painter.setClipping(state.isClipEnabled());
+            m_painter.setClipping(now.isClipEnabled());
         if (flags & DirtyClipRegion)
-            m_painter.setClipRegion(state.clipRegion(), state.clipOperation());
+            m_painter.setClipRegion(now.clipRegion(), now.clipOperation());
         if (flags & DirtyClipPath)
-            m_painter.setClipPath(state.clipPath(), state.clipOperation());
+            m_painter.setClipPath(now.clipPath(), now.clipOperation());
     }
 
     void drawRects(const QRectF *rects, int count) override { m_painter.drawRects(rects, count); }

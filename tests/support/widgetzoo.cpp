@@ -748,10 +748,6 @@ QWidget *critical()
                                     | QMessageBox::Help);
     box->setDetailedText("Details of it");
     box->setCheckBox(new QCheckBox("Do not show again"));
-    for (QAbstractButton *button : box->buttons()) {
-        if (box->buttonRole(button) == QMessageBox::ActionRole)
-            button->click();
-    }
     return box;
 }
 
@@ -759,7 +755,11 @@ QWidget *fileDialog(QFileDialog::ViewMode mode)
 {
     auto *dialog = new QFileDialog;
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setDirectory(":/stylesheet");
+    static const QTemporaryDir folder;
+    for (const char *name : {"notes.txt", "picture.png"})
+        QFile(folder.filePath(name)).open(QIODevice::WriteOnly);
+    QDir(folder.path()).mkdir("inner");
+    dialog->setDirectory(folder.path());
     dialog->setViewMode(mode);
     return dialog;
 }
@@ -885,6 +885,15 @@ void open(QWidget *widget)
     }
 }
 
+void showDetails(QMessageBox *box)
+{
+    const auto buttons = box->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (box->buttonRole(button) == QMessageBox::ActionRole)
+            button->click();
+    }
+}
+
 } // namespace
 
 const QVector<Page> &pages()
@@ -948,6 +957,8 @@ void settle(QWidget *window)
         if (widget->property(openProperty).toBool())
             open(widget);
     }
+    if (auto *box = qobject_cast<QMessageBox *>(window))
+        showDetails(box);
     for (int round = 0; round < 3; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);

@@ -1,0 +1,592 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "quietplatform.h"
+#include "textrecorder.h"
+#include "widgetzoo.h"
+
+#include <colormath/contrast.h>
+#include <hvtheme/theme.h>
+#include <hvtheme/theming.h>
+#include <hvthemeapp/applicationtheme.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace
+{
+
+const QStringList looks{"dark", "light", "contrast"};
+
+using Make = QWidget *(*)();
+
+template<typename Widget>
+QWidget *textual()
+{
+    return new Widget("Settings");
+}
+
+template<typename Edit>
+QWidget *filled()
+{
+    auto *edit = new Edit;
+    edit->setMinimumWidth(120);
+    return edit;
+}
+
+template<>
+QWidget *filled<QComboBox>()
+{
+    auto *combo = new QComboBox;
+    combo->addItems({"First", "Second"});
+    return combo;
+}
+
+template<typename View>
+QWidget *viewOfRows()
+{
+    auto *view = new View;
+    auto *model = new QStandardItemModel(4, 1, view);
+    for (int row = 0; row < 4; ++row)
+        model->setItem(row, 0, new QStandardItem("iii"));
+    view->setModel(model);
+    view->setCurrentIndex(model->index(1, 0));
+    return view;
+}
+
+template<Qt::Orientation orientation, typename Range>
+QWidget *range()
+{
+    auto *widget = new Range(orientation);
+    widget->setRange(0, 100);
+    widget->setValue(50);
+    return widget;
+}
+
+QWidget *toolButton()
+{
+    auto *button = new QToolButton;
+    button->setText("Settings");
+    return button;
+}
+
+QWidget *groupBox()
+{
+    auto *box = new QGroupBox("Settings");
+    box->setCheckable(true);
+    (new QVBoxLayout(box))->addWidget(new QLabel("contents"));
+    return box;
+}
+
+QWidget *tabBar()
+{
+    auto *bar = new QTabBar;
+    bar->addTab("One");
+    bar->addTab("Two");
+    return bar;
+}
+
+struct Control {
+    const char *name;
+    Make make;
+};
+
+const Control bordered[] = {{"QPushButton", textual<QPushButton>},
+                            {"QToolButton", toolButton},
+                            {"QLineEdit", filled<QLineEdit>},
+                            {"QTextEdit", filled<QTextEdit>},
+                            {"QPlainTextEdit", filled<QPlainTextEdit>},
+                            {"QComboBox", filled<QComboBox>},
+                            {"QFontComboBox", filled<QFontComboBox>},
+                            {"QSpinBox", filled<QSpinBox>},
+                            {"QDoubleSpinBox", filled<QDoubleSpinBox>},
+                            {"QDateEdit", filled<QDateEdit>},
+                            {"QTimeEdit", filled<QTimeEdit>},
+                            {"QDateTimeEdit", filled<QDateTimeEdit>},
+                            {"QCommandLinkButton", textual<QCommandLinkButton>},
+                            {"QKeySequenceEdit", filled<QKeySequenceEdit>}};
+const Control boxes[] = {{"QCheckBox", textual<QCheckBox>},
+                         {"QRadioButton", textual<QRadioButton>}};
+const Control others[] = {{"QGroupBox", groupBox},
+                          {"QTabBar", tabBar},
+                          {"QSlider", range<Qt::Horizontal, QSlider>},
+                          {"QListView", viewOfRows<QListView>}};
+
+/*! A control in the middle of a window. */
+class Stage
+{
+public:
+    explicit Stage(const Make &make, const std::function<void(QWidget *)> &change = {})
+        : m_control(make())
+    {
+        auto *layout = new QVBoxLayout(&m_window);
+        layout->setContentsMargins(20, 20, 20, 20);
+        layout->addWidget(m_control, 0, Qt::AlignCenter);
+        if (change)
+            change(m_control);
+        Zoo::settle(&m_window);
+        m_window.grab();
+    }
+
+    QWidget *control() { return m_control; }
+    QImage picture() { return m_window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QRect place() const { return m_control->geometry(); }
+
+private:
+    QWidget m_window;
+    QWidget *m_control;
+};
+
+double mostIn(const QImage &image, const QRect &rect, const QColor &against)
+{
+    double most = 1;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x)
+            most = qMax(most, ColorMath::contrastRatio(QColor(image.pixel(x, y)), against));
+    }
+    return most;
+}
+
+/*! What the least visible of the four sides of \a rect stands out from \a surroundings with. */
+double edgeOf(const QImage &image, const QRect &rect, const QColor &surroundings)
+{
+    constexpr int depth = 4;
+    const QPoint middle = rect.center();
+    const QRect sides[] = {QRect(rect.left(), middle.y(), depth, 1),
+                           QRect(rect.right() - depth + 1, middle.y(), depth, 1),
+                           QRect(middle.x(), rect.top(), 1, depth),
+                           QRect(middle.x(), rect.bottom() - depth + 1, 1, depth)};
+    double least = 21;
+    for (const QRect &side : sides)
+        least = qMin(least, mostIn(image, side, surroundings));
+    return least;
+}
+
+QColor mainColor(const QImage &image, const QRect &rect)
+{
+    QHash<QRgb, int> counts;
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x)
+            ++counts[image.pixel(x, y)];
+    }
+    const auto most = std::max_element(counts.cbegin(), counts.cend());
+    return QColor(most.key());
+}
+
+/*! Links, selected text and what Qt, a program or a scene has coloured itself are the same when disabled. */
+bool keepsColor(const QColor &pen, const QPalette &palette)
+{
+    return pen == QColor(Qt::red) || pen == QColor(200, 40, 40)
+        || pen == palette.color(QPalette::Link) || pen == palette.color(QPalette::HighlightedText);
+}
+
+QTestData &addRow(const QString &look, const char *control, const char *state = "")
+{
+    return QTest::addRow("%s-%s%s%s", qUtf8Printable(look), control, *state ? "-" : "", state);
+}
+
+} // namespace
+
+/*! What each control looks like, in each look: what the pixels must show, not which they are. */
+class tst_WidgetLook : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { m_quiet = std::make_unique<QuietPlatform>(); }
+    void cleanupTestCase() { m_quiet.reset(); }
+    void cleanup() { qApp->setStyleSheet(QString()); }
+
+    void edge_data();
+    void edge();
+    void indicator_data();
+    void indicator();
+    void focus_data();
+    void focus();
+    void selection_data();
+    void selection();
+    void handle_data();
+    void handle();
+    void disabled_data();
+    void disabled();
+    void sizeHint_data();
+    void sizeHint();
+    void narrowButton();
+    void templateProperty_data();
+    void templateProperty();
+
+private:
+    std::unique_ptr<QuietPlatform> m_quiet;
+};
+
+void tst_WidgetLook::edge_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<bool>("enabled");
+
+    for (const QString &look : looks) {
+        for (const Control &control : bordered) {
+            addRow(look, control.name) << look << control.make << true;
+            addRow(look, control.name, "disabled") << look << control.make << false;
+        }
+    }
+}
+
+void tst_WidgetLook::edge()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+    QFETCH(bool, enabled);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    Stage stage(make, [=](QWidget *control) { control->setEnabled(enabled); });
+    const QImage picture = stage.picture();
+    const double edge = edgeOf(picture, stage.place(), QColor(picture.pixel(3, 3)));
+    QVERIFY2(edge >= (look == "contrast" ? 3 : 1.3), qUtf8Printable(QString::number(edge)));
+}
+
+void tst_WidgetLook::indicator_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+
+    for (const QString &look : looks) {
+        for (const Control &control : boxes)
+            addRow(look, control.name) << look << control.make;
+        addRow(look, "QGroupBox") << look << Make(groupBox);
+    }
+}
+
+void tst_WidgetLook::indicator()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto pictureOf = [&](bool checked) {
+        Stage stage(make, [=](QWidget *control) { control->setProperty("checked", checked); });
+        return stage.picture().copy(QRect(stage.place().topLeft(), QSize(24, 20)));
+    };
+    const QImage off = pictureOf(false);
+    const QImage on = pictureOf(true);
+    const QColor ground(off.pixel(0, 0));
+    QVERIFY(mostIn(off, off.rect(), ground) >= 3);
+    QVERIFY(mostIn(on, on.rect(), ground) >= 3);
+    // The mark is what one has and the other has not, on what it lies on.
+    double mark = 1;
+    for (int y = 0; y < on.height(); ++y) {
+        for (int x = 0; x < on.width(); ++x)
+            mark = qMax(mark,
+                        ColorMath::contrastRatio(QColor(on.pixel(x, y)), QColor(off.pixel(x, y))));
+    }
+    QVERIFY2(mark >= 3, qUtf8Printable(QString::number(mark)));
+}
+
+void tst_WidgetLook::focus_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+
+    for (const QString &look : looks) {
+        for (const Control &control : bordered)
+            addRow(look, control.name) << look << control.make;
+        for (const Control &control : boxes)
+            addRow(look, control.name) << look << control.make;
+        for (const Control &control : others)
+            addRow(look, control.name) << look << control.make;
+    }
+}
+
+void tst_WidgetLook::focus()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    Stage without(make);
+    Stage with(make, Zoo::holdFocus);
+    const QImage before = without.picture();
+    const QImage after = with.picture();
+    QCOMPARE(before.size(), after.size()); // the focus moves nothing
+    const QColor surroundings(before.pixel(3, 3));
+    double sign = 1;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (before.pixel(x, y) != after.pixel(x, y))
+                sign =
+                    qMax(sign, ColorMath::contrastRatio(QColor(after.pixel(x, y)), surroundings));
+        }
+    }
+    QVERIFY2(sign >= 3, qUtf8Printable(QString::number(sign)));
+}
+
+void tst_WidgetLook::selection_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+
+    for (const QString &look : looks) {
+        addRow(look, "QListView") << look << Make(viewOfRows<QListView>);
+        addRow(look, "QTreeView") << look << Make(viewOfRows<QTreeView>);
+        addRow(look, "QTableView") << look << Make(viewOfRows<QTableView>);
+    }
+}
+
+void tst_WidgetLook::selection()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    Stage stage(make);
+    auto *view = static_cast<QAbstractItemView *>(stage.control());
+    const QImage picture = view->viewport()->grab().toImage();
+    const auto groundOf = [&](int row) {
+        const QRect item = view->visualRect(view->model()->index(row, 0));
+        return mainColor(picture, item.adjusted(2, 2, -2, -2) & picture.rect());
+    };
+    const double contrast = ColorMath::contrastRatio(groundOf(1), groundOf(2));
+    QVERIFY2(contrast >= 3, qUtf8Printable(QString::number(contrast)));
+}
+
+void tst_WidgetLook::handle_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+
+    for (const QString &look : looks) {
+        addRow(look, "QSlider", "across") << look << Make(range<Qt::Horizontal, QSlider>);
+        addRow(look, "QSlider", "upright") << look << Make(range<Qt::Vertical, QSlider>);
+        addRow(look, "QScrollBar", "across") << look << Make(range<Qt::Horizontal, QScrollBar>);
+        addRow(look, "QScrollBar", "upright") << look << Make(range<Qt::Vertical, QScrollBar>);
+    }
+}
+
+void tst_WidgetLook::handle()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    Stage stage(make, [](QWidget *control) { control->setMinimumSize(control->sizeHint() * 2); });
+    const QImage picture = stage.picture();
+    const QRect place = stage.place();
+    const QRect middle(place.center() - QPoint(3, 3), QSize(6, 6));
+    const double contrast = mostIn(picture, middle, QColor(picture.pixel(3, 3)));
+    QVERIFY2(contrast >= 3, qUtf8Printable(QString::number(contrast)));
+}
+
+void tst_WidgetLook::disabled_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<QString>("page");
+
+    for (const QString &look : looks) {
+        for (const Zoo::Page &page : Zoo::pages().mid(0, 10))
+            addRow(look, page.name) << look << QString(page.name);
+    }
+}
+
+// Every text of a window is drawn in another colour once the window is disabled.
+void tst_WidgetLook::disabled()
+{
+    QFETCH(QString, look);
+    QFETCH(QString, page);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto found = std::find_if(Zoo::pages().cbegin(), Zoo::pages().cend(),
+                                    [&](const auto &candidate) { return page == candidate.name; });
+    const auto pensOf = [&](bool enabled) {
+        const std::unique_ptr<QWidget> window(found->make());
+        window->setEnabled(enabled);
+        Zoo::settle(window.get());
+        window->grab();
+        const auto disabledPen =
+            theme.theme()->values().value("DisabledForegroundColor").value<QColor>();
+        TextRecorder recorder(window->size(), disabledPen);
+        recorder.record(window.get());
+        QMultiMap<QString, QColor> pens;
+        for (const RecordedText &text : recorder.texts()) {
+            if (text.enabled == enabled)
+                pens.insert(QString("%1 at %2").arg(text.text).arg(text.rect.top()), text.pen);
+        }
+        return pens;
+    };
+    const auto enabledPens = pensOf(true);
+    const auto disabledPens = pensOf(false);
+    QVERIFY(!enabledPens.isEmpty());
+    QStringList same;
+    int compared = 0;
+    for (auto it = enabledPens.cbegin(); it != enabledPens.cend(); ++it) {
+        if (!disabledPens.contains(it.key()))
+            continue;
+        ++compared;
+        if (!it.key().startsWith("scene") && !keepsColor(it.value(), theme.palette())
+            && disabledPens.contains(it.key(), it.value()))
+            same.append(it.key());
+    }
+    QVERIFY(compared > 0);
+    QVERIFY2(same.isEmpty(), qUtf8Printable(same.join(", ")));
+}
+
+void tst_WidgetLook::sizeHint_data()
+{
+    QTest::addColumn<Make>("make");
+
+    for (const Control &control : bordered)
+        QTest::newRow(control.name) << control.make;
+    for (const Control &control : boxes)
+        QTest::newRow(control.name) << control.make;
+    for (const Control &control : others)
+        QTest::newRow(control.name) << control.make;
+    QTest::newRow("QProgressBar") << Make([]() -> QWidget * { return new QProgressBar; });
+    QTest::newRow("QScrollBar") << Make(range<Qt::Vertical, QScrollBar>);
+    QTest::newRow("QSlider-upright") << Make(range<Qt::Vertical, QSlider>);
+    QTest::newRow("QLabel") << Make(textual<QLabel>);
+    QTest::newRow("QDial") << Make(filled<QDial>);
+    QTest::newRow("QLCDNumber") << Make([]() -> QWidget * { return new QLCDNumber; });
+    QTest::newRow("QTreeView") << Make(viewOfRows<QTreeView>);
+    QTest::newRow("QTableView") << Make(viewOfRows<QTableView>);
+    QTest::newRow("QCalendarWidget") << Make(filled<QCalendarWidget>);
+    QTest::newRow("QDialogButtonBox") << Make([]() -> QWidget * {
+        return new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    });
+    QTest::newRow("QMenuBar") << Make([]() -> QWidget * {
+        auto *bar = new QMenuBar;
+        bar->addMenu("File");
+        bar->addMenu("Edit");
+        return bar;
+    });
+    QTest::newRow("QToolBar") << Make([]() -> QWidget * {
+        auto *bar = new QToolBar;
+        bar->addAction(QApplication::style()->standardIcon(QStyle::SP_FileIcon), "Open");
+        bar->addAction("Text");
+        return bar;
+    });
+    QTest::newRow("QTabWidget") << Make([]() -> QWidget * {
+        auto *tabs = new QTabWidget;
+        tabs->addTab(new QLabel("Some contents of a page"), "First");
+        tabs->addTab(new QLabel("Second"), "Second");
+        return tabs;
+    });
+    QTest::newRow("QHeaderView") << Make([]() -> QWidget * {
+        auto *header = new QHeaderView(Qt::Horizontal);
+        auto *model = new QStandardItemModel(1, 2, header);
+        model->setHorizontalHeaderLabels({"Name", "Size"});
+        header->setModel(model);
+        return header;
+    });
+}
+
+void tst_WidgetLook::sizeHint()
+{
+    QFETCH(Make, make);
+
+    const auto hint = [&] {
+        Stage stage(make);
+        return QSizeF(stage.control()->sizeHint());
+    };
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    const QSizeF themed = hint();
+    // The same font, and nothing else.
+    qApp->setStyleSheet(QString());
+    const QFont font = QApplication::font();
+    QFont same = font;
+    same.setPixelSize(int(theme.theme()->integer("FontSize_L")));
+    QApplication::setFont(same);
+    const QSizeF plain = hint();
+    QApplication::setFont(font);
+    const QString sizes = QString("%1 x %2 for %3 x %4")
+                              .arg(themed.width())
+                              .arg(themed.height())
+                              .arg(plain.width())
+                              .arg(plain.height());
+    QVERIFY2(qAbs(themed.width() - plain.width()) <= 0.2 * plain.width(), qUtf8Printable(sizes));
+    QVERIFY2(qAbs(themed.height() - plain.height()) <= 0.2 * plain.height(), qUtf8Printable(sizes));
+}
+
+// Programs keep buttons as narrow as their text, which then must not be cut.
+void tst_WidgetLook::narrowButton()
+{
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    Stage stage([]() -> QWidget * {
+        auto *button = new QPushButton("…");
+        button->setMaximumWidth(24);
+        return button;
+    });
+    TextRecorder recorder(stage.control()->size());
+    recorder.record(stage.control());
+    QCOMPARE(recorder.texts().size(), 1);
+    QVERIFY(recorder.texts().constFirst().rect.width()
+            >= stage.control()->fontMetrics().horizontalAdvance("…"));
+}
+
+void tst_WidgetLook::templateProperty_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("state");
+
+    const QPair<const char *, const char *> properties[] = {{"style", "transparent"},
+                                                            {"style", "general"},
+                                                            {"style", "assist"},
+                                                            {"style", "editButton"},
+                                                            {"style", "menuButton"},
+                                                            {"style", "floatingTabButton"},
+                                                            {"style", "floatingTabButtonAssist"},
+                                                            {"style", "helper"},
+                                                            {"imageBtn", "close"},
+                                                            {"imageBtn", "lock"},
+                                                            {"checkStyle", "checked"},
+                                                            {"switchStyle", "general"}};
+    for (const QString &look : looks) {
+        for (const auto &[property, value] : properties) {
+            for (const char *state : {"rest", "hovered", "pressed", "checked"})
+                QTest::addRow("%s-%s-%s-%s", qUtf8Printable(look), property, value, state)
+                    << look << QByteArray(property) << value << state;
+        }
+    }
+}
+
+// Buttons that carry a property of the built-in templates look as these say, to the pixel.
+void tst_WidgetLook::templateProperty()
+{
+    QFETCH(QString, look);
+    QFETCH(QByteArray, property);
+    QFETCH(QString, value);
+    QFETCH(QString, state);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto picture = [&] {
+        Stage stage(textual<QPushButton>, [&](QWidget *widget) {
+            auto *button = static_cast<QPushButton *>(widget);
+            button->setProperty(property.constData(), value);
+            button->setCheckable(true);
+            button->setChecked(state == "checked");
+            button->setDown(state == "pressed");
+            if (state == "hovered")
+                Zoo::holdHover(button);
+        });
+        return stage.picture();
+    };
+    const QImage whole = picture();
+    qApp->setStyleSheet(
+        HV::findStyleSheet(theme.theme(), QStringLiteral(":/stylesheet"), "global"));
+    QCOMPARE(whole, picture());
+}
+
+Q_DECLARE_METATYPE(Make)
+
+QTEST_MAIN(tst_WidgetLook)
+#include "tst_widgetlook.moc"
