@@ -4,7 +4,6 @@
 #include <analysis/explanation.h>
 
 #include <analysis/suggestion.h>
-#include <format/printabletext.h>
 
 #include <QFileInfo>
 
@@ -20,23 +19,12 @@ QString shortPlace(const Definition &definition)
         % QString::number(definition.entry()->keyPosition.line);
 }
 
-QString shownEntry(const ThemeFile &file, const ThemeFileEntry &entry, const QString &value)
-{
-    return Place{file.path(), entry.keyPosition}.text() % QLatin1String(": [") % entry.section()
-        % QLatin1String("] ") % entry.name() % QLatin1Char('=') % value;
-}
-
-QString shownDefinition(const Definition &definition)
-{
-    const QString value =
-        definition.value->isList() ? QStringLiteral("(a list)") : definition.value->text();
-    return shownEntry(definition.layer->file, *definition.entry(), value);
-}
-
 QString articleFor(const QString &noun)
 {
     return QLatin1String(QStringLiteral("aeiou").contains(noun.at(0)) ? "an " : "a ") % noun;
 }
+
+using Topic = ExplanationStep::Topic;
 
 } // namespace
 
@@ -57,21 +45,37 @@ Explanation::Explanation(const ThemeProject &input, const ThemeStack &theme, con
     tellTokens();
 }
 
-void Explanation::addLine(int indentation, const QString &line)
+void Explanation::add(Topic topic, const QString &text, const Place &place)
 {
-    m_text += QString(indentation, QLatin1Char(' ')) % printable(line) % QLatin1Char('\n');
+    m_steps.append({topic, place, text});
+}
+
+void Explanation::add(Topic topic, const ThemeFile &file, const ThemeFileEntry &entry,
+                      const QString &value)
+{
+    add(topic,
+        QLatin1Char('[') % entry.section() % QLatin1String("] ") % entry.name() % QLatin1Char('=')
+            % value,
+        {file.path(), entry.keyPosition});
+}
+
+void Explanation::add(Topic topic, const Definition &definition)
+{
+    const QString value =
+        definition.value->isList() ? QStringLiteral("(a list)") : definition.value->text();
+    add(topic, definition.layer->file, *definition.entry(), value);
 }
 
 void Explanation::tellValue(const StoredValue &value)
 {
     m_isDefined = true;
-    addLine(0,
-            m_key % QLatin1String(" is ") % articleFor(nounOf(value.kind())) % QLatin1String(": ")
-                % valueText(value.value));
+    add(Topic::Value,
+        m_key % QLatin1String(" is ") % articleFor(nounOf(value.kind())) % QLatin1String(": ")
+            % valueText(value.value));
     tellOrigin(*value.definition);
     if (value.isHidden)
-        addLine(4,
-                QStringLiteral("hidden from style sheets by a value of another kind, see below"));
+        add(Topic::Note,
+            QStringLiteral("hidden from style sheets by a value of another kind, see below"));
 }
 
 void Explanation::tellUnknown()
@@ -80,31 +84,30 @@ void Explanation::tellUnknown()
     for (const Definition &definition : m_theme.definitions())
         names << definition.key();
     const QString question = names.contains(m_key) ? QString() : Suggestion(names).question(m_key);
-    addLine(0,
-            QLatin1String("The theme ") % m_theme.name() % QLatin1String(" has no value called ")
-                % m_key % question);
+    add(Topic::Statement,
+        QLatin1String("The theme ") % m_theme.name() % QLatin1String(" has no value called ")
+            % m_key % question);
 }
 
 void Explanation::tellOrigin(const Definition &definition)
 {
-    addLine(2, shownDefinition(definition));
+    add(Topic::Origin, definition);
     const QString &text = definition.value->text();
     const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
     if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
         const bool isLate = m_theme.find(Kind::Palette, text) != nullptr;
-        addLine(4,
-                isLate ? QStringLiteral(
-                    "the palette entry of that name is stored only later, so it is black")
-                       : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it "
-                                        "is black"));
+        add(Topic::Note,
+            isLate ? QStringLiteral(
+                "the palette entry of that name is stored only later, so it is black")
+                   : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it "
+                                    "is black"));
     }
     if (definition.kind() == Kind::Gradient) {
         const QString prefix = definition.entry()->key % QLatin1Char('/');
         for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
             if (entry.isEffective && entry.key.startsWith(prefix))
-                addLine(2,
-                        shownEntry(definition.layer->file, entry,
-                                   QString::fromUtf8(entry.rawValue.trimmed())));
+                add(Topic::Origin, definition.layer->file, entry,
+                    QString::fromUtf8(entry.rawValue.trimmed()));
         }
     }
     if (definition.palette >= 0)
@@ -135,10 +138,11 @@ QString Explanation::reasonOf(const Definition &definition) const
 
 void Explanation::tellWithoutEffect()
 {
-    QVector<QPair<QString, QString>> found; // what, and why
     for (const Definition &definition : m_theme.definitions()) {
-        if (definition.key() == m_key && definition.fate != Definition::Fate::Stored)
-            found.append({shownDefinition(definition), reasonOf(definition)});
+        if (definition.key() != m_key || definition.fate == Definition::Fate::Stored)
+            continue;
+        add(Topic::Ineffective, definition);
+        add(Topic::Note, reasonOf(definition));
     }
     QVector<const ThemeLayer *> layers{&m_theme.base()};
     if (m_theme.own() && m_theme.own() != &m_theme.base())
@@ -148,19 +152,14 @@ void Explanation::tellWithoutEffect()
         for (const ThemeFileEntry &entry : layer->file.entries()) {
             if (entry.name() != m_key || (isRead && entry.isEffective))
                 continue;
-            found.append(
-                {shownEntry(layer->file, entry, QString::fromUtf8(entry.rawValue.trimmed())),
-                 isRead ? QStringLiteral("the key is given again in the same file")
-                        : QStringLiteral("the file is never read: the default theme is "
-                                         "itself called \"%1\"")
-                              .arg(m_theme.displayName())});
+            add(Topic::Ineffective, layer->file, entry,
+                QString::fromUtf8(entry.rawValue.trimmed()));
+            add(Topic::Note,
+                isRead ? QStringLiteral("the key is given again in the same file")
+                       : QStringLiteral("the file is never read: the default theme is itself "
+                                        "called \"%1\"")
+                             .arg(m_theme.displayName()));
         }
-    }
-    if (!found.isEmpty())
-        addLine(0, QStringLiteral("Without effect:"));
-    for (const auto &entry : qAsConst(found)) {
-        addLine(2, entry.first);
-        addLine(4, entry.second);
     }
 }
 
@@ -182,12 +181,11 @@ void Explanation::tellUsers()
     for (const Definition &definition : m_theme.definitions()) {
         if (!isUser(definition))
             continue;
-        if (++count == 1)
-            addLine(0, QStringLiteral("Taken by:"));
-        addLine(2, shownDefinition(definition));
+        ++count;
+        add(Topic::Taker, definition);
     }
     if (count == 0)
-        addLine(0, QStringLiteral("No colour, palette entry or gradient takes it."));
+        add(Topic::Statement, QStringLiteral("No colour, palette entry or gradient takes it."));
 }
 
 void Explanation::tellTokens()
@@ -198,8 +196,7 @@ void Explanation::tellTokens()
     for (const TemplateToken &token : templates.tokens()) {
         if (token.key != m_key)
             continue;
-        if (++count == 1)
-            addLine(0, QStringLiteral("Used by templates:"));
+        ++count;
         const StyleRule *rule = rules.ruleAt(token.offset);
         const StyleDeclaration *declaration = rule ? rule->declarationAt(token.offset) : nullptr;
         QString where = rules.isComment(token.offset) ? QStringLiteral("in a comment")
@@ -209,13 +206,14 @@ void Explanation::tellTokens()
         if (m_isDefined && !m_theme.find(token.kind, m_key))
             where +=
                 QLatin1String(", by ") % articleFor(nounOf(token.kind)) % QLatin1String(" token");
-        addLine(2, templates.placeAt(token.offset).text() % QLatin1String(": ") % where);
+        add(Topic::Token, where, templates.placeAt(token.offset));
     }
     const bool isVisible = std::any_of(std::begin(allKinds), std::end(allKinds), [&](Kind kind) {
         return isInStyleSheets(kind) && m_theme.find(kind, m_key);
     });
     if (m_isDefined && !isVisible)
-        addLine(0, QStringLiteral("Style sheets see neither palette entries nor gradients."));
+        add(Topic::Statement,
+            QStringLiteral("Style sheets see neither palette entries nor gradients."));
     else if (count == 0)
-        addLine(0, QStringLiteral("No template uses it."));
+        add(Topic::Statement, QStringLiteral("No template uses it."));
 }

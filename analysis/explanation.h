@@ -7,7 +7,24 @@
 #include <analysis/theme/storedvalues.h>
 #include <analysis/themeproject.h>
 
-/*! \brief The story of one key of a theme: its value, its definitions and its uses, as text. */
+/*! \brief One thing to be said of a key, and where it stands. */
+struct ExplanationStep {
+    enum class Topic {
+        Value, //!< what the key is; its Origin steps follow
+        Origin, //!< a line that the value comes from, the nearest first
+        Ineffective, //!< a definition without effect; the Note behind it says why
+        Taker, //!< a definition that takes this palette entry
+        Token, //!< a template that uses the key
+        Note, //!< something about the step before
+        Statement, //!< a sentence about the key as a whole
+    };
+
+    Topic topic = Topic::Statement;
+    Place place; //!< without a file if the step stands nowhere
+    QString text; //!< as the files have it, so not made printable
+};
+
+/*! \brief The story of one key of a theme: its value, its definitions and its uses. */
 class Explanation
 {
 public:
@@ -16,11 +33,14 @@ public:
     /*! \brief Tells whether the theme has a value of this key, of whatever kind. */
     bool isDefined() const { return m_isDefined; }
 
-    /*! \brief Returns lines that a terminal can be given. */
-    QString text() const { return m_text; }
+    /*! \brief Returns what is to be said, in the order in which it is best read. */
+    const QVector<ExplanationStep> &steps() const { return m_steps; }
 
 private:
-    void addLine(int indentation, const QString &line);
+    void add(ExplanationStep::Topic topic, const QString &text, const Place &place = {});
+    void add(ExplanationStep::Topic topic, const ThemeFile &file, const ThemeFileEntry &entry,
+             const QString &value);
+    void add(ExplanationStep::Topic topic, const Definition &definition);
     void tellValue(const StoredValue &value);
     void tellUnknown();
     void tellOrigin(const Definition &definition);
@@ -33,7 +53,7 @@ private:
     const ThemeStack &m_theme;
     const QString m_key;
     bool m_isDefined = false;
-    QString m_text;
+    QVector<ExplanationStep> m_steps;
 };
 
 #endif

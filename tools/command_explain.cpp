@@ -5,6 +5,7 @@
 
 #include <analysis/explanation.h>
 #include <tools/commandline.h>
+#include <tools/explanationtext.h>
 #include <tools/outputfile.h>
 #include <tools/themeoptions.h>
 
@@ -31,7 +32,7 @@ int runExplain(const QStringList &arguments)
         return ExitUnusable;
 
     const Explanation explanation(*input, input->theme(positional.at(1)), positional.at(2));
-    if (!writeStandardOutput(explanation.text()))
+    if (!writeStandardOutput(explanationText(explanation.steps())))
         return ExitUnusable;
     return explanation.isDefined() ? ExitDone : ExitFindings;
 }
