@@ -29,8 +29,7 @@ std::unique_ptr<ThemeLayer> readLayer(const ThemeFolder &folder, const QString &
         if (value.gradientSize > gradientSizeLimit) {
             *error = QStringLiteral("%1: gradient %2 claims %3 stops, which takes the library "
                                     "minutes to read")
-                         .arg(file->path(), value.key)
-                         .arg(value.gradientSize);
+                         .arg(file->path(), value.key, QString::number(value.gradientSize));
             return nullptr;
         }
     }
@@ -69,6 +68,8 @@ bool ThemeProject::readThemes(QString *error)
         ThemeFolder::open(m_options.folder, m_options.suffix, error);
     if (!folder)
         return false;
+    for (const QString &file : folder->nearMisses())
+        m_nearMisses << folder->path() % QLatin1Char('/') % file;
     QStringList names = m_options.themes.isEmpty() ? folder->themeNames() : m_options.themes;
     const bool hasDefault = names.removeAll(folder->themeNames().constFirst()) > 0;
     names.removeDuplicates();

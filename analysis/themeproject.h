@@ -17,10 +17,10 @@
 /*! \brief What is to be checked, and with what. */
 struct ThemeProjectOptions {
     QString folder;
-    QString suffix = QStringLiteral("theme");
+    QString suffix = defaultThemeSuffix();
     QStringList themes; //!< by name; empty means all
     QStringList templates{QStringLiteral(":/stylesheet")};
-    QString prefix = QStringLiteral("global");
+    QString prefix = Tokens::defaultPrefix();
     QString applicationFolder; //!< absolute
     QString vocabularyFile;
     double minimalContrast = 4.5;
@@ -44,6 +44,9 @@ public:
 
     /*! \brief Returns all theme files that were read, the default file first. */
     const std::vector<std::unique_ptr<ThemeLayer>> &layers() const { return m_layers; }
+
+    /*! \brief Returns paths of files that are no themes for the letter case of their suffix alone. */
+    QStringList nearMisses() const { return m_nearMisses; }
 
     /*! \brief Returns the default theme alone, whether it is to be checked as a theme or not. */
     const ThemeStack &base() const { return *m_base; }
@@ -76,6 +79,7 @@ private:
 
     ThemeProjectOptions m_options;
     Vocabulary m_vocabulary;
+    QStringList m_nearMisses;
     std::optional<TemplateText> m_templates;
     std::optional<StyleRules> m_styleRules;
     QVector<TemplateToken> m_tokens;

@@ -3,6 +3,9 @@
 
 #include <format/kind.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace
 {
 
@@ -44,5 +47,6 @@ QString nounOf(Kind kind)
 
 bool isInStyleSheets(Kind kind)
 {
-    return kind != Kind::Palette && kind != Kind::Gradient;
+    return std::find(std::begin(styleSheetPrecedence), std::end(styleSheetPrecedence), kind)
+        != std::end(styleSheetPrecedence);
 }

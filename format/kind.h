@@ -29,6 +29,13 @@ QString enumerationName(Kind kind);
 /*! \brief Returns how sentences call a value of \a kind: "palette entry", … */
 QString nounOf(Kind kind);
 
+/*!
+ * \brief The kinds that style sheets see; of several values under one key they see the first.
+ *
+ * HV::Theme::values() puts all of them into one map, the first of these last.
+ */
+constexpr Kind styleSheetPrecedence[] = {Kind::ImageFile, Kind::Integer, Kind::Flag, Kind::Color};
+
 /*! \brief Tells whether style sheets see values of \a kind, that is HV::Theme::values() does. */
 bool isInStyleSheets(Kind kind);
 

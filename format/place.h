@@ -21,6 +21,9 @@ struct TextPosition {
     }
 };
 
+/*! \brief Returns the place of \a offset in \a text, whose lines end in "\n"; 1:1 if it is negative. */
+TextPosition textPosition(const QString &text, int offset);
+
 /*! \brief A place in a file. This is all there is to writing one down. */
 struct Place {
     QString file; //!< as the user named it, or `:/…` for a resource
@@ -28,6 +31,9 @@ struct Place {
 
     /*! \brief Returns `file:line:column`, as editors and terminals follow it. */
     QString text() const;
+
+    /*! \brief Returns `file:line`. */
+    QString lineText() const;
 
     /*! \brief Returns `name:line`, the file without its folder: for the middle of a sentence. */
     QString shortText() const;

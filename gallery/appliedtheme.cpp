@@ -4,6 +4,8 @@
 
 #include <analysis/rules/rules.h>
 #include <analysis/themeproject.h>
+#include <format/themepath.h>
+#include <format/token.h>
 #include <hvtheme/theming.h>
 
 #include <QApplication>
@@ -14,6 +16,8 @@
 #include <QPixmapCache>
 #include <QRegularExpression>
 #include <QSettings>
+
+#include <algorithm>
 
 // The linker leaves out the resource of a static library that nobody names; the macro must stand
 // outside every namespace.
@@ -31,29 +35,11 @@ namespace
 // Qt decodes an image whole, however small it is drawn; these are 128 MB.
 constexpr qint64 pixelLimit = qint64(32) * 1024 * 1024;
 
-const QString defaultName = QStringLiteral("default");
-
-QString themeFile(const QString &folder, const QString &name)
-{
-    return folder + QLatin1Char('/') + name + QLatin1String(".theme");
-}
-
 // A pipe would be waited for.
 bool isReadableFile(const QString &path)
 {
     const QFileInfo info(path);
     return info.isFile() && info.isReadable();
-}
-
-QStringList themeFileNames(const QString &folder)
-{
-    QStringList names;
-    // The library opens the file with exactly this suffix.
-    const auto files =
-        QDir(folder).entryInfoList({"*.theme"}, QDir::Files | QDir::CaseSensitive, QDir::Name);
-    for (const QFileInfo &file : files)
-        names.append(file.completeBaseName());
-    return names;
 }
 
 Problem checkThemesFolder(const ThemeSource &source)
@@ -63,7 +49,7 @@ Problem checkThemesFolder(const ThemeSource &source)
                   qUtf16Printable(source.themesFolder));
         return Problem::ThemesFolder;
     }
-    const QString file = themeFile(source.themesFolder, defaultName);
+    const QString file = themeFilePath(source.themesFolder, defaultThemeName());
     if (!isReadableFile(file)) {
         qCritical("\"%ls\" is missing or cannot be read. Every themes folder needs it: put what "
                   "all themes share there, or name another folder with --themes.",
@@ -75,7 +61,7 @@ Problem checkThemesFolder(const ThemeSource &source)
 
 Problem checkThemeName(const ThemeSource &source)
 {
-    const QString file = themeFile(source.themesFolder, source.themeName);
+    const QString file = themeFilePath(source.themesFolder, source.themeName);
     if (source.themeName.isEmpty() || isReadableFile(file))
         return Problem::None;
     qCritical("No theme named \"%ls\": \"%ls\" is missing or cannot be read. Choose one of: %ls.",
@@ -171,10 +157,8 @@ Problem checkSubstitution(const ThemeProject &project, const ThemeStack &theme)
     if (key.isNull())
         return Problem::None;
     QString place = theme.displayName();
-    for (const Kind kind : {Kind::ImageFile, Kind::Color, Kind::Integer}) {
-        if (const Definition *definition = theme.find(kind, key))
-            place = definition->keyPlace().shortText();
-    }
+    if (const std::optional<Kind> kind = kindInStyleSheets(theme, key))
+        place = theme.find(*kind, key)->keyPlace().shortText();
     qCritical("%ls: the value of %ls leads back to its own token, so the style sheet would never "
               "be done. Give it a value without tokens.",
               qUtf16Printable(place), qUtf16Printable(key));
@@ -235,13 +219,18 @@ QPalette paletteOf(HV::Theme *theme)
 
 QStringList themeNames(const QString &folder)
 {
-    QStringList names = themeFileNames(folder);
-    if (!isReadableFile(themeFile(folder, defaultName)))
+    QStringList names = listThemes(folder).names;
+    names.erase(std::remove_if(names.begin(), names.end(),
+                               [&](const QString &name) {
+                                   return !isReadableFile(themeFilePath(folder, name));
+                               }),
+                names.end());
+    if (!isReadableFile(themeFilePath(folder, defaultThemeName())))
         return names;
     // The default file usually holds what the others share, and is no look by itself.
-    const QSettings settings(themeFile(folder, defaultName), QSettings::IniFormat);
+    const QSettings settings(themeFilePath(folder, defaultThemeName()), QSettings::IniFormat);
     if (names.size() > 1 && !settings.childGroups().contains(QStringLiteral("Colors")))
-        names.removeOne(defaultName);
+        names.removeOne(defaultThemeName());
     return names;
 }
 
@@ -256,8 +245,8 @@ AppliedTheme::~AppliedTheme() = default;
 
 Problem AppliedTheme::load(const ThemeSource &source)
 {
-    m_files = QStringList{themeFile(source.themesFolder, defaultName),
-                          themeFile(source.themesFolder, source.themeName)}
+    m_files = QStringList{themeFilePath(source.themesFolder, defaultThemeName()),
+                          themeFilePath(source.themesFolder, source.themeName)}
         + templateFiles(source.templateFolders);
     m_project.reset();
     for (const auto check : {checkThemesFolder, checkThemeName, checkTemplateFolders}) {
@@ -290,7 +279,7 @@ Problem AppliedTheme::load(const ThemeSource &source)
 
 Problem AppliedTheme::readProject(const ThemeSource &source)
 {
-    m_name = source.themeName.isEmpty() ? defaultName : source.themeName;
+    m_name = source.themeName.isEmpty() ? defaultThemeName() : source.themeName;
     ThemeProjectOptions options;
     options.folder = source.themesFolder;
     options.themes = QStringList{m_name};
@@ -305,7 +294,8 @@ Problem AppliedTheme::readProject(const ThemeSource &source)
         return Problem::None;
     qCritical("%ls. Mend it, or name another with --themes, --theme or --templates.",
               qUtf16Printable(error));
-    if (m_name != defaultName && error.startsWith(themeFile(source.themesFolder, m_name)))
+    if (m_name != defaultThemeName()
+        && error.startsWith(themeFilePath(source.themesFolder, m_name)))
         return Problem::ThemeName;
     return error.startsWith(source.themesFolder + QLatin1Char('/')) ? Problem::ThemesFolder
                                                                     : Problem::Templates;
@@ -321,7 +311,7 @@ void AppliedTheme::apply(const ThemeSource &source, const QVariantMap &values)
         sheet += QLatin1Char('\n'); // a template of the user's may end in an open comment line
     }
     // With these values rather than the theme's own, whose images are always beside this program.
-    const QString prefix = QStringLiteral("global");
+    const QString prefix = Tokens::defaultPrefix();
     sheet = HV::replaceCssColors(prefix, values, sheet);
     sheet = HV::replaceCssImages(prefix, values, sheet);
     sheet = HV::replaceCssIntegers(prefix, values, sheet);

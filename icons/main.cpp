@@ -1,6 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <format/place.h>
+#include <format/themepath.h>
+#include <format/token.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -9,7 +12,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTextStream>
@@ -22,9 +24,6 @@
 
 namespace
 {
-
-const QLatin1String tokenPrefix("global");
-const QLatin1String themeSuffix("theme");
 
 enum ExitCode {
     Success = 0,
@@ -61,28 +60,22 @@ ExitCode print(const char *text)
     return WrongUsage;
 }
 
-QString themeFile(const QString &folder, const QString &name)
-{
-    return folder % QLatin1Char('/') % name % QLatin1Char('.') % themeSuffix;
-}
-
 // Loading a theme never fails: a file that is missing reads as an empty one or is passed over. Here
 // that would give a set of icons in the wrong colours.
 bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
 {
-    const QString defaultName = QStringLiteral("default");
-    for (const QString &part : {defaultName, name}) {
-        const QString file = themeFile(folder, part);
+    for (const QString &part : {defaultThemeName(), name}) {
+        const QString file = themeFilePath(folder, part);
         if (!QFileInfo(file).isReadable())
             return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
     }
-    const QString defaultFile = themeFile(folder, defaultName);
+    const QString defaultFile = themeFilePath(folder, defaultThemeName());
     const QString displayName = QSettings(defaultFile, QSettings::IniFormat)
                                     .value(QStringLiteral("ThemeName"), QStringLiteral("unnamed"))
                                     .toString();
-    if (name != defaultName && displayName.compare(name, Qt::CaseInsensitive) == 0) {
-        return complain(themeFile(folder, name) % QLatin1String(": never read, for ") % defaultFile
-                        % QLatin1String(" has this ThemeName"));
+    if (name != defaultThemeName() && displayName.compare(name, Qt::CaseInsensitive) == 0) {
+        return complain(themeFilePath(folder, name) % QLatin1String(": never read, for ")
+                        % defaultFile % QLatin1String(" has this ThemeName"));
     }
     HV::changeTheme(theme, name, folder);
     return true;
@@ -98,18 +91,12 @@ std::optional<QString> readText(const QString &path)
     return QString::fromUtf8(file.readAll());
 }
 
-QString withLine(const QString &path, const QString &text, int offset)
-{
-    return path % QLatin1Char(':')
-        % QString::number(text.left(offset).count(QLatin1Char('\n')) + 1);
-}
-
 /*! Says why a token cannot be replaced by a colour that SVG knows; null if it can. */
-QString tokenFault(const QVariantMap &values, const QString &kind, const QString &key)
+QString tokenFault(const QVariantMap &values, const Tokens::Candidate &token)
 {
-    if (kind != QLatin1String("color"))
+    if (token.kind != Kind::Color)
         return QLatin1String("only colour tokens can stand in a picture");
-    const QVariant value = values.value(key);
+    const QVariant value = values.value(token.key);
     if (value.userType() != QMetaType::QColor)
         return QLatin1String("the theme has no such colour");
     // SVG has no colour with an alpha channel; Qt would draw such an element in black, or not at all.
@@ -121,15 +108,13 @@ QString tokenFault(const QVariantMap &values, const QString &kind, const QString
 
 bool checkTokens(const QVariantMap &values, const QString &path, const QString &text)
 {
-    static const QRegularExpression token(QStringLiteral("global\\.theme\\.(\\w+)\\.(\\w+)"));
     bool ok = true;
-    auto matches = token.globalMatch(text);
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        const QString fault = tokenFault(values, match.captured(1), match.captured(2));
+    const auto tokens = Tokens::findCandidates(text, Tokens::defaultPrefix());
+    for (const Tokens::Candidate &token : tokens) {
+        const QString fault = tokenFault(values, token);
         if (!fault.isNull())
-            ok = complain(withLine(path, text, match.capturedStart()) % QLatin1String(": ")
-                          % match.captured() % QLatin1String(": ") % fault);
+            ok = complain(Place{path, textPosition(text, token.offset)}.lineText()
+                          % QLatin1String(": ") % token.text % QLatin1String(": ") % fault);
     }
     return ok;
 }
@@ -164,7 +149,7 @@ bool tint(HV::Theme *theme, const QString &source, const QDir &output)
     std::optional<QString> text = readText(source);
     if (!text || !checkTokens(theme->values(), source, *text))
         return false;
-    HV::replaceStyleSheet(theme, tokenPrefix, *text);
+    HV::replaceStyleSheet(theme, Tokens::defaultPrefix(), *text);
     return writeIfChanged(copy, text->toUtf8());
 }
 

@@ -3,6 +3,7 @@
 
 #include <tools/command_new.h>
 
+#include <format/themepath.h>
 #include <maker/thememaker.h>
 #include <maker/themetext.h>
 #include <tools/commandline.h>
@@ -110,11 +111,10 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
 {
     const QString folder = QFileInfo(from).path();
     const QString theme = QFileInfo(from).fileName();
-    const auto base = themeContent(folder % QLatin1String("/default.theme"), error);
+    const auto base = themeContent(themeFilePath(folder, defaultThemeName()), error);
     if (!base)
         return std::nullopt;
-    const auto own =
-        themeContent(folder % QLatin1Char('/') % theme % QLatin1String(".theme"), error);
+    const auto own = themeContent(themeFilePath(folder, theme), error);
     if (!own)
         return std::nullopt;
     Maker::MadeThemes made;
@@ -128,8 +128,8 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
         texts.own = named.text();
         fileName = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
     }
-    made.files = {{QStringLiteral("default.theme"), texts.base},
-                  {fileName % QLatin1String(".theme"), texts.own}};
+    made.files = {{themeFileName(defaultThemeName()), texts.base},
+                  {themeFileName(fileName), texts.own}};
     return made;
 }
 

@@ -3,6 +3,7 @@
 
 #include <tools/command_run.h>
 
+#include <format/themepath.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
 
@@ -57,11 +58,11 @@ QString mistake(const QCommandLineParser &parser)
     if (!parser.isSet(QStringLiteral("themes")))
         return {};
     const QDir folder(parser.value(QStringLiteral("themes")));
-    if (!folder.exists(QStringLiteral("default.theme")))
+    if (!folder.exists(themeFileName(defaultThemeName())))
         return folder.path()
             % QLatin1String(": no default.theme here, with which every theme begins");
     const QString theme = parser.value(QStringLiteral("theme"));
-    if (!theme.isEmpty() && !folder.exists(theme % QLatin1String(".theme")))
+    if (!theme.isEmpty() && !folder.exists(themeFileName(theme)))
         return folder.path() % QLatin1String(": no theme is called \"") % theme % QLatin1Char('"');
     return {};
 }

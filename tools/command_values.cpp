@@ -17,12 +17,6 @@
 namespace
 {
 
-QString placeOf(const Definition &definition)
-{
-    const Place place = definition.keyPlace();
-    return place.file % QLatin1Char(':') % QString::number(place.position.line);
-}
-
 QString asTable(const QVector<StoredValue> &values)
 {
     TextTable table({QStringLiteral("KIND"), QStringLiteral("KEY"), QStringLiteral("VALUE"),
@@ -30,7 +24,7 @@ QString asTable(const QVector<StoredValue> &values)
     for (const StoredValue &value : values) {
         const QLatin1String remark(value.isHidden ? ", hidden from style sheets" : "");
         table.addRow({nounOf(value.kind()), value.key(), valueText(value.value), value.palette,
-                      placeOf(*value.definition) % remark});
+                      value.definition->keyPlace().lineText() % remark});
     }
     return table.text();
 }

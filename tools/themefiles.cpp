@@ -3,6 +3,7 @@
 
 #include <tools/themefiles.h>
 
+#include <format/themepath.h>
 #include <tools/outputfile.h>
 
 #include <QDir>
@@ -16,7 +17,6 @@
 
 namespace
 {
-
 bool fail(const QString &message, QString *error)
 {
     *error = message;
@@ -41,7 +41,9 @@ bool makeFolder(const QString &folder, QString *error)
 bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
                      QString *error)
 {
-    const QStringList present = QDir(folder).entryList({QStringLiteral("*.theme")}, QDir::Files);
+    QStringList present;
+    for (const QString &name : listThemes(folder).names)
+        present << themeFileName(name);
     if (!present.isEmpty() && !overwrites)
         return fail(folder % QLatin1String(": there are themes already (")
                         % present.join(QLatin1String(", "))

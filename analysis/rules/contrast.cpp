@@ -26,7 +26,7 @@ class Colors
 public:
     Colors(const ThemeStack &theme, const QString &prefix)
         : m_theme(theme)
-        , m_token(QLatin1Char('^') % prefix % QLatin1String("\\.theme\\.color\\.(\\w+)$"))
+        , m_prefix(prefix)
     {
     }
 
@@ -55,9 +55,9 @@ public:
 private:
     NamedColor single(const QString &text) const
     {
-        const QRegularExpressionMatch match = m_token.match(text);
-        if (match.hasMatch()) {
-            const QString key = match.captured(1);
+        const std::optional<TemplateToken> token = Tokens::read(text, m_prefix);
+        if (token && token->kind == Kind::Color) {
+            const QString key = token->key;
             const bool isColor = kindInStyleSheets(m_theme, key) == Kind::Color;
             return {isColor ? m_theme.theme().color(key) : QColor(), key, key};
         }
@@ -67,7 +67,7 @@ private:
     }
 
     const ThemeStack &m_theme;
-    const QRegularExpression m_token;
+    const QString m_prefix;
 };
 
 // The colours that can stand behind the text: what shines through shows the layer below. Nothing if

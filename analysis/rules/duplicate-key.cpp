@@ -14,8 +14,8 @@ void check(const ThemeProject &project, Report &report)
                 continue;
             report.add({layer->file.path(), entry.keyPosition},
                        QStringLiteral("%1 is given again in line %2, and that value counts")
-                           .arg(entry.name())
-                           .arg(layer->file.find(entry.key)->keyPosition.line));
+                           .arg(entry.name(),
+                                QString::number(layer->file.find(entry.key)->keyPosition.line)));
         }
     }
 }

@@ -19,8 +19,7 @@ QString objection(const GradientStopValue &stop, double last)
         return QStringLiteral("%1 is not between 0 and 1").arg(text);
     if (position < last)
         return QStringLiteral("%1 comes after %2; stops stay in the order of the file")
-            .arg(text)
-            .arg(last);
+            .arg(text, QString::number(last));
     return {};
 }
 
@@ -39,8 +38,7 @@ void check(const ThemeProject &project, Report &report)
                 if (!text.isEmpty() && entry)
                     report.add({definition.layer->file.path(), entry->valuePosition},
                                QStringLiteral("position of stop %1 of gradient %2: ")
-                                       .arg(i + 1)
-                                       .arg(definition.key())
+                                       .arg(QString::number(i + 1), definition.key())
                                    % text);
             }
         }

@@ -51,7 +51,7 @@ QVector<ThemeImage> themeImages(const ThemeProject &project)
             const Definition &definition = theme->definitions().at(index);
             const QString path =
                 imageFilePath(project.options().applicationFolder, definition.value->text());
-            if (!path.startsWith(QLatin1String(":/")))
+            if (!isResourcePath(path))
                 images.append({&definition, path});
         }
     }
@@ -83,13 +83,4 @@ TextPosition sectionPosition(const ThemeFile &file, Kind kind)
             return section.position;
     }
     return {1, 1};
-}
-
-std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key)
-{
-    for (const Kind kind : {Kind::ImageFile, Kind::Integer, Kind::Flag, Kind::Color}) {
-        if (stack.stored(kind).contains(key))
-            return kind;
-    }
-    return std::nullopt;
 }

@@ -19,14 +19,13 @@ void check(const ThemeProject &project, Report &report)
             const int stored = definition.value->value.toInt();
             if (!isNumber || written == stored)
                 continue;
-            report.addAtValue(definition,
-                              QStringLiteral("%1 %2 is %3, which does not fit into 32 bits and is "
-                                             "stored as %4")
-                                  .arg(nounOf(definition.kind()), definition.key())
-                                  .arg(written)
-                                  .arg(definition.kind() == Kind::Integer
-                                           ? QString::number(stored)
-                                           : QVariant(stored != 0).toString()));
+            report.addAtValue(
+                definition,
+                QStringLiteral("%1 %2 is %3, which does not fit into 32 bits and is "
+                               "stored as %4")
+                    .arg(nounOf(definition.kind()), definition.key(), QString::number(written),
+                         definition.kind() == Kind::Integer ? QString::number(stored)
+                                                            : QVariant(stored != 0).toString()));
         }
     }
 }

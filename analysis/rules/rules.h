@@ -100,7 +100,4 @@ QStringList storedKeys(const ThemeStack &stack, Kind kind);
 /*! \brief Returns where a key of \a kind belongs in \a file: its section's header, else 1:1. */
 TextPosition sectionPosition(const ThemeFile &file, Kind kind);
 
-/*! \brief Returns the kind whose value style sheets see for \a key, or nothing. */
-std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key);
-
 #endif

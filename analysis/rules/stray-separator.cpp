@@ -11,7 +11,7 @@ void check(const ThemeProject &project, Report &report)
     const QString text = project.templates().text();
     for (const TemplateToken &token : project.tokens()) {
         const bool isFollowed =
-            token.end() < text.size() && text.at(token.end()) == QLatin1Char('|');
+            token.end() < text.size() && text.at(token.end()) == QLatin1Char(Tokens::separator);
         if (!isFollowed || token.kind == Kind::Integer)
             continue;
         report.addAtTemplate(project.templates(), token.end(),

@@ -4,6 +4,7 @@
 #include <analysis/style/substitution.h>
 
 #include <analysis/messagelog.h>
+#include <format/token.h>
 #include <hvtheme/theming.h>
 
 #include <QHash>
@@ -19,15 +20,14 @@ constexpr int windowSize = 65536;
 constexpr int stepLimit = 100000;
 
 struct Pass {
-    const char *infix;
-    bool takesSeparator;
+    Kind kind;
     QString (*replace)(const QString &prefix, const QVariantMap &values, const QString &text);
 };
 
 const Pass passes[] = {
-    {".theme.color.", false, HV::replaceCssColors},
-    {".theme.image.", false, HV::replaceCssImages},
-    {".theme.integer.", true, HV::replaceCssIntegers},
+    {Kind::Color, HV::replaceCssColors},
+    {Kind::ImageFile, HV::replaceCssImages},
+    {Kind::Integer, HV::replaceCssIntegers},
 };
 
 struct Token {
@@ -37,19 +37,12 @@ struct Token {
     QString key;
 };
 
-bool isWordCharacter(QChar character)
-{
-    const ushort code = character.unicode();
-    return code == '_' || (code >= '0' && code <= '9') || (code >= 'A' && code <= 'Z')
-        || (code >= 'a' && code <= 'z');
-}
-
 class EndlessSearch
 {
 public:
     EndlessSearch(const QString &prefix, const Pass &pass, const QVariantMap &values)
-        : m_opening(prefix + QLatin1String(pass.infix))
-        , m_takesSeparator(pass.takesSeparator)
+        : m_opening(Tokens::opening(prefix, pass.kind))
+        , m_takesSeparator(Tokens::takesSeparator(pass.kind))
         , m_values(values)
     {
     }
@@ -85,11 +78,11 @@ private:
             Token token;
             token.start = hit;
             token.keyEnd = hit + m_opening.size();
-            while (token.keyEnd < text.size() && isWordCharacter(text.at(token.keyEnd)))
+            while (token.keyEnd < text.size() && Tokens::isKeyCharacter(text.at(token.keyEnd)))
                 ++token.keyEnd;
             token.key = text.mid(hit + m_opening.size(), token.keyEnd - hit - m_opening.size());
             const bool isSeparated = m_takesSeparator && token.keyEnd < text.size()
-                && text.at(token.keyEnd) == QLatin1Char('|');
+                && text.at(token.keyEnd) == QLatin1Char(Tokens::separator);
             token.end = token.keyEnd + (isSeparated ? 1 : 0);
             if (!token.key.isEmpty())
                 return token;

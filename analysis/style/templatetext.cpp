@@ -6,7 +6,6 @@
 #include <QBuffer>
 #include <QDir>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -38,13 +37,6 @@ QString decoded(const QByteArray &content)
     return QString::fromUtf8(buffer.readAll());
 }
 
-Kind kindOfPass(const QString &name)
-{
-    if (name == QLatin1String("color"))
-        return Kind::Color;
-    return name == QLatin1String("image") ? Kind::ImageFile : Kind::Integer;
-}
-
 } // namespace
 
 std::optional<TemplateText> TemplateText::read(const QStringList &sources, const QString &prefix,
@@ -69,7 +61,7 @@ std::optional<TemplateText> TemplateText::read(const QStringList &sources, const
         if (templates.m_text.at(i) == QLatin1Char('\n'))
             templates.m_lineStarts.append(i + 1);
     }
-    templates.findTokens();
+    templates.m_tokens = Tokens::find(templates.m_text, prefix);
     return templates;
 }
 
@@ -81,20 +73,6 @@ bool TemplateText::append(const QString &path, QString *error)
     m_files.append({*input, m_text.size()});
     m_text += decoded(input->content());
     return true;
-}
-
-void TemplateText::findTokens()
-{
-    const QRegularExpression pattern(QLatin1String("(?:") % m_prefix
-                                     % QLatin1String(")\\.theme\\.(?<kind>color|image|integer)"
-                                                     "\\.(?<key>\\w+)"));
-    QRegularExpressionMatchIterator matches = pattern.globalMatch(m_text);
-    while (matches.hasNext()) {
-        const QRegularExpressionMatch match = matches.next();
-        m_tokens.append({kindOfPass(match.captured(QStringLiteral("kind"))),
-                         match.captured(QStringLiteral("key")), match.capturedStart(),
-                         match.capturedLength()});
-    }
 }
 
 const TemplateText::File &TemplateText::fileAt(int offset) const

@@ -5,21 +5,11 @@
 #define ANALYSIS_STYLE_TEMPLATETEXT_H
 
 #include <analysis/theme/inputfile.h>
-#include <analysis/theme/themefile.h>
-#include <format/kind.h>
+#include <format/place.h>
+#include <format/token.h>
 
 #include <QStringList>
 #include <QVector>
-
-/*! \brief A token such as `global.theme.color.Bg_1` in the text of the templates. */
-struct TemplateToken {
-    Kind kind = Kind::Color; //!< Color, ImageFile or Integer: the pass that replaces it
-    QString key;
-    int offset = 0;
-    int length = 0;
-
-    int end() const { return offset + length; }
-};
 
 /*!
  * \brief Style sheet templates, joined as HV::readStyleSheet() joins them, with positions.
@@ -59,7 +49,6 @@ public:
 private:
     TemplateText() = default;
     bool append(const QString &path, QString *error);
-    void findTokens();
 
     QString m_prefix;
     QString m_text;

@@ -3,6 +3,8 @@
 
 #include <analysis/theme/inputfile.h>
 
+#include <format/themepath.h>
+
 #include <QFile>
 
 #include <cerrno>
@@ -13,11 +15,6 @@
 
 namespace
 {
-
-bool isResource(const QString &path)
-{
-    return path.startsWith(QLatin1String(":/"));
-}
 
 QString systemReason(int number)
 {
@@ -54,9 +51,8 @@ private:
 
 QString tooLarge(const QString &path, qint64 limit)
 {
-    return QStringLiteral("%1: larger than %2 MB, which no file of this kind is")
-        .arg(path)
-        .arg(limit / 1024 / 1024);
+    return path % QLatin1String(": larger than ") % QString::number(limit / 1024 / 1024)
+        % QLatin1String(" MB, which no file of this kind is");
 }
 
 } // namespace
@@ -68,10 +64,10 @@ std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QStr
     QFile file(path);
     // Opened without blocking and looked at through the descriptor: opening a pipe that nobody
     // writes to would wait for ever, and a test before the opening could be outrun.
-    const Descriptor descriptor(isResource(path) ? -1
-                                                 : ::open(QFile::encodeName(path).constData(),
-                                                          O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (isResource(path)) {
+    const Descriptor descriptor(isResourcePath(path) ? -1
+                                                     : ::open(QFile::encodeName(path).constData(),
+                                                              O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (isResourcePath(path)) {
         if (!file.open(QIODevice::ReadOnly)) {
             *error = path % QLatin1String(": ") % file.errorString();
             return std::nullopt;
@@ -103,7 +99,7 @@ std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QStr
 
 bool InputFile::isUnchanged() const
 {
-    if (isResource(m_path))
+    if (isResourcePath(m_path))
         return true;
     struct stat status = {};
     return ::stat(QFile::encodeName(m_path).constData(), &status) == 0

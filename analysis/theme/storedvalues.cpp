@@ -32,16 +32,10 @@ QVariant valueOf(const Definition &definition, const ThemeStack &stack,
     return {};
 }
 
-// Of the kinds in style sheets the one that HV::Theme::values() puts in last is seen.
 bool isHidden(const Definition &definition, const ThemeStack &stack)
 {
-    static const QVector<Kind> order{Kind::Color, Kind::Flag, Kind::Integer, Kind::ImageFile};
-    const int place = order.indexOf(definition.kind());
-    for (int later = place + 1; place >= 0 && later < order.size(); ++later) {
-        if (stack.find(order.at(later), definition.key()))
-            return true;
-    }
-    return false;
+    const std::optional<Kind> seen = kindInStyleSheets(stack, definition.key());
+    return isInStyleSheets(definition.kind()) && seen != definition.kind();
 }
 
 } // namespace

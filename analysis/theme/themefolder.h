@@ -5,6 +5,7 @@
 #define ANALYSIS_THEME_THEMEFOLDER_H
 
 #include <analysis/theme/themefile.h>
+#include <format/themepath.h>
 
 #include <QStringList>
 
@@ -27,7 +28,10 @@ public:
     QString suffix() const { return m_suffix; }
 
     /*! \brief Returns the names of all themes, `default` first, then the others sorted. */
-    QStringList themeNames() const { return m_themeNames; }
+    QStringList themeNames() const { return m_listing.names; }
+
+    /*! \brief Returns files that would be themes but for the letter case of their suffix. */
+    QStringList nearMisses() const { return m_listing.nearMisses; }
 
     /*! \brief Returns the path that HV::changeTheme() builds for the theme called \a name. */
     QString filePath(const QString &name) const;
@@ -40,7 +44,7 @@ private:
 
     QString m_path;
     QString m_suffix;
-    QStringList m_themeNames;
+    ThemeListing m_listing;
 };
 
 #endif

@@ -7,8 +7,6 @@
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
-#include <QDir>
-
 const ThemeFileEntry *Definition::entry() const
 {
     return layer->file.find(sectionName(kind()) % QLatin1Char('/') % key());
@@ -89,11 +87,13 @@ QVariantMap ThemeStack::values(const QString &applicationFolder) const
     return values;
 }
 
-QString imageFilePath(const QString &folder, const QString &stored)
+std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key)
 {
-    if (stored.startsWith(QLatin1String(":/")))
-        return stored;
-    return QDir::cleanPath(folder % QLatin1Char('/') % stored);
+    for (const Kind kind : styleSheetPrecedence) {
+        if (stack.stored(kind).contains(key))
+            return kind;
+    }
+    return std::nullopt;
 }
 
 bool isHexadecimalColor(const QString &text)

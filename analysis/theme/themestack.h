@@ -6,12 +6,14 @@
 
 #include <analysis/theme/themefile.h>
 #include <analysis/theme/themevalues.h>
+#include <format/themepath.h>
 
 #include <QColor>
 #include <QHash>
 #include <QVariantMap>
 
 #include <memory>
+#include <optional>
 
 namespace HV
 {
@@ -106,8 +108,8 @@ private:
     QHash<QString, int> m_stored[kindCount];
 };
 
-/*! \brief Returns the path that HV::Theme::imageFile() makes of \a stored in \a folder. */
-QString imageFilePath(const QString &folder, const QString &stored);
+/*! \brief Returns the kind whose value style sheets see for \a key, or nothing. */
+std::optional<Kind> kindInStyleSheets(const ThemeStack &stack, const QString &key);
 
 /*! \brief Tells whether the library reads \a text as a hexadecimal colour. */
 bool isHexadecimalColor(const QString &text);
