@@ -43,8 +43,17 @@ public:
         return m_at == m_text.size() ? steps : QVector<Step>();
     }
 
+    int looks() const { return m_looks; }
+
 private:
-    QChar current() const { return m_at < m_text.size() ? m_text.at(m_at) : QChar(); }
+    QChar current() { return at(m_at); }
+
+    // A null character behind the end.
+    QChar at(int place)
+    {
+        ++m_looks;
+        return place < m_text.size() ? m_text.at(place) : QChar();
+    }
 
     bool take(char16_t character)
     {
@@ -57,7 +66,7 @@ private:
     bool skipBlanks()
     {
         const int start = m_at;
-        while (m_at < m_text.size() && m_text.at(m_at).isSpace())
+        while (current().isSpace())
             ++m_at;
         return m_at > start;
     }
@@ -65,7 +74,7 @@ private:
     QString readName()
     {
         const int start = m_at;
-        while (m_at < m_text.size() && isNameCharacter(m_text.at(m_at)))
+        while (isNameCharacter(current()))
             ++m_at;
         return m_text.mid(start, m_at - start);
     }
@@ -74,8 +83,8 @@ private:
     QString readIdentifier()
     {
         const int first = m_at + (current() == u'-' ? 1 : 0);
-        const bool isName = first < m_text.size() && isNameCharacter(m_text.at(first))
-            && !m_text.at(first).isDigit() && m_text.at(first) != u'-';
+        const QChar character = at(first);
+        const bool isName = isNameCharacter(character) && !character.isDigit() && character != u'-';
         return isName ? readName() : QString();
     }
 
@@ -178,7 +187,7 @@ private:
             return !value->isEmpty();
         }
         const int start = m_at;
-        while (m_at < m_text.size() && m_text.at(m_at) != quote && m_text.at(m_at) != u'\n')
+        while (m_at < m_text.size() && current() != quote && current() != u'\n')
             ++m_at;
         *value = m_text.mid(start, m_at - start);
         return take(quote.unicode());
@@ -187,6 +196,7 @@ private:
     const QString m_text;
     const int m_offset;
     int m_at = 0;
+    int m_looks = 0;
     bool m_hasFailed = false;
 };
 
@@ -214,7 +224,7 @@ int StyleSelector::specificity() const
     return result;
 }
 
-StyleSelector StyleSelector::parsed(const QString &text, int offset)
+StyleSelector StyleSelector::parsed(const QString &text, int offset, int *looks)
 {
     int blanks = 0;
     while (blanks < text.size() && text.at(blanks).isSpace())
@@ -222,7 +232,10 @@ StyleSelector StyleSelector::parsed(const QString &text, int offset)
     StyleSelector selector;
     selector.text = text.simplified();
     selector.offset = offset + blanks;
-    selector.steps = SelectorScanner(text.trimmed(), selector.offset).steps();
+    SelectorScanner scanner(text.trimmed(), selector.offset);
+    selector.steps = scanner.steps();
+    if (looks)
+        *looks = scanner.looks() + blanks;
     return selector;
 }
 

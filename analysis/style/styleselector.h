@@ -81,8 +81,13 @@ struct StyleSelector {
     /*! \brief Returns what Qt weighs a selector with: 256 a name, 16 a condition, 1 a class. */
     int specificity() const;
 
-    /*! \brief Takes one selector apart, in time linear in \a text, which starts at \a offset. */
-    static StyleSelector parsed(const QString &text, int offset = 0);
+    /*!
+     * \brief Takes one selector apart, in time linear in \a text.
+     *
+     * \param offset  where \a text begins in the text that offsets are meant for.
+     * \param looks   set to how many times a character was looked at; may be null.
+     */
+    static StyleSelector parsed(const QString &text, int offset = 0, int *looks = nullptr);
 
     /*! \brief Takes apart what stands before a brace: selectors with commas between them. */
     static QVector<StyleSelector> parsedList(const QString &text, int offset = 0);

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void offsets();
     void specificity_data();
     void specificity();
+    void growth_data();
+    void growth();
 };
 
 namespace
@@ -135,6 +137,31 @@ void tst_StyleSelector::specificity()
     QFETCH(QString, text);
     QFETCH(int, expected);
     QCOMPARE(StyleSelector::parsed(text).specificity(), expected);
+}
+
+void tst_StyleSelector::growth_data()
+{
+    QTest::addColumn<QString>("piece");
+    QTest::newRow("types") << "QLabel ";
+    QTest::newRow("children") << "QLabel > ";
+    QTest::newRow("attributes") << "[a=\"b\"] ";
+    QTest::newRow("conditions") << ":hover#a.b";
+    QTest::newRow("blanks") << "      ";
+    QTest::newRow("unreadable") << "% ";
+}
+
+// Each character is looked at a few times, however long the selector is.
+void tst_StyleSelector::growth()
+{
+    QFETCH(QString, piece);
+    for (const int count : {10, 1000, 100000}) {
+        const QString text = piece.repeated(count) + "QLabel";
+        int looks = 0;
+        const StyleSelector selector = StyleSelector::parsed(text, 0, &looks);
+        QVERIFY(looks > 0);
+        QVERIFY2(looks <= 10 * text.size(), qPrintable(QString::number(looks)));
+        QCOMPARE(selector.isValid(), piece != "% ");
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_StyleSelector)
