@@ -25,6 +25,11 @@ bool isPaintedByPainter(const QWidget *widget)
                         [=](const char *name) { return widget->inherits(name); });
 }
 
+bool isPicture(const QPaintDevice *device)
+{
+    return device->devType() == QInternal::Image || device->devType() == QInternal::Pixmap;
+}
+
 } // namespace
 
 PaintForwarding::PaintForwarding(TextColors *colors)
@@ -48,7 +53,7 @@ bool PaintForwarding::eventFilter(QObject *object, QEvent *event)
 bool PaintForwarding::paint(QWidget *widget, const QRegion &region)
 {
     QPainter target(widget);
-    if (!target.isActive() || target.paintEngine()->type() != QPaintEngine::Raster)
+    if (!target.isActive() || !isPicture(target.paintEngine()->paintDevice()))
         return false;
     ForwardingPaintDevice device(&target, m_colors);
     // Backgrounds are painted already, and those that are translucent must not be so twice.

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "textrecorder.h"
+
 #include <colormath/contrast.h>
 #include <hvthemeapp/applicationtheme.h>
 
@@ -24,6 +26,7 @@ private Q_SLOTS:
     void underline();
     void notForPrinters();
     void everyPaintOnce();
+    void recorded();
     void changesAreSeen();
     void endsWithTheTheme();
 
@@ -296,6 +299,22 @@ void tst_LiftedText::everyPaintOnce()
     QCOMPARE(painting.paints, 1);
     painting.grab(QRect(50, 10, 20, 20));
     QCOMPARE(painting.paints, 2);
+}
+
+// The measure of legibility sees what a reader sees.
+void tst_LiftedText::recorded()
+{
+    const std::unique_ptr<QWidget> label = labelWithPalette(QColor(128, 0, 0));
+    const auto contrast = [&] {
+        TextRecorder recorder(label->size());
+        recorder.record(label.get());
+        return recorder.texts().isEmpty() ? 0 : recorder.texts().constFirst().contrast;
+    };
+    const double lifted = contrast();
+    QVERIFY2(lifted >= 4.5 && lifted < 5, qPrintable(QString::number(lifted)));
+    m_theme->setLiftsText(false);
+    const double plain = contrast();
+    QVERIFY2(plain > 1 && plain < 3, qPrintable(QString::number(plain)));
 }
 
 void tst_LiftedText::changesAreSeen()

@@ -249,9 +249,16 @@ private:
 };
 
 TextRecorder::TextRecorder(const QSize &size, const QColor &disabledPen)
-    : m_engine(std::make_unique<Engine>(size))
+    : TextRecorder(std::make_unique<Engine>(size))
 {
     m_engine->disabledPen = disabledPen;
+}
+
+TextRecorder::TextRecorder(std::unique_ptr<Engine> engine)
+    : QImage(engine->image.bits(), engine->image.width(), engine->image.height(),
+             engine->image.bytesPerLine(), engine->image.format())
+    , m_engine(std::move(engine))
+{
 }
 
 TextRecorder::~TextRecorder() = default;

@@ -6,7 +6,6 @@
 
 #include <QColor>
 #include <QImage>
-#include <QPaintDevice>
 #include <QRect>
 #include <QVector>
 
@@ -25,8 +24,12 @@ struct RecordedText {
     bool enabled = true; /*!< whether the widget was, and the pen not that of disabled text */
 };
 
-/*! Paints into an image as ever, and keeps every text with its pen and the ground below it. */
-class TextRecorder final : public QPaintDevice
+/*!
+ * Paints into an image as ever, and keeps every text with its pen and the ground below it.
+ *
+ * Who paints may take it for that image, and read what is there so far.
+ */
+class TextRecorder final : public QImage
 {
 public:
     /*! \a disabledPen is known for that of disabled text, beside those of the palette. */
@@ -46,6 +49,8 @@ protected:
 
 private:
     class Engine;
+    explicit TextRecorder(std::unique_ptr<Engine> engine);
+
     std::unique_ptr<Engine> m_engine;
 };
 
