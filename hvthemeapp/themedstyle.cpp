@@ -9,7 +9,9 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QMdiArea>
 #include <QPointer>
+#include <QSet>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTimer>
@@ -129,13 +131,30 @@ const char *drawingOf(QStyle::StandardPixmap pixmap, const QStyleOption *option,
 }
 
 // Under an application's style sheet Qt hides the style behind one of its own, as its child.
-const QStyle *plainStyle()
+QStyle *plainStyle()
 {
-    const QStyle *style = QApplication::style();
-    const QStyle *hidden = qApp->styleSheet().isEmpty()
+    QStyle *style = QApplication::style();
+    QStyle *hidden = qApp->styleSheet().isEmpty()
         ? nullptr
         : style->findChild<QStyle *>(QString(), Qt::FindDirectChildrenOnly);
     return hidden ? hidden : style;
+}
+
+// Grounds that areas of inner windows got from a palette, so that none of them is the program's choice.
+QSet<QRgb> &formerGrounds()
+{
+    static QSet<QRgb> grounds;
+    return grounds;
+}
+
+// An area takes the brush of the moment when it is made, and no other after it.
+void followPalette(QMdiArea &area)
+{
+    const QBrush ground = area.palette().brush(QPalette::Dark);
+    const QBrush own = area.background();
+    formerGrounds().insert(ground.color().rgba());
+    if (own.style() == Qt::SolidPattern && formerGrounds().contains(own.color().rgba()))
+        area.setBackground(ground);
 }
 
 } // namespace
@@ -148,11 +167,13 @@ ThemedStyle::ThemedStyle(const QString &name)
 
 void ThemedStyle::install()
 {
+    formerGrounds().insert(QApplication::palette().color(QPalette::Dark).rgba());
     static QPointer<ThemedStyle> installed;
     if (installed)
         return;
     // Only what Qt makes by a name bears that name.
-    const QString name = plainStyle()->objectName();
+    const QPointer<QStyle> former = plainStyle();
+    const QString name = former->objectName();
     if (!QStyleFactory::keys().contains(name, Qt::CaseInsensitive))
         return;
     installed = new ThemedStyle(name);
@@ -162,6 +183,16 @@ void ThemedStyle::install()
             QTimer::singleShot(0, qApp, &ThemedStyle::install);
     });
     QApplication::setStyle(installed);
+    // One that was chosen before there was an application belongs to nobody.
+    if (former && !former->parent())
+        former->setParent(qApp);
+}
+
+void ThemedStyle::polish(QWidget *widget)
+{
+    QProxyStyle::polish(widget);
+    if (auto *area = qobject_cast<QMdiArea *>(widget))
+        followPalette(*area);
 }
 
 QIcon ThemedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,

@@ -28,6 +28,11 @@ public:
      */
     static void install();
 
+    using QProxyStyle::polish;
+    /*! \brief Prepares \a widget; the ground of an area of inner windows, which else stays that of the
+     *         palette at its making, becomes that of the palette in force, unless the program chose it. */
+    void polish(QWidget *widget) override;
+
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option = nullptr,

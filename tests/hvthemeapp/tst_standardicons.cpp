@@ -66,6 +66,7 @@ private Q_SLOTS:
     void clearButton();
     void innerWindow_data();
     void innerWindow();
+    void innerWindowsArea();
     void styleKeepsItsName();
     void anotherStyleByName();
     void ownStyleIsLeftAlone(); // the last one
@@ -195,6 +196,22 @@ void tst_StandardIcons::innerWindow()
     const QImage image = window->grab().toImage();
     const int height = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
     QCOMPARE(image.pixelColor(60, height / 2), window->palette().color(QPalette::Window));
+}
+
+// It has a brush of its own, made of the palette of the moment.
+void tst_StandardIcons::innerWindowsArea()
+{
+    QVERIFY(m_theme.setName("dark"));
+    QMdiArea area;
+    QMdiArea chosen;
+    chosen.setBackground(Qt::red);
+    chosen.ensurePolished(); // the other one is first seen in another look
+    for (const char *look : {"light", "contrast", "dark"}) {
+        QVERIFY(m_theme.setName(look));
+        area.ensurePolished();
+        QCOMPARE(area.background().color(), QApplication::palette().color(QPalette::Dark));
+        QCOMPARE(chosen.background().color(), QColor(Qt::red));
+    }
 }
 
 // Programs and Qt tell styles apart by this name.
