@@ -8,7 +8,6 @@
 #include "desktoptheme.h"
 #include "iconplugins.h"
 #include "legibletext.h"
-#include "placeholders.h"
 #include "programlook.h"
 #include "templatefolders.h"
 #include "themedstyle.h"
@@ -90,7 +89,6 @@ public:
     TemplateFolders templates;
     bool keepsFonts = false;
     std::unique_ptr<LegibleText> legibleText; // null unless text is lifted
-    std::unique_ptr<Placeholders> placeholders; // while there is a look
     QPalette palette;
     QString problem;
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
@@ -137,8 +135,6 @@ ApplicationTheme::ApplicationTheme(std::unique_ptr<Theme> theme, QObject *parent
     startPalette();
     if (qApp)
         ThemedStyle::install();
-    if (!d->placeholders)
-        d->placeholders = std::make_unique<Placeholders>();
 }
 
 ApplicationTheme::~ApplicationTheme()
@@ -159,11 +155,14 @@ bool ApplicationTheme::setFolder(const QString &folder)
     const QString problem = ThemeFolder(path).problem();
     if (!problem.isEmpty())
         return report(problem);
+    const QPointer<ApplicationTheme> guard(this);
     if (!d->name.isNull()) {
         const QString name = d->desktop ? d->fitting(path) : d->name;
         if (QFileInfo::exists(ThemeFolder(path).file(name)) && !apply(path, name))
             return false;
     }
+    if (!guard)
+        return true;
     d->folder = folder.isEmpty() ? QString() : path;
     report(QString());
     Q_EMIT folderChanged();
@@ -187,9 +186,11 @@ QString ApplicationTheme::name() const
 
 bool ApplicationTheme::setName(const QString &name)
 {
+    const QPointer<ApplicationTheme> guard(this);
     if (!apply(d->nextFolder(), name))
         return false;
-    setFollowsDesktop(false);
+    if (guard)
+        setFollowsDesktop(false);
     return true;
 }
 

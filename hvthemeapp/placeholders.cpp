@@ -6,49 +6,51 @@
 #include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
-#include <QPalette>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextEdit>
 
 namespace HV
 {
-
 namespace
 {
 
-bool hasPlaceholder(const QObject *object)
+void correct(QWidget *field)
 {
-    return qobject_cast<const QLineEdit *>(object) || qobject_cast<const QPlainTextEdit *>(object)
-        || qobject_cast<const QTextEdit *>(object);
+    QPalette palette = field->palette();
+    const QPalette application = QApplication::palette();
+    bool isCorrected = false;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        const QRgb text = palette.color(group, QPalette::Text).rgb();
+        const QColor wanted = application.color(group, QPalette::PlaceholderText);
+        const QColor color = palette.color(group, QPalette::PlaceholderText);
+        if (color.rgb() != text || color == wanted)
+            continue;
+        palette.setColor(group, QPalette::PlaceholderText, wanted);
+        isCorrected = true;
+    }
+    if (isCorrected)
+        field->setPalette(palette);
 }
 
 } // namespace
 
-Placeholders::Placeholders(QObject *parent)
-    : QObject(parent)
+void Placeholders::install(QApplication *application)
 {
-    qApp->installEventFilter(this);
+    static QPointer<Placeholders> installed;
+    if (installed)
+        return;
+    installed = new Placeholders(application);
+    application->installEventFilter(installed);
 }
 
-// Qt's style sheets set the palette of a widget as they polish it, and tell of it at once.
 bool Placeholders::eventFilter(QObject *object, QEvent *event)
 {
-    if (event->type() != QEvent::PaletteChange || !hasPlaceholder(object)
-        || qApp->styleSheet().isEmpty())
+    if (event->type() != QEvent::PaletteChange || !object->isWidgetType())
         return false;
-    auto *widget = static_cast<QWidget *>(object);
-    QPalette palette = widget->palette();
-    bool isTypedIn = false;
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        const QColor text = palette.color(group, QPalette::Text);
-        const QColor wanted = QApplication::palette().color(group, QPalette::PlaceholderText);
-        if (palette.color(group, QPalette::PlaceholderText) != text || wanted == text)
-            continue;
-        palette.setColor(group, QPalette::PlaceholderText, wanted);
-        isTypedIn = true;
-    }
-    if (isTypedIn)
-        widget->setPalette(palette); // comes back here, and then nothing is left to do
+    if (qobject_cast<QLineEdit *>(object) || qobject_cast<QTextEdit *>(object)
+        || qobject_cast<QPlainTextEdit *>(object))
+        correct(static_cast<QWidget *>(object));
     return false;
 }
 

@@ -6,21 +6,28 @@
 
 #include <QObject>
 
+class QApplication;
+class QWidget;
+
 namespace HV
 {
 
 /*!
- * \brief While it lives, placeholders have the colour that the application's palette gives them.
+ * \brief Keeps placeholders apart from what was typed.
  *
- * A rule of a style sheet that colours text colours the placeholder alike, so that it looks typed
- * in. A widget whose placeholder has a colour of its own keeps that. Needs a QApplication.
+ * A rule for the colour of a text field gives it to the placeholder too, opaque in Qt 5.15. Whenever
+ * that happens the placeholder gets the application's colour for it again. Internal.
  */
-class Placeholders : public QObject
+class Placeholders final : public QObject
 {
 public:
-    explicit Placeholders(QObject *parent = nullptr);
+    /*! \brief Watches all text fields of \a application from now on; one call is as good as many. */
+    static void install(QApplication *application);
 
     bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    using QObject::QObject;
 };
 
 } // namespace HV

@@ -4,11 +4,13 @@
 #include "programlook.h"
 
 #include "iconcolors.h"
+#include "placeholders.h"
 
 #include <hvtheme/restyling.h>
 
 #include <QApplication>
 #include <QLabel>
+#include <QMdiArea>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
@@ -68,14 +70,19 @@ void recolorLinks(QLabel *label)
     label->setText(text);
 }
 
-void recolorLinks(const LinkColors &colors)
+// What widgets keep of a palette for themselves: links, and the ground of an area of windows.
+void renewKeptColors(const QPalette &before, const QPalette &after)
 {
-    if (colors.before == colors.after)
-        return;
+    const LinkColors links{before.color(QPalette::Link), after.color(QPalette::Link)};
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all) {
+        auto *area = qobject_cast<QMdiArea *>(widget);
+        if (area && area->background() == before.brush(QPalette::Dark))
+            area->setBackground(after.brush(QPalette::Dark));
+        if (links.before == links.after)
+            continue;
         if (auto *edit = qobject_cast<QTextEdit *>(widget))
-            recolorLinks(edit, colors);
+            recolorLinks(edit, links);
         else if (auto *label = qobject_cast<QLabel *>(widget))
             recolorLinks(label);
     }
@@ -110,14 +117,14 @@ QString styleSheetBeside(const QString &look)
 void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet)
 {
     startPalette();
-    const LinkColors links{QApplication::palette().color(QPalette::Link),
-                           palette.color(QPalette::Link)};
+    Placeholders::install(qApp);
+    const QPalette before = QApplication::palette();
     restyle(*qApp, styleSheet, [&] {
         QApplication::setPalette(palette); // forgets the palettes of classes, so it comes first
         QToolTip::setPalette(palette);
         IconColors::setValues(values);
     });
-    recolorLinks(links);
+    renewKeptColors(before, palette);
 }
 
 } // namespace HV

@@ -24,8 +24,8 @@ QString styleSheetBeside(const QString &look);
 /*!
  * \brief Puts palette, icon colours and style sheet in force, and polishes each widget once.
  *
- * Also what a palette does not reach: tool tips, and links in documents, which have their colour since
- * their HTML was set. Needs a QApplication. Internal.
+ * Also what a palette does not reach: tool tips, placeholders, areas of windows, and links in documents,
+ * which have their colour since their HTML was set. Needs a QApplication. Internal.
  */
 void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet);
 

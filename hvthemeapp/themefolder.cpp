@@ -97,8 +97,8 @@ QString ThemeFolder::problemOf(const QString &name) const
         isName ? problemOfFile(file(name), true) : QStringLiteral("\"%1\" is no name").arg(name);
     if (fault.isEmpty())
         return {};
-    return QStringLiteral("There is no theme \"%1\" in \"%2\": %3; choose one of: %4.")
-        .arg(name, m_path, fault, names().join(QLatin1String(", ")));
+    return QStringLiteral("The theme \"%1\" cannot be read: %2; choose one of: %3.")
+        .arg(name, fault, names().join(QLatin1String(", ")));
 }
 
 QStringList ThemeFolder::names() const

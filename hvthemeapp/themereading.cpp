@@ -9,6 +9,7 @@
 
 #include <hvtheme/theme.h>
 
+#include <QMap>
 #include <QSettings>
 #include <QTemporaryFile>
 
@@ -33,7 +34,7 @@ class Supplement
 public:
     void add(const QString &section, const QString &key, const QString &value)
     {
-        m_lines.append(section + QLatin1Char('\\') + key + QLatin1Char('=') + value);
+        m_sections[section] += key + QLatin1Char('=') + value + QLatin1Char('\n');
     }
 
     // Leaves the theme as it is where no temporary file can be written.
@@ -41,16 +42,18 @@ public:
     void giveTo(Read read) const
     {
         QTemporaryFile file;
-        if (m_lines.isEmpty() || !file.open())
+        if (m_sections.isEmpty() || !file.open())
             return;
-        file.write(m_lines.join(QLatin1Char('\n')).toLatin1());
+        for (auto it = m_sections.cbegin(); it != m_sections.cend(); ++it)
+            file.write(QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1());
+        const QString path = file.fileName(); // a closed file that was never named is lost
         file.close();
-        QSettings settings(file.fileName(), QSettings::IniFormat);
+        QSettings settings(path, QSettings::IniFormat);
         read(settings);
     }
 
 private:
-    QStringList m_lines;
+    QMap<QString, QString> m_sections;
 };
 
 class Reading

@@ -1,46 +1,468 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "messages.h"
+#include "temporaryfolder.h"
+
+#include <hvtheme/workabletheming.h>
 #include <hvthemeapp/applicationtheme.h>
 
-#include <hvtheme/theme.h>
-
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTextBrowser>
+#include <QToolTip>
 #include <QtTest>
+
+using HV::ApplicationTheme;
+
+/*! A vocabulary of an application's own. */
+class OwnTheme : public HV::WorkableTheme
+{
+    Q_OBJECT
+
+public:
+    enum class Color {
+        Accent,
+        Quiet
+    };
+    Q_ENUM(Color)
+};
+
+namespace
+{
+
+const char *const sampleFolder = HVTHEME_SOURCE_DIR "/themes";
+
+QByteArray fileText(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The sample themes without their images, which are not where the test runs, under other names.
+void writeThemes(const TemporaryFolder &folder, const QByteArray &more = QByteArray())
+{
+    folder.write("default.theme", fileText(":/hvthemeapp/themes/default.theme"));
+    for (const char *name : {"dark", "light"}) {
+        const QByteArray text = fileText(QString(":/hvthemeapp/themes/%1.theme").arg(name));
+        folder.write(QString("%1.theme").arg(name == QByteArray("dark") ? "night" : "day"),
+                     text + more);
+    }
+}
+
+// What the library has logged, with severity and category.
+QStringList logged(MessageLog &log)
+{
+    QStringList lines;
+    const Messages messages = log.take();
+    for (const Message &message : messages)
+        lines.append(QString("%1 %2 %3").arg(message.severity).arg(message.category, message.text));
+    return lines;
+}
+
+QStringList warning(const QString &text)
+{
+    return {QString("%1 hvtheme.app %2").arg(QtWarningMsg).arg(text)};
+}
+
+QStringList checkedTexts(const QMenu &menu)
+{
+    QStringList texts;
+    const QList<QAction *> actions = menu.actions();
+    for (const QAction *action : actions) {
+        if (action->isChecked())
+            texts.append(action->text());
+    }
+    return texts;
+}
+
+QAction *actionNamed(const QMenu &menu, const QString &text)
+{
+    const QList<QAction *> actions = menu.actions();
+    const auto it = std::find_if(actions.cbegin(), actions.cend(),
+                                 [&](const QAction *action) { return action->text() == text; });
+    return it == actions.cend() ? nullptr : *it;
+}
+
+} // namespace
 
 class tst_ApplicationTheme : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
     void looks_data();
     void looks();
+    void namesAreThoseOfTheFolder();
+    void ownFolder();
+    void folderBesideTheExecutable();
+    void ownVocabulary();
+    void missingKeyOfOwnVocabulary();
+    void ownTemplates();
+    void everythingInForceWhenChanged();
+    void ownStyleSheetStays();
+    void whatPalettesDoNotReach();
+    void saveAndRestore();
+    void menuInStep();
+    void liveReload_data();
+    void liveReload();
+    void objectsTakeTurns();
+    void properties();
+
+private:
+    MessageLog m_log;
 };
+
+void tst_ApplicationTheme::initTestCase()
+{
+    QVERIFY(ApplicationTheme().setName("dark")); // the library's resources are there now
+}
+
+void tst_ApplicationTheme::init()
+{
+    qApp->setStyleSheet(QString());
+    m_log.start();
+}
+
+void tst_ApplicationTheme::cleanup()
+{
+    REPORT_STRAY_MESSAGES(m_log);
+}
 
 void tst_ApplicationTheme::looks_data()
 {
     QTest::addColumn<QString>("displayName");
-    QTest::newRow("dark") << "Dark";
-    QTest::newRow("light") << "Light";
-    QTest::newRow("contrast") << "High contrast";
+    QTest::addColumn<bool>("isDark");
+
+    QTest::newRow("dark") << "Dark" << true;
+    QTest::newRow("light") << "Light" << false;
+    QTest::newRow("contrast") << "High contrast" << true;
 }
 
 void tst_ApplicationTheme::looks()
 {
     QFETCH(QString, displayName);
-    HV::ApplicationTheme theme;
-    const QSignalSpy changes(&theme, &HV::ApplicationTheme::changed);
+    QFETCH(bool, isDark);
+    ApplicationTheme theme;
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    const QSignalSpy names(&theme, &ApplicationTheme::nameChanged);
     QVERIFY(theme.setName(QTest::currentDataTag()));
     QCOMPARE(changes.count(), 1);
+    QCOMPARE(names.count(), 1);
     QCOMPARE(theme.theme()->displayName(), displayName);
-    QCOMPARE(QApplication::palette().color(QPalette::Window),
-             theme.theme()->color("BackgroundColor_2"));
+    QCOMPARE(theme.displayName(theme.name()), displayName);
+    QCOMPARE(QApplication::palette().color(QPalette::Window).lightness() < 128, isDark);
+    QCOMPARE(QApplication::palette(), theme.palette());
     QVERIFY(!qApp->styleSheet().contains("global.theme"));
     QPushButton button("push");
-    button.ensurePolished();
     QVERIFY(!button.grab().isNull());
+    QCOMPARE(theme.problem(), QString());
+}
+
+void tst_ApplicationTheme::namesAreThoseOfTheFolder()
+{
+    ApplicationTheme theme;
+    QCOMPARE(theme.names(), QStringList({"contrast", "dark", "light"}));
+
+    TemporaryFolder folder;
+    folder.write("default.theme", "ThemeName=Only\n[Colors]\nX=#fff\n");
+    QVERIFY(theme.setFolder(folder.path()));
+    QCOMPARE(theme.names(), QStringList("default"));
+    folder.write("b.theme", "ThemeName=Zebra\n[Colors]\nY=#fff\n");
+    QCOMPARE(theme.names(), QStringList({"b", "default"}));
+    QCOMPARE(theme.displayName("b"), "Zebra");
+    folder.write("default.theme", "ThemeName=Shared\n[Integers]\nX=1\n");
+    QCOMPARE(theme.names(), QStringList("b"));
+}
+
+void tst_ApplicationTheme::ownFolder()
+{
+    TemporaryFolder folder;
+    writeThemes(folder);
+    folder.write("dark.theme", fileText(":/hvthemeapp/themes/light.theme"));
+    ApplicationTheme theme;
+    const QString builtIn = theme.folder();
+    const QSignalSpy folders(&theme, &ApplicationTheme::folderChanged);
+    QVERIFY(theme.setName("dark"));
+    const QColor dark = theme.palette().color(QPalette::Window);
+
+    QVERIFY(theme.setFolder(folder.path())); // its "dark" comes into force at once
+    QCOMPARE(folders.count(), 1);
+    QVERIFY(theme.palette().color(QPalette::Window) != dark);
+    QVERIFY(theme.setName("night"));
+    QCOMPARE(theme.palette().color(QPalette::Window), dark);
+    QCOMPARE(theme.theme()->filePath(), folder.filePath("default.theme"));
+
+    QVERIFY(theme.setFolder(QString())); // which has no "night": the look stays
+    QCOMPARE(theme.folder(), builtIn);
+    QCOMPARE(theme.name(), "night");
+    QVERIFY(theme.setName("light"));
+}
+
+void tst_ApplicationTheme::folderBesideTheExecutable()
+{
+    const QString beside = QCoreApplication::applicationDirPath() + "/themes";
+    QVERIFY(!QFileInfo::exists(beside));
+    QVERIFY(QDir().mkpath(beside));
+    const auto removeIt = qScopeGuard([&] { QDir(beside).removeRecursively(); });
+    ApplicationTheme theme;
+    QCOMPARE(theme.names(), QStringList({"contrast", "dark", "light"})); // no default file in it
+    QVERIFY(QFile::copy(QString(sampleFolder) + "/default.theme", beside + "/default.theme"));
+    QVERIFY(QFile::copy(":/hvthemeapp/themes/dark.theme", beside + "/own.theme"));
+    QCOMPARE(theme.folder(), beside);
+    QCOMPARE(theme.names(), QStringList("own"));
+    QVERIFY(theme.setName("own"));
+}
+
+void tst_ApplicationTheme::ownVocabulary()
+{
+    TemporaryFolder folder;
+    writeThemes(folder, "\n[Colors]\nAccent=#123456\nQuiet=Brand_6\n");
+    auto own = std::make_unique<OwnTheme>();
+    const OwnTheme *const given = own.get();
+    ApplicationTheme theme(std::move(own));
+    QVERIFY(theme.setFolder(folder.path()));
+    for (const char *name : {"night", "day"}) {
+        QVERIFY(theme.setName(name));
+        QCOMPARE(theme.theme(), given);
+        QCOMPARE(given->color(int(OwnTheme::Color::Accent)), QColor("#123456"));
+    }
+}
+
+void tst_ApplicationTheme::missingKeyOfOwnVocabulary()
+{
+    TemporaryFolder folder;
+    writeThemes(folder, "\n[Colors]\nAccent=#123456\n");
+    ApplicationTheme theme(std::make_unique<OwnTheme>());
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("night"));
+    const Messages messages = m_log.take();
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages.first().text,
+             QString("Theme Color Key [ \"Quiet\" ] is must bu set,but is not set."));
+}
+
+void tst_ApplicationTheme::ownTemplates()
+{
+    TemporaryFolder folder;
+    folder.write("t/a.qss", "Own { color: mine.theme.color.Color_W100; }");
+    folder.write("t/b.css", "Other { x: global.theme.color.Color_W100; }");
+    folder.write("t/c.txt", "Third {}");
+    ApplicationTheme theme;
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    QVERIFY(theme.addTemplates(folder.filePath("t"), "mine"));
+    QCOMPARE(changes.count(), 0);
+    QVERIFY(theme.setName("dark"));
+    const QString color = theme.theme()->color("Color_W100").name();
+    QVERIFY(qApp->styleSheet().contains("Own { color: " + color + "; }"));
+    QVERIFY(qApp->styleSheet().contains("x: global.theme.color.Color_W100"));
+    QVERIFY(!qApp->styleSheet().contains("Third"));
+
+    folder.write("u/d.qss", "Fourth {}");
+    QVERIFY(theme.addTemplates(folder.filePath("u")));
+    QCOMPARE(changes.count(), 2);
+    QVERIFY(qApp->styleSheet().indexOf("Own {") < qApp->styleSheet().indexOf("Fourth {"));
+}
+
+void tst_ApplicationTheme::everythingInForceWhenChanged()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("light"));
+    QLabel label("text");
+    label.ensurePolished();
+    int calls = 0;
+    connect(&theme, &ApplicationTheme::changed, &label, [&] {
+        ++calls;
+        QCOMPARE(QApplication::palette(), theme.palette());
+        QCOMPARE(label.palette().color(QPalette::Window), theme.palette().color(QPalette::Window));
+        QCOMPARE(label.palette().color(QPalette::WindowText).rgb(),
+                 theme.theme()->color("DefaultForegroundColor").rgb());
+    });
+    QVERIFY(theme.setName("dark"));
+    QCOMPARE(calls, 1);
+}
+
+void tst_ApplicationTheme::ownStyleSheetStays()
+{
+    qApp->setStyleSheet("QLabel { padding: 7px }");
+    ApplicationTheme theme;
+    for (const char *name : {"dark", "light", "dark"}) {
+        QVERIFY(theme.setName(name));
+        QCOMPARE(qApp->styleSheet().count("padding: 7px"), 1);
+        QVERIFY(qApp->styleSheet().endsWith("QLabel { padding: 7px }"));
+    }
+    qApp->setStyleSheet("QLabel { padding: 9px }");
+    theme.restyleAgain();
+    QCOMPARE(qApp->styleSheet().count("padding: 7px"), 0);
+    QVERIFY(qApp->styleSheet().endsWith("QLabel { padding: 9px }"));
+    QVERIFY(qApp->styleSheet().size() > 20000);
+
+    ApplicationTheme other; // finds the look of the first one
+    const int size = qApp->styleSheet().size();
+    QVERIFY(other.setName("dark"));
+    QCOMPARE(qApp->styleSheet().size(), size);
+}
+
+void tst_ApplicationTheme::whatPalettesDoNotReach()
+{
+    QTextBrowser browser;
+    browser.setHtml("<a href='x'>link</a> <span style='color: #00ff00'>green</span>");
+    QLineEdit edit;
+    QMdiArea area;
+    QMdiArea ownArea;
+    ownArea.setBackground(Qt::red);
+    ApplicationTheme theme;
+    for (const char *name : {"dark", "light"}) {
+        QVERIFY(theme.setName(name));
+        for (QWidget *widget : {static_cast<QWidget *>(&browser), static_cast<QWidget *>(&edit)})
+            widget->ensurePolished();
+        QTextCursor cursor(browser.document());
+        cursor.setPosition(2);
+        QCOMPARE(cursor.charFormat().foreground().color(), theme.palette().color(QPalette::Link));
+        cursor.setPosition(8);
+        QCOMPARE(cursor.charFormat().foreground().color(), QColor("#00ff00"));
+        QVERIFY(!browser.document()->isModified());
+        QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase),
+                 theme.palette().color(QPalette::ToolTipBase));
+        QCOMPARE(edit.palette().color(QPalette::PlaceholderText),
+                 theme.palette().color(QPalette::PlaceholderText));
+        QCOMPARE(area.background().color(), theme.palette().color(QPalette::Dark));
+        QCOMPARE(ownArea.background().color(), QColor(Qt::red));
+    }
+}
+
+void tst_ApplicationTheme::saveAndRestore()
+{
+    TemporaryFolder folder;
+    QSettings settings(folder.filePath("program.ini"), QSettings::IniFormat);
+    ApplicationTheme theme;
+    QVERIFY(!theme.restore(settings));
+    QCOMPARE(theme.problem(), QString());
+    QVERIFY(theme.setName("light"));
+    settings.beginGroup("Look");
+    theme.save(settings);
+
+    ApplicationTheme next;
+    QVERIFY(next.restore(settings));
+    QCOMPARE(next.name(), "light");
+    QVERIFY(!next.followsDesktop());
+    settings.setValue("FollowsDesktop", true);
+    QVERIFY(next.restore(settings));
+    QVERIFY(next.followsDesktop());
+    settings.setValue("FollowsDesktop", false);
+    settings.setValue("Theme", "gone");
+    QVERIFY(!next.restore(settings));
+    QVERIFY(next.problem().contains("\"gone\""));
+    QCOMPARE(logged(m_log), warning(next.problem()));
+}
+
+void tst_ApplicationTheme::menuInStep()
+{
+    TemporaryFolder folder;
+    writeThemes(folder);
+    ApplicationTheme theme;
+    const std::unique_ptr<QMenu> menu(theme.menu());
+    QCOMPARE(checkedTexts(*menu), QStringList());
+    QVERIFY(theme.setName("dark"));
+    QCOMPARE(checkedTexts(*menu), QStringList("Dark"));
+    actionNamed(*menu, "High contrast")->trigger();
+    QCOMPARE(theme.name(), "contrast");
+    QCOMPARE(checkedTexts(*menu), QStringList("High contrast"));
+    actionNamed(*menu, "As the desktop")->trigger();
+    QVERIFY(theme.followsDesktop());
+    QCOMPARE(checkedTexts(*menu), QStringList("As the desktop"));
+
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(!actionNamed(*menu, "High contrast"));
+    folder.write("third.theme", "ThemeName=Broken & binary\n" + QByteArray(1, '\0'));
+    Q_EMIT menu->aboutToShow();
+    QVERIFY(theme.setName("night"));
+    actionNamed(*menu, "Broken && binary")->trigger();
+    QCOMPARE(checkedTexts(*menu), QStringList("Dark"));
+    QCOMPARE(logged(m_log), warning(theme.problem()));
+}
+
+void tst_ApplicationTheme::liveReload_data()
+{
+    QTest::addColumn<bool>("isReplaced");
+    QTest::newRow("in-place") << false;
+    QTest::newRow("by-rename") << true;
+}
+
+void tst_ApplicationTheme::liveReload()
+{
+    QFETCH(bool, isReplaced);
+    TemporaryFolder folder;
+    writeThemes(folder);
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("night"));
+    theme.setLiveReload(true);
+    for (const char *color : {"#102030", "#405060"}) {
+        QSignalSpy changes(&theme, &ApplicationTheme::changed);
+        const QByteArray text =
+            fileText(":/hvthemeapp/themes/dark.theme")
+                .replace("BackgroundColor_2=Bg_2", QByteArray("BackgroundColor_2=") + color);
+        folder.write(isReplaced ? "new" : "night.theme", text);
+        if (isReplaced)
+            QVERIFY(rename(qPrintable(folder.filePath("new")),
+                           qPrintable(folder.filePath("night.theme")))
+                    == 0);
+        QVERIFY(changes.wait());
+        QCOMPARE(theme.palette().color(QPalette::Window), QColor(color));
+    }
+    // A file that is gone leaves the last good look, and is seen when it is back.
+    QSignalSpy problems(&theme, &ApplicationTheme::problemChanged);
+    const QByteArray text = fileText(folder.filePath("night.theme"));
+    QVERIFY(QFile::remove(folder.filePath("night.theme")));
+    QVERIFY(problems.wait());
+    QCOMPARE(theme.palette().color(QPalette::Window), QColor("#405060"));
+    QCOMPARE(logged(m_log), warning(theme.problem()));
+    folder.write("night.theme", text);
+    QVERIFY(problems.wait());
+    QCOMPARE(theme.problem(), QString());
+}
+
+void tst_ApplicationTheme::objectsTakeTurns()
+{
+    TemporaryFolder folder;
+    writeThemes(folder);
+    ApplicationTheme first;
+    QVERIFY(first.setFolder(folder.path()));
+    QVERIFY(first.setName("night"));
+    first.setLiveReload(true);
+    ApplicationTheme second;
+    QVERIFY(second.setName("light"));
+    const QSignalSpy changes(&first, &ApplicationTheme::changed);
+    folder.write("night.theme", fileText(folder.filePath("night.theme")) + "\n;\n");
+    QTest::qWait(200); // several times as long as a change takes
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(QApplication::palette(), second.palette());
+    QVERIFY(first.setName("night"));
+    QCOMPARE(QApplication::palette(), first.palette());
+}
+
+// All of it can be set from a form or a script.
+void tst_ApplicationTheme::properties()
+{
+    ApplicationTheme theme;
+    const QMetaObject *const meta = theme.metaObject();
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        QVERIFY2(meta->property(i).hasNotifySignal(), meta->property(i).name());
+    QVERIFY(theme.setProperty("name", "dark"));
+    QCOMPARE(theme.property("name").toString(), "dark");
+    QVERIFY(theme.setProperty("followsDesktop", true));
+    QVERIFY(theme.property("followsDesktop").toBool());
+    QVERIFY(theme.setProperty("liveReload", true));
+    QVERIFY(theme.isLiveReload());
 }
 
 QTEST_MAIN(tst_ApplicationTheme)
