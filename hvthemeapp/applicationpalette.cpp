@@ -147,10 +147,25 @@ private:
     {
         const bool isDisabled = group == QPalette::Disabled;
         QColor color = wish(groupName, text.name, !isDisabled);
-        if (!color.isValid())
+        const bool isWish = color.isValid();
+        if (!isWish)
             color = textColor(group, text);
-        if (color.isValid())
-            m_palette.setColor(group, text.role, color);
+        if (!color.isValid())
+            return;
+        m_palette.setColor(group, text.role, color);
+        // On a ground of middle lightness no text has a high contrast; one that carries nothing else
+        // gives way.
+        if (!isWish && text.on[1] == none)
+            m_palette.setColor(group, text.on[0],
+                               ColorMath::liftedToContrast(m_palette.color(group, text.on[0]),
+                                                           color, ratio(group)));
+    }
+
+    double ratio(Group group) const
+    {
+        if (group == QPalette::Disabled)
+            return m_isHighContrast ? 4.5 : 3;
+        return m_isHighContrast ? 7 : 4.5;
     }
 
     QColor textColor(Group group, const Text &text) const
@@ -165,19 +180,18 @@ private:
             color = ColorMath::colorAtLightness(ColorMath::cieLightness(color), link.chroma,
                                                 std::fmod(link.hue + visitedTurn, 360));
         }
-        return legible(color, group, text, isDisabled);
+        return legible(color, group, text);
     }
 
-    QColor legible(QColor color, Group group, const Text &text, bool isDisabled) const
+    QColor legible(QColor color, Group group, const Text &text) const
     {
-        const double ratio =
-            isDisabled ? (m_isHighContrast ? 4.5 : 3) : (m_isHighContrast ? 7 : 4.5);
+        const double wanted = ratio(group);
         // The worst ground first: what suffices there mostly suffices on the others.
         for (int round = 0; round < 5; ++round) {
             const QColor worst = worstGround(color, group, text);
-            if (ColorMath::contrastRatio(color, worst) >= ratio)
+            if (ColorMath::contrastRatio(color, worst) >= wanted)
                 break;
-            color = ColorMath::liftedToContrast(color, worst, ratio);
+            color = ColorMath::liftedToContrast(color, worst, wanted);
         }
         return color;
     }
