@@ -89,6 +89,7 @@ private Q_SLOTS:
     void init();
     void builtIn_data();
     void builtIn();
+    void oneSet();
     void everyImageOfTheTemplates();
     void ownImagesWin();
     void followsASwitch();
@@ -150,6 +151,22 @@ void tst_ThemedIcon::builtIn()
     const QString path = m_theme.theme()->imageFile(name);
     QVERIFY2(QFile::exists(path), qPrintable(path));
     QVERIFY(!isEmpty(QPixmap(path)));
+}
+
+// The library's own drawings: one grid, one width of stroke, no colour of their own.
+void tst_ThemedIcon::oneSet()
+{
+    const QDir folder(QString(HVTHEME_SOURCE_DIR) + "/hvthemeapp/icons");
+    const QRegularExpression paint("(?:fill|stroke)=\"(?!none\"|global\\.theme\\.color\\.\\w+\")");
+    for (const QString &name : folder.entryList({"*.svg"})) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        QVERIFY2(text.contains("viewBox=\"0 0 20 20\""), qPrintable(name));
+        QVERIFY2(text.count("stroke-width=") == 1 && text.contains("stroke-width=\"1.5\""),
+                 qPrintable(name));
+        QVERIFY2(!paint.match(text).hasMatch(), qPrintable(name));
+    }
 }
 
 // The embedded themes have colours alone.
