@@ -33,6 +33,11 @@ private Q_SLOTS:
     void leftAlone_data();
     void leftAlone();
     void firstOfSeveral();
+    void folderOfThemes();
+    void noSuchTheme();
+    void desktop_data();
+    void desktop();
+    void themeOfItsOwn();
 
 private:
     QJsonObject m_plain; // the program that does nothing, in the dark theme
@@ -315,6 +320,62 @@ void tst_Plugin::firstOfSeveral()
     QCOMPARE(facts.errors, QByteArray());
     QCOMPARE(facts.object["window"], m_plain["window"]);
     QCOMPARE(facts.object["sheet"], m_plain["sheet"]);
+}
+
+void tst_Plugin::folderOfThemes()
+{
+    const QTemporaryDir folder;
+    const QString sample = HVTHEME_SOURCE_DIR "/themes/";
+    QVERIFY(QFile::copy(sample + "default.theme", folder.filePath("default.theme")));
+    QVERIFY(QFile::copy(sample + "dark.theme", folder.filePath("night, of mine.theme")));
+    const Facts facts = ::themed("plain", {"--themes", folder.path(), "--theme", "night, of mine"});
+    QCOMPARE(facts.object["window"], m_plain["window"]);
+    QCOMPARE(facts.object["text"], m_plain["text"]);
+    QCOMPARE(facts.code, 0);
+}
+
+// The program is what its user wants; a theme comes second.
+void tst_Plugin::noSuchTheme()
+{
+    const Facts plain = run({"plain"}, {}, HVTHEME_PROGRAM);
+    const Facts facts = ::themed("plain", {"--theme", "no such"});
+    QCOMPARE(facts.code, 0);
+    QCOMPARE(facts.object["sheet"], plain.object["sheet"]);
+    QCOMPARE(facts.object["window"], plain.object["window"]);
+    QVERIFY2(facts.errors.count('\n') == 1 && facts.errors.contains("no such"),
+             facts.errors.constData());
+}
+
+void tst_Plugin::desktop_data()
+{
+    QTest::addColumn<QByteArray>("ground");
+    QTest::addColumn<bool>("isDark");
+
+    QTest::newRow("dark") << QByteArray("30,30,34") << true;
+    QTest::newRow("light") << QByteArray("240,240,240") << false;
+}
+
+void tst_Plugin::desktop()
+{
+    QFETCH(QByteArray, ground);
+    QFETCH(bool, isDark);
+    const TemporaryTheme home("");
+    home.write("kdeglobals", "[Colors:Window]\nBackgroundNormal=" + ground + '\n');
+    const QStringList environment{"XDG_CONFIG_HOME=" + home.path(),
+                                  "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
+    const Facts facts = ::themed("plain", {"--follow"}, environment);
+    QCOMPARE(facts.errors, QByteArray());
+    QCOMPARE(::isDark(facts.object["window"]), isDark);
+    QVERIFY(!facts.object["sheet"].toString().isEmpty());
+}
+
+void tst_Plugin::themeOfItsOwn()
+{
+    const Facts plain = run({}, {}, HVTHEME_THEMED_PROGRAM);
+    const Facts facts = run({"run", "--theme", "dark", "--", HVTHEME_THEMED_PROGRAM});
+    QCOMPARE(facts.errors, QByteArray());
+    QVERIFY(!facts.object["sheet"].toString().isEmpty());
+    QCOMPARE(facts.object, plain.object);
 }
 
 QTEST_GUILESS_MAIN(tst_Plugin)
