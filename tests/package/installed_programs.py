@@ -24,11 +24,24 @@ def expect_version(program, version, environment):
     expect(output == f"{program.name} {version}\n", f"{program} --version printed {output!r}")
 
 
+def expect_own_libraries(prefix, binary, environment):
+    libraries, _ = run("ldd", binary, env=environment)
+    for line in libraries.splitlines():
+        strange = "libhvtheme" in line and not line.split(" => ")[1].startswith(f"{prefix}/")
+        expect(not strange, f"{binary.name} takes a library from elsewhere: {line}")
+
+
 def use_command(prefix, work, environment):
     themes = prefix / "share/hvtheme/themes"
     sheet, _ = run(prefix / "bin/hvtheme", "render", themes, "dark", env=environment)
     path = f"{prefix}/share/hvtheme/themes/dark/checkbox_on.svg"
     expect(path in sheet, f"the style sheet does not name {path}")
+    seen, _ = run(prefix / "bin/hvtheme", "run", "--theme", "dark", "--", "env", env=environment)
+    folder = dict(line.split("=", 1) for line in seen.splitlines() if "=" in line)["QT_PLUGIN_PATH"].split(":")[-1]
+    plugins = sorted(pathlib.Path(folder).glob("generic/*.so"))
+    expect(plugins and str(plugins[0]).startswith(f"{prefix}/"), f"there is no plugin in {folder}")
+    for plugin in plugins:
+        expect_own_libraries(prefix, plugin, environment)
 
 
 def use_icons(prefix, work, environment):
@@ -67,10 +80,7 @@ def check(cmake, build, config, work, version):
         expect(program.name in USES, f"{program.name} is installed, and nothing here says how to try it")
         expect_version(program, version, environment)
         USES[program.name](moved, work, environment)
-        libraries, _ = run("ldd", program, env=environment)
-        for line in libraries.splitlines():
-            strange = "libhvtheme" in line and not line.split(" => ")[1].startswith(f"{moved}/")
-            expect(not strange, f"{program.name} takes a library from elsewhere: {line}")
+        expect_own_libraries(moved, program, environment)
 
     (work / "away").rename(installed)
     foreign = installed / "share/hvtheme/themes/mine.theme"
