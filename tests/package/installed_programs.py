@@ -74,6 +74,8 @@ def check(cmake, build, config, work, version):
     # Neither a run path into the build folder nor the caller's libraries may help.
     environment = {key: value for key, value in os.environ.items() if key != "LD_LIBRARY_PATH"}
     environment.update(QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(work))
+    for page in ("README.md", "docs/theme-files.md", "docs/rules/key-exists.md"):
+        expect((moved / "share/doc/hvtheme" / page).exists(), f"{page} is not installed")
     programs = sorted(path for path in (moved / "bin").iterdir())
     expect(programs, "no program is installed")
     for program in programs:
