@@ -20,7 +20,8 @@ templates and a form; its blocks are taken in their order:
 
 A comment right before a block says otherwise: <!-- test: skip REASON -->, <!-- test: file NAME -->
 (the block becomes that file), <!-- test: after COMMAND -->
-(the command is run first),
+(the command is run first,
+in a folder for this block alone),
 <!-- test: default --> (the theme is also read as a default file, which must not hide the sample themes), <!-- test: folder PATH --> (the block and those below run in a copy of
 that folder, as seen from the page), <!-- test: project --> (the block builds a copy of the
 project, which takes minutes, and so runs with --build alone).
@@ -151,6 +152,9 @@ class Page:
             self.folder = folder = self.folder / f"copy-{self.count}"
             shutil.copytree(self.path.parent / block.argument, folder)
         elif block.directive == "after":
+            folder = self.folder / f"after-{self.count}"
+            folder.mkdir()
+            self.workshop.furnish(folder)
             self.workshop.run(folder, "sh", "-ec", block.argument)
         elif block.directive == "project":
             return
@@ -220,7 +224,8 @@ class Page:
             program.unlink()
             return
         if not re.search(r"^(class|struct|#include|\w[\w:<> ]* \**\w*::\w+\(|void \w+\()", text, re.MULTILINE):
-            text = "void block(HV::WorkableTheme &theme, QApplication &app, QWidget &window, QMenu *menu)\n{\n" + text + "}\n"
+            app = "" if "QApplication app" in text else "app"
+            text = f"void block(int argc, char **argv, HV::WorkableTheme &theme, QApplication &{app}, QWidget &window, QMenu *menu)\n{{\n{text}}}\n"
         source.write_text(PREAMBLE + text)
         self.workshop.run(folder, self.workshop.cxx, *options, "-fsyntax-only", source, *libraries)
 
