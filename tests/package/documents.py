@@ -224,6 +224,10 @@ class Page:
             program.unlink()
             return
         if not re.search(r"^(class|struct|#include|\w[\w:<> ]* \**\w*::\w+\(|void \w+\()", text, re.MULTILINE):
+            # The reader's own actions and buttons are known by their names.
+            kinds = {"Action": "QAction", "Button": "QPushButton"}
+            own = sorted(set(re.findall(r"\b(\w+)(Action|Button)->", text)))
+            text = "".join(f"{kinds[kind]} *{name}{kind} = nullptr;\n" for name, kind in own) + text
             app = "" if "QApplication app" in text else "app"
             text = f"void block(int argc, char **argv, HV::WorkableTheme &theme, QApplication &{app}, QWidget &window, QMenu *menu)\n{{\n{text}}}\n"
         source.write_text(PREAMBLE + text)
