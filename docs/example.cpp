@@ -1,19 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include <hvtheme/workabletheming.h>
+#include <hvthemeapp/applicationtheme.h>
 
-#include <QApplication>
-#include <QPushButton>
+#include <QtWidgets>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    HV::WorkableTheme theme;
-    HV::changeAppStyleSheet(&theme, "dark", "themes"); // default.theme, then dark.theme
+    HV::ApplicationTheme theme; // dark, light and contrast are inside
+    theme.followDesktop(); // or theme.setName("dark")
 
-    QPushButton apply("Apply");
-    apply.setProperty("style", "general"); // a variant of the built-in templates
-    apply.show();
+    QMainWindow window;
+    window.menuBar()->addMenu(theme.menu(&window)); // lets the user choose
+    window.show();
     return QApplication::exec();
 }
