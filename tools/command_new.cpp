@@ -133,16 +133,6 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
     return made;
 }
 
-QString report(const QString &folder, const Maker::MadeThemes &made)
-{
-    QString text;
-    for (const Maker::MadeFile &file : made.files)
-        text += QDir(folder).filePath(file.fileName) % QLatin1Char('\n');
-    for (const QString &note : made.notes)
-        text += QLatin1String("note: ") % note % QLatin1Char('\n');
-    return text;
-}
-
 // Returns what is wrong with the usage, or a null text.
 QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, Maker::Order *order,
                   std::optional<QColor> *brand)
@@ -209,5 +199,5 @@ int runNew(const QStringList &arguments)
         printError(error);
         return ExitUnusable;
     }
-    return writeStandardOutput(report(folder, *made)) ? ExitDone : ExitUnusable;
+    return writeStandardOutput(writtenFiles(folder, *made)) ? ExitDone : ExitUnusable;
 }

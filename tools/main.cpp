@@ -4,6 +4,8 @@
 #include <tools/command_check.h>
 #include <tools/command_diff.h>
 #include <tools/command_explain.h>
+#include <tools/command_export.h>
+#include <tools/command_import.h>
 #include <tools/command_new.h>
 #include <tools/command_render.h>
 #include <tools/command_run.h>
@@ -42,6 +44,8 @@ const Command commands[] = {
     {"explain", "Tell where a value comes from and what uses it.", Needs::Core, runExplain},
     {"diff", "List the values in which two themes differ.", Needs::Core, runDiff},
     {"new", "Make a folder of themes of one colour.", Needs::Core, runNew},
+    {"export", "Write a theme in a format of others.", Needs::Widgets, runExport},
+    {"import", "Make a folder of themes of design tokens.", Needs::Core, runImport},
     {"run", "Run an unmodified program in a theme.", Needs::Program, nullptr, runProgram},
     {"sheet", "Draw themes side by side, as a picture or a page.", Needs::Widgets, runSheet},
 };

@@ -67,3 +67,13 @@ bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &file
         QDir().rmdir(folder);
     return false;
 }
+
+QString writtenFiles(const QString &folder, const Maker::MadeThemes &made)
+{
+    QString text;
+    for (const Maker::MadeFile &file : made.files)
+        text += QDir(folder).filePath(file.fileName) % QLatin1Char('\n');
+    for (const QString &note : made.notes)
+        text += QLatin1String("note: ") % note % QLatin1Char('\n');
+    return text;
+}

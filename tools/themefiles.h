@@ -17,4 +17,7 @@
 bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
                      QString *error);
 
+/*! \brief Tells the user what was written to \a folder: the files and the notes, a line each. */
+QString writtenFiles(const QString &folder, const Maker::MadeThemes &made);
+
 #endif

@@ -1,0 +1,365 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <exchange/designtokens.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <cmath>
+
+namespace Exchange
+{
+
+namespace
+{
+
+const QString valueName = QStringLiteral("$value");
+const QString typeName = QStringLiteral("$type");
+
+// --- writing
+
+QJsonObject colorValue(const QColor &color)
+{
+    const QColor rgb = color.toRgb();
+    const auto component = [](int value) { return std::round(value / 255.0 * 1e6) / 1e6; };
+    return {{QStringLiteral("colorSpace"), QStringLiteral("srgb")},
+            {QStringLiteral("components"),
+             QJsonArray{component(rgb.red()), component(rgb.green()), component(rgb.blue())}},
+            {QStringLiteral("alpha"), component(rgb.alpha())},
+            {QStringLiteral("hex"), rgb.name(QColor::HexRgb)}};
+}
+
+QJsonObject token(const QJsonValue &value)
+{
+    return {{valueName, value}};
+}
+
+QJsonObject integerToken(const QString &key, qint64 value)
+{
+    if (!key.startsWith(QLatin1String("FontSize_")))
+        return {{typeName, QStringLiteral("number")}, {valueName, double(value)}};
+    return {{typeName, QStringLiteral("dimension")},
+            {valueName,
+             QJsonObject{{QStringLiteral("value"), double(value)},
+                         {QStringLiteral("unit"), QStringLiteral("px")}}}};
+}
+
+QJsonArray gradientValue(const QGradientStops &stops)
+{
+    QJsonArray array;
+    for (const QGradientStop &stop : stops)
+        array.append(QJsonObject{{QStringLiteral("color"), colorValue(stop.second)},
+                                 {QStringLiteral("position"), stop.first}});
+    return array;
+}
+
+bool isTokenName(const QString &key)
+{
+    static const QRegularExpression forbidden(QStringLiteral("^\\$|[.{}]"));
+    return !key.isEmpty() && !key.contains(forbidden);
+}
+
+template<typename Value, typename ToToken>
+QJsonObject group(const char *type, const QMap<QString, Value> &values, QString *error,
+                  ToToken toToken)
+{
+    QJsonObject object;
+    if (type)
+        object.insert(typeName, QString::fromLatin1(type));
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (!isTokenName(it.key()))
+            *error = QLatin1String("the key \"") % it.key()
+                % QLatin1String("\" cannot name a design token: it holds a dot or a brace, or "
+                                "begins with a dollar sign");
+        object.insert(it.key(), toToken(it.key(), it.value()));
+    }
+    return object;
+}
+
+// --- reading
+
+struct FoundToken {
+    QString type; // its own, or that of the nearest group with one
+    QJsonValue value;
+};
+
+// The first mistake counts; what follows it is read with stand-ins and thrown away.
+class Reader
+{
+public:
+    explicit Reader(const QJsonObject &root) { collect(root, {}, {}, 0); }
+
+    ThemeContent content();
+
+    /*! One sentence about the first mistake, or a null text. */
+    QString mistake() const { return m_mistake; }
+
+private:
+    void collect(const QJsonObject &object, const QStringList &path, const QString &type,
+                 int depth);
+    FoundToken resolved(const QString &name);
+    static QString aliasOf(const QJsonValue &value);
+    QColor color(const QString &name, const QJsonValue &value);
+    QColor colorOfObject(const QString &name, const QJsonObject &value);
+    ThemeColor themeColor(const QString &name);
+    QGradientStops gradient(const QString &name, const QJsonValue &value);
+    qint64 integer(const QString &name, const QJsonValue &value);
+
+    void fail(const QString &name, const QString &what)
+    {
+        if (m_mistake.isNull())
+            m_mistake = QLatin1String("token ") % name % QLatin1String(": ") % what;
+    }
+
+    QString m_mistake;
+
+    QMap<QString, FoundToken> m_tokens; // by path, with dots
+};
+
+void Reader::collect(const QJsonObject &object, const QStringList &path, const QString &type,
+                     int depth)
+{
+    constexpr int deepest = 64;
+    if (depth > deepest) {
+        fail(path.join(QLatin1Char('.')), QStringLiteral("groups within groups without end"));
+        return;
+    }
+    const QString ownType = object.value(typeName).toString(type);
+    if (object.contains(valueName)) {
+        m_tokens.insert(path.join(QLatin1Char('.')), {ownType, object.value(valueName)});
+        return;
+    }
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        if (!it.key().startsWith(QLatin1Char('$')) && it.value().isObject())
+            collect(it.value().toObject(), path + QStringList(it.key()), ownType, depth + 1);
+    }
+}
+
+// Returns the token that "{a.b}" names, or a null text.
+QString Reader::aliasOf(const QJsonValue &value)
+{
+    const QString text = value.toString();
+    const bool isAlias = text.startsWith(QLatin1Char('{')) && text.endsWith(QLatin1Char('}'));
+    return isAlias ? text.mid(1, text.size() - 2) : QString();
+}
+
+FoundToken Reader::resolved(const QString &name)
+{
+    FoundToken found = m_tokens.value(name);
+    QStringList way{name};
+    for (QString alias = aliasOf(found.value); !alias.isNull(); alias = aliasOf(found.value)) {
+        if (way.contains(alias)) {
+            fail(name,
+                 QLatin1String("it is an alias of itself: ")
+                     % (way + QStringList(alias)).join(QLatin1String(" -> ")));
+            return {found.type, QJsonValue()};
+        }
+        if (!m_tokens.contains(alias)) {
+            fail(name, QLatin1String("there is no token ") % alias);
+            return {found.type, QJsonValue()};
+        }
+        way.append(alias);
+        const QString type = found.type;
+        found = m_tokens.value(alias);
+        if (found.type.isEmpty())
+            found.type = type;
+    }
+    return found;
+}
+
+QColor Reader::colorOfObject(const QString &name, const QJsonObject &value)
+{
+    const double alpha = value.value(QStringLiteral("alpha")).toDouble(1.0);
+    if (!(alpha >= 0 && alpha <= 1))
+        fail(name, QStringLiteral("alpha is a number from 0 to 1"));
+    const QString hex = value.value(QStringLiteral("hex")).toString();
+    QColor color;
+    if (!hex.isEmpty()) { // exact, where components are rounded
+        color = QColor(hex);
+        if (!color.isValid() || hex.size() != 7)
+            fail(name, QLatin1String("\"") % hex % QLatin1String("\" is no hex colour"));
+    } else if (value.value(QStringLiteral("colorSpace")).toString() == QLatin1String("srgb")) {
+        const QJsonArray components = value.value(QStringLiteral("components")).toArray();
+        if (components.size() != 3)
+            fail(name, QStringLiteral("an sRGB colour has three components"));
+        const auto channel = [&](int i) { return qBound(0.0, components.at(i).toDouble(0), 1.0); };
+        color = QColor::fromRgbF(channel(0), channel(1), channel(2)).toRgb();
+        color = QColor(color.rgb());
+    } else {
+        fail(name, QStringLiteral("of colour spaces other than srgb only \"hex\" is read"));
+    }
+    color.setAlpha(qRound(qBound(0.0, alpha, 1.0) * 255));
+    return color;
+}
+
+QColor Reader::color(const QString &name, const QJsonValue &value)
+{
+    const QString alias = aliasOf(value); // within a gradient
+    if (!alias.isNull()) {
+        if (!m_tokens.contains(alias))
+            fail(name, QLatin1String("there is no token ") % alias);
+        const QJsonValue named = resolved(alias).value;
+        return aliasOf(named).isNull() ? color(alias, named) : QColor();
+    }
+    if (value.isObject())
+        return colorOfObject(name, value.toObject());
+    static const QRegularExpression pattern(
+        QStringLiteral("^#(?:[0-9A-Fa-f]{3}|[0-9A-Fa-f]{6}|[0-9A-Fa-f]{8})$"));
+    const QString text = value.toString();
+    if (!pattern.match(text).hasMatch())
+        fail(name, QStringLiteral("it is no colour: an object of a colour space, or \"#rrggbb\""));
+    if (text.size() != 9)
+        return QColor(text);
+    QColor color(text.left(7));
+    color.setAlpha(text.mid(7).toInt(nullptr, 16));
+    return color;
+}
+
+ThemeColor Reader::themeColor(const QString &name)
+{
+    const QString alias = aliasOf(m_tokens.value(name).value);
+    const QString group = QStringLiteral("palette.");
+    return {color(name, resolved(name).value),
+            alias.startsWith(group) ? alias.mid(group.size()) : QString()};
+}
+
+QGradientStops Reader::gradient(const QString &name, const QJsonValue &value)
+{
+    QGradientStops stops;
+    const QJsonArray array = value.toArray();
+    if (array.isEmpty())
+        fail(name, QStringLiteral("a gradient is a list of stops"));
+    for (const auto &stop : array) {
+        const QJsonObject object = stop.toObject();
+        const QJsonValue position = object.value(QStringLiteral("position"));
+        if (!position.isDouble())
+            fail(name, QStringLiteral("the position of a stop is a number"));
+        stops.append({position.toDouble(), color(name, object.value(QStringLiteral("color")))});
+    }
+    return stops;
+}
+
+qint64 Reader::integer(const QString &name, const QJsonValue &value)
+{
+    const QJsonObject dimension = value.toObject();
+    const QJsonValue number = value.isObject() ? dimension.value(QStringLiteral("value")) : value;
+    if (!number.isDouble())
+        fail(name, QStringLiteral("it is no number and no dimension"));
+    if (value.isObject()
+        && dimension.value(QStringLiteral("unit")).toString() != QLatin1String("px"))
+        fail(name, QStringLiteral("of dimensions only px is read"));
+    const double rounded = std::round(number.toDouble());
+    if (!(std::abs(rounded) <= 2147483647.0))
+        fail(name, QStringLiteral("the number does not fit into 32 bits"));
+    return qint64(rounded);
+}
+
+// The name of a palette entry for a token of another author.
+QString paletteName(const QString &path)
+{
+    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9_]+"));
+    return QString(path).replace(others, QStringLiteral("_"));
+}
+
+ThemeContent Reader::content()
+{
+    ThemeContent theme;
+    for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
+        const QString &name = it.key();
+        const QString group = name.section(QLatin1Char('.'), 0, 0);
+        const QString key = name.section(QLatin1Char('.'), 1);
+        const bool isOurs = !key.isEmpty() && !key.contains(QLatin1Char('.'));
+        const FoundToken found = resolved(name);
+        if (isOurs && group == QLatin1String("palette"))
+            theme.palette.insert(key, color(name, found.value));
+        else if (isOurs && group == QLatin1String("color"))
+            theme.colors.insert(key, themeColor(name));
+        else if (isOurs && group == QLatin1String("gradient"))
+            theme.gradients.insert(key, gradient(name, found.value));
+        else if (isOurs && group == QLatin1String("integer"))
+            theme.integers.insert(key, integer(name, found.value));
+        else if (found.type == QLatin1String("color"))
+            theme.palette.insert(paletteName(name), color(name, found.value));
+    }
+    return theme;
+}
+
+} // namespace
+
+std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error)
+{
+    QJsonObject flags;
+    for (auto it = theme.flags.cbegin(); it != theme.flags.cend(); ++it)
+        flags.insert(it.key(), it.value());
+    QJsonObject images;
+    for (auto it = theme.imageFiles.cbegin(); it != theme.imageFiles.cend(); ++it)
+        images.insert(it.key(), it.value());
+
+    error->clear();
+    const QJsonObject root{
+        {QStringLiteral("palette"),
+         group("color", theme.palette, error,
+               [](const QString &, const QColor &color) { return token(colorValue(color)); })},
+        {QStringLiteral("color"),
+         group("color", theme.colors, error,
+               [](const QString &, const ThemeColor &color) {
+                   return color.palette.isEmpty()
+                       ? token(colorValue(color.color))
+                       : token(
+                           QString(QLatin1String("{palette.") % color.palette % QLatin1Char('}')));
+               })},
+        {QStringLiteral("gradient"),
+         group("gradient", theme.gradients, error,
+               [](const QString &, const QGradientStops &stops) {
+                   return token(gradientValue(stops));
+               })},
+        {QStringLiteral("integer"), group(nullptr, theme.integers, error, integerToken)},
+        {QStringLiteral("$extensions"),
+         QJsonObject{{QStringLiteral("hvtheme"),
+                      QJsonObject{{QStringLiteral("name"), theme.name},
+                                  {QStringLiteral("displayName"), theme.displayName},
+                                  {QStringLiteral("flags"), flags},
+                                  {QStringLiteral("imageFiles"), images}}}}},
+    };
+    if (!error->isEmpty())
+        return std::nullopt;
+    return QJsonDocument(root).toJson();
+}
+
+std::optional<ThemeContent> readDesignTokens(const QByteArray &text, QString *error)
+{
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(text, &parseError);
+    if (!document.isObject()) {
+        *error = parseError.error == QJsonParseError::NoError
+            ? QStringLiteral("no JSON object")
+            : QLatin1String("no JSON: ") % parseError.errorString() % QLatin1String(" at byte ")
+                % QString::number(parseError.offset);
+        return std::nullopt;
+    }
+    const QJsonObject root = document.object();
+    const QJsonObject own = root.value(QStringLiteral("$extensions"))
+                                .toObject()
+                                .value(QStringLiteral("hvtheme"))
+                                .toObject();
+    Reader reader(root);
+    ThemeContent theme = reader.content();
+    if (!reader.mistake().isNull()) {
+        *error = reader.mistake();
+        return std::nullopt;
+    }
+    theme.name = own.value(QStringLiteral("name")).toString();
+    theme.displayName = own.value(QStringLiteral("displayName")).toString();
+    const QJsonObject flags = own.value(QStringLiteral("flags")).toObject();
+    for (auto it = flags.begin(); it != flags.end(); ++it)
+        theme.flags.insert(it.key(), it.value().toBool());
+    const QJsonObject images = own.value(QStringLiteral("imageFiles")).toObject();
+    for (auto it = images.begin(); it != images.end(); ++it)
+        theme.imageFiles.insert(it.key(), it.value().toString());
+    return theme;
+}
+
+} // namespace Exchange

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "commandrun.h"
+
+#include <QtTest>
+
+// `hvtheme export` and `hvtheme import`: what goes out comes back, and nothing half.
+class tst_Exchange : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void roundTrip_data();
+    void roundTrip();
+    void tokensOfOthers();
+    void exportRefused_data();
+    void exportRefused();
+    void importRefused_data();
+    void importRefused();
+    void keepsWhatIsThere();
+};
+
+namespace
+{
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString written(const QTemporaryDir &folder, const QString &name, const QByteArray &content)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(name));
+    return file.fileName();
+}
+
+} // namespace
+
+void tst_Exchange::roundTrip_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("theme");
+
+    for (const char *look : {"dark", "light", "contrast"})
+        QTest::newRow(look) << HVTHEME_TEST_DIR "/../themes" << look;
+    QTest::newRow("night") << "themes"
+                           << "night";
+}
+
+// Values, palette entries behind colours, paths, flags and names: all that a theme has in store.
+void tst_Exchange::roundTrip()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, theme);
+    const QTemporaryDir place;
+    const QString tokens = place.filePath("tokens.json");
+    const CommandRun out({"export", folder, theme, "-o", tokens});
+    QCOMPARE(out.errors, QByteArray());
+    QCOMPARE(out.exitCode, 0);
+    const QString made = place.filePath("made");
+    const CommandRun in({"import", tokens, made});
+    QCOMPARE(in.errors, QByteArray());
+    QCOMPARE(in.output, QString("%1/default.theme\n%1/%2.theme\n").arg(made, theme).toUtf8());
+    const CommandRun again({"export", made, theme});
+    QCOMPARE(again.output, contentOf(tokens));
+
+    // Kind, key, value and palette entry; the place in the file differs.
+    const auto values = [&](const QString &from) {
+        QByteArrayList rows;
+        const CommandRun run({"values", from, theme, "--format", "csv", "--app-dir", "images"});
+        for (const QByteArray &line : run.output.split('\n'))
+            rows << line.split(',').mid(0, 3).join(',');
+        return rows;
+    };
+    QVERIFY(values(folder).size() > 3);
+    QCOMPARE(values(made), values(folder));
+}
+
+void tst_Exchange::tokensOfOthers()
+{
+    const QTemporaryDir place;
+    const QString tokens = written(place, "tokens.json", R"({
+        "grey": {"$type": "color", "$value": "#808080"},
+        "brand": {"primary": {"$type": "color", "$value": "#8a3324"}}
+    })");
+    const CommandRun run({"import", tokens, place.filePath("made"), "--name", "Rust"});
+    QCOMPARE(run.errors, QByteArray());
+    QVERIFY2(run.output.contains("note: no token names a colour of a theme, so themes are made of "
+                                 "brand_primary, #8A3324\n"),
+             run.output.constData());
+    const QByteArray base = contentOf(place.filePath("made/default.theme"));
+    QVERIFY(base.contains("\nbrand_primary=#8A3324\n") && base.contains("\ngrey=#808080\n"));
+    const CommandRun check({"check", place.filePath("made")});
+    QVERIFY2(check.exitCode == 0, check.output.constData());
+}
+
+void tst_Exchange::exportRefused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("reason");
+
+    QTest::newRow("format") << QStringList{"themes", "night", "--format", "pdf"}
+                            << QByteArray("no format is called \"pdf\"; there are tokens, css, "
+                                          "palette and gpl");
+    QTest::newRow("theme") << QStringList{"themes", "dusk"} << QByteArray("dusk");
+    QTest::newRow("no-theme") << QStringList{"themes"}
+                              << QByteArray("the name of a theme is missing");
+    QTest::newRow("empty-output") << QStringList{"themes", "night", "-o", ""}
+                                  << QByteArray("--output needs the name of a file");
+    QTest::newRow("own-source") << QStringList{"themes", "night", "-o", "themes/night.theme"}
+                                << QByteArray("night.theme");
+}
+
+void tst_Exchange::exportRefused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, reason);
+    const CommandRun run(QStringList{"export"} + arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.errors.contains(reason), run.errors.constData());
+    QCOMPARE(run.errors.count('\n'), 1);
+    QCOMPARE(run.output, QByteArray());
+}
+
+void tst_Exchange::importRefused_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("reason");
+
+    QTest::newRow("empty") << QByteArray() << QByteArray("tokens.json: no JSON: ");
+    QTest::newRow("binary") << QByteArray(1000, '\0') << QByteArray("tokens.json: no JSON: ");
+    QTest::newRow("no-color") << QByteArray("{}")
+                              << QByteArray("tokens.json: there is no token of the type color");
+    QTest::newRow("circle")
+        << QByteArray(R"({"color":{"a":{"$value":"{color.a}"}}})")
+        << QByteArray("tokens.json: token color.a: it is an alias of itself: color.a -> color.a");
+}
+
+void tst_Exchange::importRefused()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, reason);
+    const QTemporaryDir place;
+    const CommandRun run(
+        {"import", written(place, "tokens.json", content), place.filePath("made")});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.errors.contains(reason), run.errors.constData());
+    QCOMPARE(run.errors.count('\n'), 1);
+    QVERIFY(!QFileInfo::exists(place.filePath("made")));
+}
+
+void tst_Exchange::keepsWhatIsThere()
+{
+    const TemporaryTheme folder("[General]\nThemeName=Mine\n");
+    const QTemporaryDir place;
+    const QString tokens = written(place, "t.json", R"({"a":{"$type":"color","$value":"#123"}})");
+    const CommandRun run({"import", tokens, folder.path()});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY(run.errors.contains("there are themes already"));
+    QCOMPARE(contentOf(folder.path("default.theme")), QByteArray("[General]\nThemeName=Mine\n"));
+    QCOMPARE(CommandRun({"import", tokens, folder.path(), "--force"}).exitCode, 0);
+
+    QFile large(place.filePath("large.json"));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(100 * 1024 * 1024));
+    const CommandRun refused({"import", large.fileName(), place.filePath("made")});
+    QCOMPARE(refused.exitCode, 2);
+    QCOMPARE(refused.errors.count('\n'), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_Exchange)
+#include "tst_exchange.moc"
