@@ -17,14 +17,18 @@ namespace
 constexpr int gradientSizeLimit = 10000;
 
 std::unique_ptr<ThemeLayer> readLayer(const ThemeFolder &folder, const QString &name,
-                                      QString *error)
+                                      const QHash<QString, QByteArray> &contents, QString *error)
 {
-    const std::optional<ThemeFile> file = folder.read(name, error);
+    const QString path = folder.filePath(name);
+    const auto unsaved = contents.constFind(path);
+    const std::optional<ThemeFile> file = unsaved == contents.cend()
+        ? folder.read(name, error)
+        : ThemeFile::fromContent(path, *unsaved, error);
     if (!file)
         return nullptr;
     const MessageLog silence; // QSettings warns of empty keys
     auto layer =
-        std::make_unique<ThemeLayer>(ThemeLayer{*file, ThemeValues::read(file->path()), name});
+        std::make_unique<ThemeLayer>(ThemeLayer{*file, ThemeValues::read(file->content()), name});
     for (const ThemeValue &value : layer->values.values) {
         if (value.gradientSize > gradientSizeLimit) {
             *error = QStringLiteral("%1: gradient %2 claims %3 stops, which takes the library "
@@ -74,21 +78,20 @@ bool ThemeProject::readThemes(QString *error)
     const bool hasDefault = names.removeAll(folder->themeNames().constFirst()) > 0;
     names.removeDuplicates();
 
-    m_layers.push_back(readLayer(*folder, folder->themeNames().constFirst(), error));
+    m_layers.push_back(
+        readLayer(*folder, folder->themeNames().constFirst(), m_options.contents, error));
     if (!m_layers.back())
         return false;
     const ThemeLayer *base = m_layers.front().get();
-    m_base =
-        std::make_unique<ThemeStack>(base->name, m_options.folder, m_options.suffix, base, nullptr);
+    m_base = std::make_unique<ThemeStack>(base->name, base, nullptr);
     if (hasDefault && (!m_options.themes.isEmpty() || names.isEmpty()))
         m_themes.push_back(m_base.get());
     m_allThemes.push_back(m_base.get());
     for (const QString &name : qAsConst(names)) {
-        m_layers.push_back(readLayer(*folder, name, error));
+        m_layers.push_back(readLayer(*folder, name, m_options.contents, error));
         if (!m_layers.back())
             return false;
-        m_stacks.push_back(std::make_unique<ThemeStack>(name, m_options.folder, m_options.suffix,
-                                                        base, m_layers.back().get()));
+        m_stacks.push_back(std::make_unique<ThemeStack>(name, base, m_layers.back().get()));
         m_themes.push_back(m_stacks.back().get());
         m_allThemes.push_back(m_stacks.back().get());
     }

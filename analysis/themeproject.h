@@ -18,6 +18,7 @@
 struct ThemeProjectOptions {
     QString folder;
     QString suffix = defaultThemeSuffix();
+    QHash<QString, QByteArray> contents; //!< by path: theme files as an editor has them
     QStringList themes; //!< by name; empty means all
     QStringList templates{QStringLiteral(":/stylesheet")};
     QString prefix = Tokens::defaultPrefix();

@@ -3,6 +3,7 @@
 
 #include <tools/command_render.h>
 
+#include <format/urlpath.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
@@ -30,6 +31,22 @@ void reportMissingImages(const ThemeProject &input, const QVariantMap &values)
     }
 }
 
+// Once: as a rule it is the application's folder, with which every path begins.
+void reportUnreadablePath(const ThemeProject &input, const QVariantMap &values)
+{
+    for (const TemplateToken &token : input.tokens()) {
+        const QString path = values.value(token.key).toString();
+        const int fault = token.kind == Kind::ImageFile ? urlPathFault(path) : -1;
+        if (fault < 0)
+            continue;
+        printError(QLatin1String("Qt cannot read \"") % characterAt(path, fault)
+                   % QLatin1String("\" in the path ") % path
+                   % QLatin1String(", which stands in url(...) without quotation marks, and drops "
+                                   "the style sheet from there on or the image"));
+        return;
+    }
+}
+
 int render(const ThemeProject &input, const ThemeStack &theme, const QString &output)
 {
     const FinishedStyleSheet &finished = input.finished(theme);
@@ -39,7 +56,9 @@ int render(const ThemeProject &input, const ThemeStack &theme, const QString &ou
                                    "be done; nothing is written"));
         return ExitFindings;
     }
-    reportMissingImages(input, theme.values(input.options().applicationFolder));
+    const QVariantMap values = theme.values(input.options().applicationFolder);
+    reportMissingImages(input, values);
+    reportUnreadablePath(input, values);
 
     if (output == QLatin1String("-"))
         return writeStandardOutput(finished.text) ? ExitDone : ExitUnusable;

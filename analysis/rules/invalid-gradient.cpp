@@ -33,6 +33,19 @@ QString reason(const Definition &definition)
     return QStringLiteral("its size is below 1 or no number");
 }
 
+// A gradient is several lines, sorted by QSettings; people look for it where it begins.
+Place firstPlace(const Definition &definition, const QString &name)
+{
+    const ThemeFile &file = definition.layer->file;
+    const QString key = sectionName(Kind::Gradient) % QLatin1Char('/') % name;
+    const QString prefix = key % QLatin1Char('/');
+    for (const ThemeFileEntry &entry : file.entries()) {
+        if (entry.key == key || entry.key.startsWith(prefix))
+            return {file.path(), entry.keyPosition};
+    }
+    return definition.keyPlace();
+}
+
 // The library visits the keys of the arrays as names of gradients too, and reports each. Only what
 // keeps a gradient out is told here: those reports come with every gradient that is whole.
 void check(const ThemeProject &project, Report &report)
@@ -50,9 +63,9 @@ void check(const ThemeProject &project, Report &report)
                 continue;
             const QRegularExpressionMatch match = arrayKey.match(definition.key());
             if (!match.hasMatch()) {
-                report.addAtKey(definition,
-                                QStringLiteral("gradient %1 is dropped: %2")
-                                    .arg(definition.key(), reason(definition)));
+                report.add(firstPlace(definition, definition.key()),
+                           QStringLiteral("gradient %1 is dropped: %2")
+                               .arg(definition.key(), reason(definition)));
                 continue;
             }
             const QString name = match.captured(QStringLiteral("name"));
@@ -60,10 +73,10 @@ void check(const ThemeProject &project, Report &report)
             if (named.contains(plainKey))
                 continue;
             named.insert(plainKey); // one report is enough
-            report.addAtKey(definition,
-                            QStringLiteral("gradient %1 is not read: there is no plain key of its "
-                                           "name, such as %1=1")
-                                .arg(name));
+            report.add(firstPlace(definition, name),
+                       QStringLiteral("gradient %1 is not read: there is no plain key of its "
+                                      "name, such as %1=1")
+                           .arg(name));
         }
     }
 }

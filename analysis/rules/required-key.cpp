@@ -4,6 +4,8 @@
 #include <analysis/rules/rules.h>
 #include <analysis/suggestion.h>
 
+#include <algorithm>
+
 namespace
 {
 
@@ -13,24 +15,65 @@ Kind searchedKind(Kind kind)
     return kind == Kind::Gradient ? Kind::Flag : kind;
 }
 
+// Keys that many lack at once, as in a file without the section, have one cause.
+constexpr int shownKeys = 3;
+
+QString sentence(Kind kind, const QStringList &keys)
+{
+    if (keys.size() == 1)
+        return QStringLiteral("required %1 %2 is not set").arg(nounOf(kind), keys.first());
+    const QString rest = keys.size() <= shownKeys
+        ? QString()
+        : QStringLiteral(" and %1 more").arg(keys.size() - shownKeys);
+    return QStringLiteral("%1 required keys of section %2 are not set: %3%4")
+        .arg(QString::number(keys.size()), sectionName(kind),
+             keys.mid(0, shownKeys).join(QLatin1String(", ")), rest);
+}
+
+void reportMissing(const ThemeFile &file, const QHash<QString, int> &stored, Kind kind,
+                   const QStringList &missing, const QStringList &required, Report &report)
+{
+    const Place place{file.path(), sectionPosition(file, kind)};
+    const Suggestion suggestion(stored.keys());
+    QStringList lost;
+    for (const QString &key : missing) {
+        const QString near = suggestion.nearest(key);
+        if (near.isEmpty() || required.contains(near))
+            lost << key;
+        else
+            report.add(place,
+                       sentence(kind, {key}) % QStringLiteral("; is %1 meant for it?").arg(near));
+    }
+    if (!lost.isEmpty())
+        report.add(place, sentence(kind, lost));
+}
+
+// What no theme has is missing in the default file; what some themes have, in the others.
 void check(const ThemeProject &project, Report &report)
 {
-    const ThemeStack &base = project.base();
-    const ThemeFile &file = base.base().file;
+    const auto &themes = project.themes();
     for (const Kind kind : allKinds) {
-        const QHash<QString, int> &stored = base.stored(searchedKind(kind));
-        const Suggestion suggestion(stored.keys());
-        const QStringList keys = project.vocabulary().keys(kind);
-        for (const QString &key : keys) {
-            if (stored.contains(key))
-                continue;
-            const QString near = suggestion.nearest(key);
-            report.add({file.path(), sectionPosition(file, kind)},
-                       QStringLiteral("required %1 %2 is not set%3")
-                           .arg(nounOf(kind), key,
-                                near.isEmpty() || keys.contains(near)
-                                    ? QString()
-                                    : QStringLiteral("; is %1 meant for it?").arg(near)));
+        const QStringList required = project.vocabulary().keys(kind);
+        const Kind searched = searchedKind(kind);
+        QStringList everywhere;
+        for (const QString &key : required) {
+            const bool isLacking =
+                std::none_of(themes.cbegin(), themes.cend(), [&](const ThemeStack *theme) {
+                    return theme->stored(searched).contains(key);
+                });
+            if (isLacking)
+                everywhere << key;
+        }
+        const ThemeStack &base = project.base();
+        reportMissing(base.base().file, base.stored(searched), kind, everywhere, required, report);
+        for (const ThemeStack *theme : themes) {
+            QStringList missing;
+            for (const QString &key : required) {
+                if (!theme->stored(searched).contains(key) && !everywhere.contains(key))
+                    missing << key;
+            }
+            const ThemeFile &file = (theme->own() ? *theme->own() : theme->base()).file;
+            reportMissing(file, theme->stored(searched), kind, missing, required, report);
         }
     }
 }

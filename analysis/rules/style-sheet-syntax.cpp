@@ -3,6 +3,7 @@
 
 #include <analysis/rules/rules.h>
 #include <analysis/style/styleparser.h>
+#include <format/urlpath.h>
 
 namespace
 {
@@ -37,10 +38,27 @@ QString withoutOpenComment(const QString &text)
     return isOpen ? text.left(rules.comments().constLast().start) : text;
 }
 
+// What a path breaks is not the templates' fault, and is told by a rule of its own.
+QString withReadablePaths(const ThemeProject &project, const ThemeStack &theme)
+{
+    const ThemeProjectOptions &options = project.options();
+    QVariantMap values = theme.values(options.applicationFolder);
+    bool isChanged = false;
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        const bool isPath = kindInStyleSheets(theme, it.key()) == Kind::ImageFile;
+        if (!isPath || urlPathFault(it->toString()) < 0)
+            continue;
+        *it = QStringLiteral("image");
+        isChanged = true;
+    }
+    return isChanged ? finishedStyleSheet(options.prefix, values, project.templates().text()).text
+                     : project.finished(theme).text;
+}
+
 void check(const ThemeProject &project, Report &report)
 {
     for (const ThemeStack *theme : project.themes()) {
-        const QString finished = withoutOpenComment(project.finished(*theme).text);
+        const QString finished = withoutOpenComment(withReadablePaths(project, *theme));
         const QVector<int> rejected = StyleParser::rejectedRules(finished);
         const QVector<StyleRule> rules =
             rejected.isEmpty() ? QVector<StyleRule>() : StyleRules(finished).rules();

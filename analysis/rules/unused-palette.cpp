@@ -8,7 +8,9 @@ namespace
 
 void check(const ThemeProject &project, Report &report)
 {
-    QSet<QString> used;
+    // Code may ask for what the application requires.
+    const QStringList required = project.vocabulary().keys(Kind::Palette);
+    QSet<QString> used(required.cbegin(), required.cend());
     for (const ThemeStack *theme : project.allThemes()) {
         for (const ColorText &color : colorTexts(*theme)) {
             if (color.isResolved)

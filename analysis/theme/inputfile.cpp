@@ -97,9 +97,17 @@ std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QStr
     return input;
 }
 
+InputFile InputFile::fromContent(const QString &path, const QByteArray &content)
+{
+    InputFile input;
+    input.m_path = path;
+    input.m_content = content;
+    return input;
+}
+
 bool InputFile::isUnchanged() const
 {
-    if (isResourcePath(m_path))
+    if (m_stamp.isEmpty()) // no file on disk
         return true;
     struct stat status = {};
     return ::stat(QFile::encodeName(m_path).constData(), &status) == 0

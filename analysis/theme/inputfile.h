@@ -26,6 +26,9 @@ public:
      */
     static std::optional<InputFile> read(const QString &path, qint64 limit, QString *error);
 
+    /*! \brief Returns \a content as if it had been read at \a path: what an editor has not saved. */
+    static InputFile fromContent(const QString &path, const QByteArray &content);
+
     QString path() const { return m_path; }
     QByteArray content() const { return m_content; }
 

@@ -102,11 +102,22 @@ std::optional<ThemeFile> ThemeFile::read(const QString &path, QString *error)
     const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
     if (!input)
         return std::nullopt;
-    if (input->content().contains('\0')) {
-        *error = path % QLatin1String(": a binary file, not a theme file");
+    return fromInput(*input, error);
+}
+
+std::optional<ThemeFile> ThemeFile::fromContent(const QString &path, const QByteArray &content,
+                                                QString *error)
+{
+    return fromInput(InputFile::fromContent(path, content), error);
+}
+
+std::optional<ThemeFile> ThemeFile::fromInput(const InputFile &input, QString *error)
+{
+    if (input.content().contains('\0')) {
+        *error = input.path() % QLatin1String(": a binary file, not a theme file");
         return std::nullopt;
     }
-    return ThemeFile(*input);
+    return ThemeFile(input);
 }
 
 ThemeFile::ThemeFile(const InputFile &input)

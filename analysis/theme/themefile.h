@@ -57,6 +57,10 @@ public:
     /*! \brief Reads the file at \a path; if nothing is returned, \a error says why. */
     static std::optional<ThemeFile> read(const QString &path, QString *error);
 
+    /*! \brief Reads \a content as if it were the file at \a path; \a error as for read(). */
+    static std::optional<ThemeFile> fromContent(const QString &path, const QByteArray &content,
+                                                QString *error);
+
     QString path() const { return m_input.path(); }
     QByteArray content() const { return m_input.content(); }
 
@@ -77,6 +81,7 @@ public:
     bool isUnchanged() const { return m_input.isUnchanged(); }
 
 private:
+    static std::optional<ThemeFile> fromInput(const InputFile &input, QString *error);
     explicit ThemeFile(const InputFile &input);
     void parse();
     void settleDuplicates(const QVector<QString> &sectionOfEntry);

@@ -4,7 +4,7 @@
 #include <analysis/theme/themestack.h>
 
 #include <analysis/messagelog.h>
-#include <hvtheme/theming.h>
+#include <analysis/theme/memorysettings.h>
 #include <hvtheme/workabletheming.h>
 
 const ThemeFileEntry *Definition::entry() const
@@ -12,24 +12,28 @@ const ThemeFileEntry *Definition::entry() const
     return layer->file.find(sectionName(kind()) % QLatin1Char('/') % key());
 }
 
-ThemeStack::ThemeStack(const QString &name, const QString &folder, const QString &suffix,
-                       const ThemeLayer *base, const ThemeLayer *own)
+ThemeStack::ThemeStack(const QString &name, const ThemeLayer *base, const ThemeLayer *own)
     : m_name(name)
     , m_base(base)
     , m_own(own)
     , m_theme(std::make_unique<HV::WorkableTheme>())
 {
-    const MessageLog silence;
-    HV::changeTheme(m_theme.get(), QString(), folder, suffix);
-    read(*base);
+    const MessageLog log; // what the library says of a theme is found again by the rules
+    load(*base);
     if (own) {
         m_isOwnRead = QString::compare(m_theme->displayName(), name, Qt::CaseInsensitive) != 0;
-        if (m_isOwnRead) {
-            HV::changeTheme(m_theme.get(), name, folder, suffix);
-            read(*own);
-        }
+        if (m_isOwnRead)
+            load(*own);
     }
     m_theme->values();
+}
+
+// Not with HV::changeTheme(): it takes paths only, and another file if a path holds "%1".
+void ThemeStack::load(const ThemeLayer &layer)
+{
+    MemorySettings memory(layer.file.content());
+    m_theme->readSettings(memory.settings());
+    read(layer);
 }
 
 ThemeStack::~ThemeStack() = default;

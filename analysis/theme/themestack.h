@@ -53,7 +53,7 @@ struct Definition {
 /*!
  * \brief One theme as an application gets it: the default file and, over it, the theme's own.
  *
- * The values are the library's, loaded with HV::changeTheme(). Which definition took effect is
+ * The values are the library's, read as HV::changeTheme() reads the two files. Which definition took effect is
  * worked out beside it by the library's published rules, because a theme does not tell.
  */
 class ThemeStack
@@ -62,12 +62,10 @@ public:
     /*!
      * \brief Loads the theme called \a name.
      *
-     * \param folder  as for HV::changeTheme().
-     * \param base    the default file.
-     * \param own     the theme's own file, or null to stay with the default theme.
+     * \param base  the default file.
+     * \param own   the theme's own file, or null to stay with the default theme.
      */
-    ThemeStack(const QString &name, const QString &folder, const QString &suffix,
-               const ThemeLayer *base, const ThemeLayer *own);
+    ThemeStack(const QString &name, const ThemeLayer *base, const ThemeLayer *own);
     ~ThemeStack();
     Q_DISABLE_COPY_MOVE(ThemeStack)
 
@@ -97,6 +95,7 @@ public:
     QVariantMap values(const QString &applicationFolder) const;
 
 private:
+    void load(const ThemeLayer &layer);
     void read(const ThemeLayer &layer);
 
     QString m_name;

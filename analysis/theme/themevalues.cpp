@@ -3,6 +3,8 @@
 
 #include <analysis/theme/themevalues.h>
 
+#include <analysis/theme/memorysettings.h>
+
 #include <QSettings>
 
 namespace
@@ -37,10 +39,11 @@ bool ThemeValue::isValidGradient() const
     return true;
 }
 
-ThemeValues ThemeValues::read(const QString &path)
+ThemeValues ThemeValues::read(const QByteArray &content)
 {
     ThemeValues result;
-    QSettings settings(path, QSettings::IniFormat);
+    MemorySettings memory(content);
+    QSettings &settings = memory.settings();
     const QString nameKey = QStringLiteral("ThemeName");
     result.hasDisplayName = settings.contains(nameKey);
     result.displayName = settings.value(nameKey);

@@ -41,8 +41,8 @@ struct ThemeValues {
     QVector<ThemeValue> values;
     QStringList listKeys; //!< the whole keys of all values that commas made lists of
 
-    /*! \brief Reads the theme file at \a path; a missing file is an empty one. */
-    static ThemeValues read(const QString &path);
+    /*! \brief Reads the text of a theme file. */
+    static ThemeValues read(const QByteArray &content);
 };
 
 #endif

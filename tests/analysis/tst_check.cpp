@@ -33,6 +33,8 @@ private Q_SLOTS:
     void suggestions();
     void vocabularyRefused_data();
     void vocabularyRefused();
+    void placeholderInFolder();
+    void pathInFolder();
     void endless_data();
     void endless();
     void text();
@@ -231,6 +233,9 @@ void tst_Check::agreesWithLibrary()
     const std::unique_ptr<ThemeProject> input = ThemeProject::read(options, &error);
     QVERIFY2(input, qPrintable(error));
     for (const ThemeStack *stack : input->allThemes()) {
+        if (openedThemeFilePath(options.folder, stack->name(), options.suffix)
+            != themeFilePath(options.folder, stack->name(), options.suffix))
+            continue; // the library misses the file, which is what the rule says
         HV::WorkableTheme theme;
         QVector<LoggedMessage> messages;
         {
@@ -327,6 +332,51 @@ void tst_Check::vocabularyRefused()
     QString error;
     QVERIFY(!Vocabulary::read(file.fileName(), &error));
     QCOMPARE(error, file.fileName() + ": " + reason);
+}
+
+static QDir copied(const QDir &from, const QString &to)
+{
+    QDir().mkpath(to);
+    for (const QFileInfo &file : from.entryInfoList(QDir::Files))
+        QFile::copy(file.filePath(), to + '/' + file.fileName());
+    for (const QFileInfo &folder : from.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
+        copied(folder.filePath(), to + '/' + folder.fileName());
+    return QDir(to);
+}
+
+// The library loses the theme in such a folder; what is said of the theme stays what it is.
+void tst_Check::placeholderInFolder()
+{
+    QTemporaryDir root;
+    const QDir plain = copied(data().filePath("contrast/bad"), root.filePath("plain"));
+    const QDir strange = copied(data().filePath("contrast/bad"), root.filePath("a%1b%2"));
+    QString expected = findingLines(findingsIn(plain, "contrast"));
+    QVERIFY(!expected.isEmpty());
+    expected.replace(plain.path(), strange.path());
+    QCOMPARE(findingLines(findingsIn(strange, "contrast")), expected);
+    QCOMPARE(findingsIn(strange, "theme-path").size(), 1);
+    QCOMPARE(findingsIn(plain, "theme-path").size(), 0);
+}
+
+// All images are in the application's folder, so it is one finding, and the templates have none.
+void tst_Check::pathInFolder()
+{
+    QTemporaryDir root;
+    ThemeProjectOptions options;
+    options.folder = QStringLiteral(HVTHEME_SOURCE_DIR "/themes");
+    options.applicationFolder = root.filePath(QString::fromUtf8("M\u00fcller & Co/bin"));
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    QVERIFY2(project, qPrintable(error));
+    QStringList found;
+    for (const Finding &finding : runLintRules(*project, {"image-missing"})) {
+        if (finding.rule == "path-in-url")
+            found << finding.message;
+        QVERIFY2(finding.rule != "style-sheet-syntax", qPrintable(finding.message));
+    }
+    QCOMPARE(found.size(), 1);
+    QVERIFY2(found.first().contains(QString::fromUtf8("\"\u00fc\" in the path ") + root.path()),
+             qPrintable(found.first()));
 }
 
 void tst_Check::endless_data()

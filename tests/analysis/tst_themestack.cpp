@@ -5,6 +5,7 @@
 #include <analysis/style/templatetext.h>
 #include <analysis/theme/themefolder.h>
 #include <analysis/theme/themestack.h>
+#include <analysis/themeproject.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -17,6 +18,8 @@ class tst_ThemeStack : public QObject
 
 private Q_SLOTS:
     void fates();
+    void fromContent();
+    void projectFromContent();
     void ownFileNotRead();
     void values();
     void templateText();
@@ -43,7 +46,7 @@ ThemeLayer tst_ThemeStack::layer(const QString &name) const
         ThemeFile::read(m_folder.filePath(name + ".theme"), &error);
     if (!file)
         qFatal("%s", qPrintable(error));
-    return {*file, ThemeValues::read(file->path()), name};
+    return {*file, ThemeValues::read(file->content()), name};
 }
 
 void tst_ThemeStack::fates()
@@ -54,7 +57,7 @@ void tst_ThemeStack::fates()
     write("dark.theme", "[Colors]\nText=#ffffff\nOwn=A\n[Flags]\nF=1\nN=1\n");
     const ThemeLayer base = layer("default");
     const ThemeLayer own = layer("dark");
-    const ThemeStack stack("dark", m_folder.path(), "theme", &base, &own);
+    const ThemeStack stack("dark", &base, &own);
     QVERIFY(stack.isOwnRead());
 
     QStringList fates;
@@ -87,13 +90,56 @@ void tst_ThemeStack::fates()
     QCOMPARE(stack.theme().color("Text"), QColor(1, 2, 3));
 }
 
+// Nothing of it is on disk.
+void tst_ThemeStack::fromContent()
+{
+    QString error;
+    const QByteArray text = "ThemeName=Memory\n[Palettes]\nA=#010203\n[Colors]\nText=A\n";
+    const auto file = ThemeFile::fromContent("nowhere/default.theme", text, &error);
+    QVERIFY2(file, qPrintable(error));
+    const ThemeLayer base{*file, ThemeValues::read(file->content()), "default"};
+    const ThemeStack stack("default", &base, nullptr);
+    QCOMPARE(stack.displayName(), QString("Memory"));
+    QCOMPARE(stack.theme().color("Text"), QColor(1, 2, 3));
+    QCOMPARE(stack.find(Kind::Color, "Text")->keyPlace().text(),
+             QString("nowhere/default.theme:5:1"));
+    QVERIFY(file->isUnchanged());
+
+    QVERIFY(!ThemeFile::fromContent("nowhere/x.theme", QByteArray("a\0b", 3), &error));
+    QCOMPARE(error, QString("nowhere/x.theme: a binary file, not a theme file"));
+}
+
+// Of two texts of one size each is read as it is.
+void tst_ThemeStack::projectFromContent()
+{
+    QTemporaryDir folder;
+    for (const auto &file :
+         {qMakePair(QString("default.theme"), QByteArray("[Colors]\nText=#010101")),
+          qMakePair(QString("a.qss"), QByteArray("X { color: global.theme.color.Text }"))}) {
+        QFile written(folder.filePath(file.first));
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        written.write(file.second);
+    }
+    ThemeProjectOptions options;
+    options.folder = folder.path();
+    options.templates = QStringList(folder.filePath("a.qss"));
+    QString error;
+    for (const char *color : {"#020202", "#030303"}) {
+        options.contents.insert(folder.filePath("default.theme"),
+                                QByteArray("[Colors]\nText=") + color + '\n');
+        const auto project = ThemeProject::read(options, &error);
+        QVERIFY2(project, qPrintable(error));
+        QCOMPARE(project->finished(project->base()).text, QString("X { color: %1 }").arg(color));
+    }
+}
+
 void tst_ThemeStack::ownFileNotRead()
 {
     write("default.theme", "ThemeName=Night\n");
     write("night.theme", "[Colors]\nText=#ffffff\n");
     const ThemeLayer base = layer("default");
     const ThemeLayer own = layer("night");
-    const ThemeStack stack("night", m_folder.path(), "theme", &base, &own);
+    const ThemeStack stack("night", &base, &own);
     QVERIFY(!stack.isOwnRead());
     QVERIFY(!stack.find(Kind::Color, "Text"));
 }
@@ -103,7 +149,7 @@ void tst_ThemeStack::values()
     write("default.theme",
           "[ImageFiles]\na=../img/a.png\nb=/b.png\nc=:/c.png\nd=\ne=x/./y\n[Integers]\nn=7\n");
     const ThemeLayer base = layer("default");
-    const ThemeStack stack("default", m_folder.path(), "theme", &base, nullptr);
+    const ThemeStack stack("default", &base, nullptr);
 
     // In the application's own folder, what the library says is the measure.
     HV::WorkableTheme theme;

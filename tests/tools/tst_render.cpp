@@ -21,6 +21,7 @@ private Q_SLOTS:
     void keepsWhatItCannotReplace_data();
     void keepsWhatItCannotReplace();
     void namesMissingImagesOnce();
+    void namesUnreadablePathOnce();
 };
 
 namespace
@@ -198,6 +199,28 @@ void tst_Render::namesMissingImagesOnce()
     const QString path = QFileInfo(folder.path()).canonicalFilePath() + "/lost.png";
     QCOMPARE(QString(run.errors), "hvtheme: image file lost: " + path + " does not exist\n");
     QCOMPARE(QString(run.output), path + ' ' + path);
+}
+
+// The style sheet is written all the same: it is what the application gets.
+void tst_Render::namesUnreadablePathOnce()
+{
+    const TemporaryTheme folder("[ImageFiles]\nfirst=a.png\nsecond=b.png\n");
+    folder.write("a.qss",
+                 "X { image: url(global.theme.image.first) }\n"
+                 "Y { image: url(global.theme.image.second) }\n");
+    const QString application = QFileInfo(folder.path()).canonicalFilePath() + "/Q & A";
+    QVERIFY(QDir().mkpath(application));
+    for (const char *name : {"/a.png", "/b.png"})
+        QVERIFY(QFile::copy(folder.path("a.qss"), application + name));
+    const CommandRun run({"render", folder.path(), "default", "--app-dir", application,
+                          "--no-builtin", "--templates", folder.path("a.qss")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors.count('\n'), 1);
+    QCOMPARE(QString(run.errors),
+             "hvtheme: Qt cannot read \"&\" in the path " + application
+                 + "/a.png, which stands in url(...) without quotation marks, and drops the style "
+                   "sheet from there on or the image\n");
+    QVERIFY(run.output.contains("url(" + application.toUtf8() + "/b.png)"));
 }
 
 QTEST_GUILESS_MAIN(tst_Render)

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef FORMAT_URLPATH_H
+#define FORMAT_URLPATH_H
+
+#include <QString>
+
+/*!
+ * \brief Finds what Qt cannot read in a path that stands in a style sheet as `url(PATH)`.
+ *
+ * The templates of the library write no quotation marks there. Qt then reads the path as words of
+ * the style sheet: at a character that begins none, such as "&", "%" or "ü", and at a bracket or
+ * quotation mark without its partner it drops the rest of the whole style sheet; a backslash changes
+ * the path.
+ *
+ * \return the index of the first such character, or -1 if the path comes out as it is.
+ */
+int urlPathFault(const QString &path);
+
+/*! \brief Returns the whole character of \a text at \a index, for messages. */
+QString characterAt(const QString &text, int index);
+
+#endif
