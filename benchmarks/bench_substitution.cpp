@@ -156,6 +156,7 @@ void measureChains()
     const MakeText misses = [] {
         return repeated("color: global.theme.colour.A; x: global.theme.;\n", 1 << 20);
     };
+    const MakeText denseMisses = [] { return repeated("global.theme.color. ", 1 << 20); };
     measure("chain/built-in/library", builtInText, chain, true);
     measure("chain/built-in/plain", builtInText, plainChain, true);
     measure("chain/built-in-no-images/library", noImages, chain, true);
@@ -172,6 +173,8 @@ void measureChains()
     measure("chain/no-tokens/copy", none, copy, false);
     measure("chain/near-misses/library", misses, chain, false);
     measure("chain/near-misses/copy", misses, copy, false);
+    measure("chain/dense-misses/library", denseMisses, chain, false);
+    measure("chain/dense-misses/copy", denseMisses, copy, false);
 }
 
 } // namespace

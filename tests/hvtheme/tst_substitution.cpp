@@ -225,6 +225,8 @@ private Q_SLOTS:
     void tokensInInvalidText_data();
     void tokensInInvalidText();
     void theme();
+    void amongNearMisses_data();
+    void amongNearMisses();
 
 private:
     void compare(CaseSource &source, const QVector<Prefix> &prefixes, int count,
@@ -337,6 +339,37 @@ void tst_Substitution::theme()
         HV::replaceStyleSheet(isNull ? nullptr : &theme, made.prefix, actual);
         QCOMPARE(actual, expected);
         COMPARE_MESSAGES(m_log, messages);
+    }
+}
+
+void tst_Substitution::amongNearMisses_data()
+{
+    QTest::addColumn<QString>("nearMiss");
+    QTest::newRow("no-key") << "p.theme.color. ";
+    QTest::newRow("no-prefix") << "x.theme.color.a";
+    QTest::newRow("other-kind") << "p.theme.image.a";
+    QTest::newRow("misspelt") << "p.theme.colox.a";
+    QTest::newRow("last-letter") << "p.xxxxxxxxxxr.a";
+    QTest::newRow("dots") << "..............";
+    QTest::newRow("nothing") << "              ";
+}
+
+// A token at every place of what is searched at a time, dense near misses around it, and at the end.
+void tst_Substitution::amongNearMisses()
+{
+    QFETCH(QString, nearMiss);
+    const QVariantMap values{{"k", "v"}, {"long", nearMiss}};
+    for (int place = 0; place < 300; ++place) {
+        const QString before = nearMiss.repeated(place / nearMiss.size() + 1).right(place);
+        const QStringList endings{QString(), " ", " " + nearMiss.repeated(20)};
+        for (const QString &behind : endings) {
+            for (const char *key : {"k", "long", "none"}) {
+                const QString text = before + " p.theme.color." + key + behind;
+                const Plain::Result plain =
+                    Plain::replaced(Plain::Kind::Color, "p", values, text, 100);
+                QCOMPARE(HV::replaceCssColors("p", values, text), plain.text);
+            }
+        }
     }
 }
 
