@@ -26,6 +26,8 @@ private Q_SLOTS:
     void underline();
     void notForPrinters();
     void everyPaintOnce();
+    void inEffectsAndScenes_data();
+    void inEffectsAndScenes();
     void recorded();
     void changesAreSeen();
     void endsWithTheTheme();
@@ -299,6 +301,46 @@ void tst_LiftedText::everyPaintOnce()
     QCOMPARE(painting.paints, 1);
     painting.grab(QRect(50, 10, 20, 20));
     QCOMPARE(painting.paints, 2);
+}
+
+void tst_LiftedText::inEffectsAndScenes_data()
+{
+    QTest::addColumn<bool>("isInScene");
+    QTest::addColumn<bool>("hasEffect");
+
+    QTest::newRow("effect") << false << true;
+    QTest::newRow("scene") << true << false;
+}
+
+void tst_LiftedText::inEffectsAndScenes()
+{
+    QFETCH(bool, isInScene);
+    QFETCH(bool, hasEffect);
+    auto page = std::make_unique<QWidget>();
+    page->resize(220, 60);
+    page->setAutoFillBackground(true);
+    if (hasEffect) {
+        auto *effect = new QGraphicsOpacityEffect;
+        effect->setOpacity(0.999); // none that can be seen, but one that is applied
+        page->setGraphicsEffect(effect);
+    }
+    auto *painting = new Painting(QColor(128, 0, 0), QColor(20, 20, 20));
+    painting->setParent(page.get());
+    painting->move(0, 0);
+    QGraphicsScene scene;
+    QGraphicsView view(&scene);
+    QWidget *shown = page.get();
+    if (isInScene) {
+        scene.addWidget(page.release());
+        view.setFrameStyle(QFrame::NoFrame);
+        view.setAlignment(Qt::AlignTop | Qt::AlignLeft);
+        view.resize(220, 60);
+        shown = &view;
+    }
+    const QImage image = shown->grab().toImage();
+    const double contrast =
+        ColorMath::contrastRatio(image.pixelColor(20, 20), image.pixelColor(180, 20));
+    QVERIFY2(contrast >= 4.4, qPrintable(QString::number(contrast)));
 }
 
 // The measure of legibility sees what a reader sees.
