@@ -53,6 +53,8 @@ PREAMBLE = """
 #include <QtWidgets>
 """
 STARTED_SECONDS = 1.5
+# Where "theme" is the application's look.
+APPLICATION_PAGES = {"application", "desktop", "moving"}
 
 
 class Block:
@@ -201,7 +203,7 @@ class Page:
             if f"add_executable({name}" not in text:
                 lines.append(f"set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${{PROJECT_BINARY_DIR}}/bin)\nadd_executable({name} main.cpp)")
                 if f"target_link_libraries({name}" not in text:
-                    text += f"\ntarget_link_libraries({name} PRIVATE HVTheme::hvtheme)\n"
+                    text += f"\ntarget_link_libraries({name} PRIVATE HVTheme::hvthemeapp)\n"
         (project / "CMakeLists.txt").write_text("\n".join(lines) + "\n" + text)
         self.workshop.run(project, self.workshop.cmake, "-S", ".", "-B", "build", "-DCMAKE_BUILD_TYPE=Debug")
         self.workshop.run(project, self.workshop.cmake, "--build", "build")
@@ -229,7 +231,10 @@ class Page:
             own = sorted(set(re.findall(r"\b(\w+)(Action|Button)->", text)))
             text = "".join(f"{kinds[kind]} *{name}{kind} = nullptr;\n" for name, kind in own) + text
             app = "" if "QApplication app" in text else "app"
-            text = f"void block(int argc, char **argv, HV::WorkableTheme &theme, QApplication &{app}, QWidget &window, QMenu *menu)\n{{\n{text}}}\n"
+            kind = "ApplicationTheme" if self.path.stem in APPLICATION_PAGES else "WorkableTheme"
+            theme = "" if re.search(r"HV::\w+ theme\b", text) else "theme"
+            parameters = f"int argc, char **argv, HV::{kind} &{theme}, QApplication &{app}, QWidget &window, QMenu *menu"
+            text = f"void block({parameters})\n{{\n{text}}}\n"
         source.write_text(PREAMBLE + text)
         self.workshop.run(folder, self.workshop.cxx, *options, "-fsyntax-only", source, *libraries)
 
