@@ -23,6 +23,7 @@ class tst_Check : public QObject
 
 private Q_SLOTS:
     void rulesAreComplete();
+    void documentedInOrder();
     void bad_data();
     void bad();
     void good_data();
@@ -103,6 +104,27 @@ void tst_Check::rulesAreComplete()
         const QString severity = QString("Severity: %1").arg(severityName(rule->severity));
         QVERIFY2(QString::fromUtf8(page.readAll()).contains(severity), rule->name);
     }
+}
+
+// The list of the documentation is the table of the rules.
+void tst_Check::documentedInOrder()
+{
+    QFile page(QStringLiteral(HVTHEME_SOURCE_DIR "/docs/check.md"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(page.readAll());
+    const QString list = text.mid(text.indexOf("\n## Rules\n"));
+    static const QRegularExpression link("^\\[([a-z-]+)\\]\\(rules/([a-z-]+)\\.md\\)[.,]$",
+                                         QRegularExpression::MultilineOption);
+    QStringList documented;
+    for (auto links = link.globalMatch(list); links.hasNext();) {
+        const QRegularExpressionMatch match = links.next();
+        QCOMPARE(match.captured(1), match.captured(2));
+        documented << match.captured(1);
+    }
+    QStringList names;
+    for (const LintRule *rule : allLintRules())
+        names << QLatin1String(rule->name);
+    QCOMPARE(documented, names);
 }
 
 // One line for each, without the one that sums them up.
