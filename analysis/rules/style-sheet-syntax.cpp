@@ -57,6 +57,12 @@ QString withReadablePaths(const ThemeProject &project, const ThemeStack &theme)
 
 void check(const ThemeProject &project, Report &report)
 {
+    if (!StyleParser::isAvailable()) {
+        report.addAtTemplate(project.templates(), 0,
+                             QStringLiteral("not checked: Qt parses style sheets only in a program "
+                                            "with a QGuiApplication"));
+        return;
+    }
     for (const ThemeStack *theme : project.themes()) {
         const QString finished = withoutOpenComment(withReadablePaths(project, *theme));
         const QVector<int> rejected = StyleParser::rejectedRules(finished);
