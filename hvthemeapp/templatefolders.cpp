@@ -25,6 +25,44 @@ QStringList templateFiles(const QString &folder)
     return files;
 }
 
+// Qt drops a style sheet whole that it cannot parse, and tells nobody but the log. What it stumbles
+// over while a template is being written is mostly a rule, comment or text that is not closed yet.
+bool isClosed(const QString &text)
+{
+    bool isInRule = false;
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        if (c == u'/' && text.mid(i + 1, 1) == QLatin1String("*")) {
+            i = text.indexOf(QLatin1String("*/"), i + 2);
+            if (i < 0)
+                return false;
+            ++i;
+        } else if (c == u'"' || c == u'\'') {
+            i = text.indexOf(c, i + 1);
+            if (i < 0)
+                return false;
+        } else if (c == u'{' || c == u'}') {
+            if (isInRule == (c == u'{'))
+                return false;
+            isInRule = !isInRule;
+        }
+    }
+    return !isInRule;
+}
+
+QString problemOfTemplate(const QString &file)
+{
+    const QString fault = ThemeFolder::problemOfText(file);
+    if (!fault.isEmpty())
+        return fault;
+    QString text;
+    readStyleSheet(QStringList(file), text);
+    if (isClosed(text))
+        return {};
+    return QStringLiteral("\"%1\" has a rule, comment or text that does not begin or end")
+        .arg(file);
+}
+
 } // namespace
 
 void TemplateFolders::add(const QString &folder, const QString &prefix)
@@ -57,7 +95,7 @@ QString TemplateFolders::problem() const
     }
     const QStringList all = files();
     for (const QString &file : all) {
-        const QString fault = ThemeFolder::problemOfText(file);
+        const QString fault = problemOfTemplate(file);
         if (!fault.isEmpty())
             return QStringLiteral("%1; mend it or take it out of the templates folder.").arg(fault);
     }

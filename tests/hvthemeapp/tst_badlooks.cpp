@@ -52,6 +52,8 @@ void damage(const TemporaryFolder &folder, const QString &name, const QByteArray
         QFile::remove(path), mkfifo(qPrintable(path), 0600);
     else if (how == "huge")
         folder.write(name, "A=1\n" + QByteArray(5 * 1024 * 1024, ';'));
+    else if (how != "unreadable")
+        folder.write(name, how);
 }
 
 class SwitchingWidget : public QWidget
@@ -202,6 +204,10 @@ void tst_BadLooks::damagedTemplates_data()
     QTest::newRow("binary") << QByteArray("binary") << "is no text";
     QTest::newRow("huge") << QByteArray("huge") << "is larger than 4 MiB";
     QTest::newRow("unreadable") << QByteArray("unreadable") << "cannot be read";
+    const char *const halfWritten[] = {"A { color: red;", "A { color: red; } }",    "A { B { } }",
+                                       "/* A { }",        "A { image: url(\"a); }", "} {"};
+    for (const char *text : halfWritten)
+        QTest::newRow(text) << QByteArray(text) << "has a rule, comment or text";
 }
 
 void tst_BadLooks::damagedTemplates()
@@ -209,7 +215,7 @@ void tst_BadLooks::damagedTemplates()
     QFETCH(QByteArray, how);
     QFETCH(QString, fault);
     TemporaryFolder folder;
-    folder.write("a.qss", "A {}");
+    folder.write("a.qss", "/* } */ A[x=\"{\"] {} B { image: url('/*'); }");
     QVERIFY(m_theme->addTemplates(folder.path()));
     m_styleSheet = qApp->styleSheet();
     damage(folder, "a.qss", how);
