@@ -62,22 +62,19 @@ private Q_SLOTS:
     void placeholder();
 
 private:
-    QVector<RecordedText> textsOf(const Zoo::Page &page, HV::ApplicationTheme &theme);
+    QVector<RecordedText> textsOf(const Zoo::Page &page);
     std::unique_ptr<QuietPlatform> m_quiet;
 };
 
-QVector<RecordedText> tst_ApplicationLegibility::textsOf(const Zoo::Page &page,
-                                                         HV::ApplicationTheme &theme)
+QVector<RecordedText> tst_ApplicationLegibility::textsOf(const Zoo::Page &page)
 {
     const std::unique_ptr<QWidget> window(page.make());
     Zoo::settle(window.get());
-    const auto disabledPen =
-        theme.theme()->values().value("DisabledForegroundColor").value<QColor>();
     QVector<RecordedText> texts;
     const auto windows = Zoo::windows(window.get());
     for (QWidget *one : windows) {
         one->grab(); // some layouts settle only as they are painted
-        TextRecorder recorder(one->size(), disabledPen);
+        TextRecorder recorder(one->size());
         recorder.record(one);
         texts += recorder.texts();
     }
@@ -138,7 +135,7 @@ void tst_ApplicationLegibility::everyText()
     QStringList illegible;
     int count = 0;
     for (const Zoo::Page &page : Zoo::pages() + Zoo::dialogs()) {
-        const auto texts = textsOf(page, theme);
+        const auto texts = textsOf(page);
         count += texts.size();
         for (const RecordedText &text : texts) {
             if (text.contrast >= minimumOf(look, text) || !isReachable(page.name, text))

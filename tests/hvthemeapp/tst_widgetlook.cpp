@@ -408,9 +408,7 @@ void tst_WidgetLook::disabled()
         window->setEnabled(enabled);
         Zoo::settle(window.get());
         window->grab();
-        const auto disabledPen =
-            theme.theme()->values().value("DisabledForegroundColor").value<QColor>();
-        TextRecorder recorder(window->size(), disabledPen);
+        TextRecorder recorder(window->size());
         recorder.record(window.get());
         QMultiMap<QString, QColor> pens;
         for (const RecordedText &text : recorder.texts()) {

@@ -5,12 +5,17 @@
 
 #include <colormath/contrast.h>
 
+#include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QHash>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTabBar>
 #include <QWidget>
 
 namespace
@@ -42,18 +47,34 @@ QVector<QColor> groundsIn(const QImage &image, const QRect &rect)
     return grounds;
 }
 
-bool isPenOfDisabledText(const QColor &pen, const QColor &disabledPen)
+bool isPenOfDisabledText(const QColor &pen, const QPalette &palette)
 {
-    if (disabledPen.isValid() && pen == disabledPen)
-        return true;
-    const QPalette palette = QApplication::palette();
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
         const QColor color = palette.color(QPalette::Disabled, role);
-        if (pen.rgb() == color.rgb() && color != palette.color(QPalette::Active, role))
+        if (pen.rgba() == color.rgba() && color != palette.color(QPalette::Active, role))
             return true;
     }
     return false;
+}
+
+/*! Whether what \a widget shows at \a place is disabled: an action, a tab or an item of it. */
+bool isDisabledPart(const QWidget *widget, const QPoint &place)
+{
+    const QAction *action = nullptr;
+    if (const auto *menu = qobject_cast<const QMenu *>(widget))
+        action = menu->actionAt(place);
+    else if (const auto *bar = qobject_cast<const QMenuBar *>(widget))
+        action = bar->actionAt(place);
+    if (action)
+        return !action->isEnabled();
+    if (const auto *tabs = qobject_cast<const QTabBar *>(widget))
+        return tabs->tabAt(place) >= 0 && !tabs->isTabEnabled(tabs->tabAt(place));
+    const auto *view = qobject_cast<const QAbstractItemView *>(widget->parentWidget());
+    if (!view || widget != view->viewport())
+        return false;
+    const QModelIndex index = view->indexAt(place);
+    return index.isValid() && !(index.flags() & Qt::ItemIsEnabled);
 }
 
 QString nameOf(const QWidget *widget)
@@ -98,7 +119,6 @@ public:
     QImage image;
     QVector<RecordedText> texts;
     const PaintWatcher *watcher = nullptr;
-    QColor disabledPen;
 
     bool begin(QPaintDevice *) override
     {
@@ -222,7 +242,7 @@ private:
         if (text.isEmpty() || rect.width() < 2 || rect.height() < 2)
             return;
         QColor pen = m_painter.pen().color();
-        const bool disabled = isPenOfDisabledText(pen, disabledPen);
+        const QColor asked = pen;
         pen.setAlphaF(pen.alphaF() * m_painter.opacity());
         RecordedText kept;
         for (const QColor &ground : groundsIn(image, rect)) {
@@ -235,9 +255,10 @@ private:
         kept.text = text;
         kept.rect = rect;
         kept.pen = ColorMath::over(pen, kept.ground);
-        kept.enabled = !disabled;
         if (const QWidget *widget = watcher ? watcher->widget() : nullptr) {
-            kept.enabled = kept.enabled && widget->isEnabled();
+            const QPoint place = widget->mapFrom(widget->window(), rect.center());
+            kept.enabled = widget->isEnabled() && !isDisabledPart(widget, place)
+                && !isPenOfDisabledText(asked, widget->palette());
             kept.widget = nameOf(widget);
             if (const QWidget *parent = widget->parentWidget())
                 kept.widget += QLatin1String(" in ") + nameOf(parent);
@@ -248,10 +269,9 @@ private:
     QPainter m_painter;
 };
 
-TextRecorder::TextRecorder(const QSize &size, const QColor &disabledPen)
+TextRecorder::TextRecorder(const QSize &size)
     : TextRecorder(std::make_unique<Engine>(size))
 {
-    m_engine->disabledPen = disabledPen;
 }
 
 TextRecorder::TextRecorder(std::unique_ptr<Engine> engine)

@@ -21,7 +21,7 @@ struct RecordedText {
     QColor ground; /*!< of the colours that lay below a good part of it, the worst to read on */
     double contrast = 21;
     QString widget; /*!< class and object name of who drew it, and of its window */
-    bool enabled = true; /*!< whether the widget was, and the pen not that of disabled text */
+    bool enabled = true; /*!< the widget, the part of it and, by its colour, the text */
 };
 
 /*!
@@ -32,8 +32,7 @@ struct RecordedText {
 class TextRecorder final : public QImage
 {
 public:
-    /*! \a disabledPen is known for that of disabled text, beside those of the palette. */
-    explicit TextRecorder(const QSize &size, const QColor &disabledPen = {});
+    explicit TextRecorder(const QSize &size);
     ~TextRecorder() override;
 
     /*! Draws \a window with everything in it. */
