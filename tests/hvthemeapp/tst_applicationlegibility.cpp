@@ -121,16 +121,21 @@ void tst_ApplicationLegibility::recorder()
 void tst_ApplicationLegibility::everyText_data()
 {
     QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("keepsFonts");
 
-    for (const QString &look : looks)
-        QTest::newRow(qUtf8Printable(look)) << look;
+    for (const QString &look : looks) {
+        QTest::newRow(qUtf8Printable(look)) << look << false;
+        QTest::addRow("%s-keeps-fonts", qUtf8Printable(look)) << look << true;
+    }
 }
 
 void tst_ApplicationLegibility::everyText()
 {
     QFETCH(QString, look);
+    QFETCH(bool, keepsFonts);
 
     HV::ApplicationTheme theme;
+    theme.setKeepsFonts(keepsFonts);
     QVERIFY(theme.setName(look));
     QStringList illegible;
     int count = 0;
@@ -158,8 +163,10 @@ void tst_ApplicationLegibility::placeholder_data()
 void tst_ApplicationLegibility::placeholder()
 {
     QFETCH(QString, look);
+    QFETCH(bool, keepsFonts);
 
     HV::ApplicationTheme theme;
+    theme.setKeepsFonts(keepsFonts);
     const std::unique_ptr<QWidget> window(Zoo::pages().at(3).make());
     Zoo::settle(window.get());
     // The look before must leave nothing behind.

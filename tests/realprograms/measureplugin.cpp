@@ -79,7 +79,8 @@ bool isControl(const QWidget *widget)
     if (!widget->isVisible() || widget->width() < 8 || widget->height() < 8)
         return false;
     const QWidget *parent = widget->parentWidget();
-    if (qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent))
+    if (qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent)
+        || qobject_cast<const QLineEdit *>(parent))
         return false;
     if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
         return edit->hasFrame();

@@ -263,7 +263,23 @@ private:
             if (const QWidget *parent = widget->parentWidget())
                 kept.widget += QLatin1String(" in ") + nameOf(parent);
         }
+        dropShadowOf(kept);
         texts.append(kept);
+    }
+
+    // Some styles etch disabled text: first a light shadow of it, a pixel away, which nobody reads.
+    void dropShadowOf(const RecordedText &text)
+    {
+        constexpr int near = 8; // a text with a mnemonic comes in parts
+        for (int i = texts.size() - 1; i >= qMax(0, int(texts.size()) - near); --i) {
+            const RecordedText &shadow = texts.at(i);
+            const QPoint offset = shadow.rect.topLeft() - text.rect.topLeft();
+            if (shadow.text == text.text && shadow.widget == text.widget
+                && offset == QPoint(1, 1)) {
+                texts.removeAt(i);
+                return;
+            }
+        }
     }
 
     QPainter m_painter;
