@@ -271,7 +271,7 @@ private:
     void dropShadowOf(const RecordedText &text)
     {
         constexpr int near = 8; // a text with a mnemonic comes in parts
-        for (int i = texts.size() - 1; i >= qMax(0, int(texts.size()) - near); --i) {
+        for (int i = int(texts.size()) - 1; i >= qMax(0, int(texts.size()) - near); --i) {
             const RecordedText &shadow = texts.at(i);
             const QPoint offset = shadow.rect.topLeft() - text.rect.topLeft();
             if (shadow.text == text.text && shadow.widget == text.widget
