@@ -46,6 +46,7 @@ namespace
 Q_LOGGING_CATEGORY(lcApp, "hvtheme.app")
 
 const QString themeKey = QStringLiteral("Theme");
+const QString accentKey = QStringLiteral("Accent");
 const QString followsDesktopKey = QStringLiteral("FollowsDesktop");
 
 // An application has one look: who set it last, and the style sheet without what is not ours.
@@ -86,6 +87,8 @@ public:
     QString folder; // that themes will be taken from; null for the default one
     QString name; // of the look in force,
     QString nameFolder; // which comes from here
+    QColor accent; // invalid for the brand of the theme itself
+    bool followsAccent = false;
     TemplateFolders templates;
     bool keepsFonts = false;
     std::unique_ptr<LegibleText> legibleText; // null unless text is lifted
@@ -228,14 +231,58 @@ void ApplicationTheme::setFollowsDesktop(bool follows)
     Q_EMIT followsDesktopChanged();
 }
 
-// A change of the accent alone leaves the look as it is.
+// A change of the accent alone leaves a look that does not follow it as it is.
 bool ApplicationTheme::applyDesktop()
 {
     const QString folder = d->nextFolder();
     const QString name = d->fitting(folder);
     const bool isInForce =
         lookInForce().owner == this && name == d->name && folder == d->nameFolder;
-    return isInForce || apply(folder, name);
+    const bool isOtherAccent = d->followsAccent && d->accent != d->desktop->accentColor();
+    if (isOtherAccent)
+        d->accent = d->desktop->accentColor();
+    const QPointer<ApplicationTheme> guard(this);
+    const bool isApplied = (isInForce && !isOtherAccent) || apply(folder, name);
+    if (guard && isOtherAccent)
+        Q_EMIT accentChanged();
+    return isApplied;
+}
+
+QColor ApplicationTheme::accent() const
+{
+    return d->accent;
+}
+
+bool ApplicationTheme::setAccent(const QColor &accent)
+{
+    const QColor opaque = accent.isValid() ? QColor(accent.rgb()) : QColor();
+    if (opaque == d->accent)
+        return true;
+    d->accent = opaque;
+    const QPointer<ApplicationTheme> guard(this);
+    const bool isApplied = d->name.isNull() || apply(d->nameFolder, d->name);
+    if (guard)
+        Q_EMIT accentChanged();
+    return isApplied;
+}
+
+bool ApplicationTheme::followsAccent() const
+{
+    return d->followsAccent;
+}
+
+void ApplicationTheme::setFollowsAccent(bool follows)
+{
+    if (follows == d->followsAccent)
+        return;
+    d->followsAccent = follows;
+    const QPointer<ApplicationTheme> guard(this);
+    if (d->desktop && follows)
+        applyDesktop();
+    else if (!follows)
+        setAccent(QColor());
+    if (guard)
+        Q_EMIT followsAccentChanged();
 }
 
 bool ApplicationTheme::addTemplates(const QString &folder, const QString &prefix)
@@ -343,14 +390,21 @@ void ApplicationTheme::save(QSettings &settings) const
 {
     settings.setValue(themeKey, d->name);
     settings.setValue(followsDesktopKey, followsDesktop());
+    settings.setValue(accentKey, d->accent.isValid() ? d->accent.name() : QString());
 }
 
 bool ApplicationTheme::restore(const QSettings &settings)
 {
-    if (settings.value(followsDesktopKey).toBool())
-        return followDesktop();
+    const bool isFollowing = settings.value(followsDesktopKey).toBool();
     const QString name = settings.value(themeKey).toString();
-    return !name.isEmpty() && setName(name);
+    if (!isFollowing && name.isEmpty())
+        return false;
+    const QColor accent(settings.value(accentKey).toString());
+    if (accent != d->accent) { // in force with the look, not by a restyling of its own
+        d->accent = accent;
+        Q_EMIT accentChanged();
+    }
+    return isFollowing ? followDesktop() : setName(name);
 }
 
 // Returns false for a problem, so that it ends what failed.
@@ -379,7 +433,7 @@ bool ApplicationTheme::apply(const QString &folder, const QString &name)
         return true;
     }
 
-    const QStringList derived = readTheme(*d->theme, themes, name);
+    const QStringList derived = readTheme(*d->theme, themes, name, d->accent);
     const QString lacks = derived.isEmpty()
         ? QString()
         : QStringLiteral("The theme \"%1\" lacks %2 of the colours that a look is made of (%3); "

@@ -6,6 +6,7 @@
 
 #include <hvthemeapp/hvthemeapp_export.h>
 
+#include <QColor>
 #include <QObject>
 #include <QStringList>
 
@@ -51,6 +52,9 @@ class HVTHEMEAPP_EXPORT ApplicationTheme : public QObject
     Q_PROPERTY(QStringList names READ names NOTIFY folderChanged)
     Q_PROPERTY(bool followsDesktop READ followsDesktop WRITE setFollowsDesktop NOTIFY
                    followsDesktopChanged)
+    Q_PROPERTY(QColor accent READ accent WRITE setAccent RESET resetAccent NOTIFY accentChanged)
+    Q_PROPERTY(
+        bool followsAccent READ followsAccent WRITE setFollowsAccent NOTIFY followsAccentChanged)
     Q_PROPERTY(bool keepsFonts READ keepsFonts WRITE setKeepsFonts NOTIFY keepsFontsChanged)
     Q_PROPERTY(bool liftsText READ liftsText WRITE setLiftsText NOTIFY liftsTextChanged)
     Q_PROPERTY(bool liveReload READ isLiveReload WRITE setLiveReload NOTIFY liveReloadChanged)
@@ -112,6 +116,31 @@ public:
 
     /*! \brief Begins as followDesktop() does, or ends it; the look stays what it is. */
     void setFollowsDesktop(bool follows);
+
+    /*! \brief Returns the colour that takes the place of a theme's brand; invalid if none does. */
+    QColor accent() const;
+
+    /*!
+     * \brief Makes \a accent the brand of every look: the tones of the theme's brand are derived anew
+     *        from it, and so are the colours that call for it.
+     *
+     * Text keeps its contrast for any accent: 4.5:1, in a theme with the flag `HighContrast` 7:1, where
+     * the theme itself has it. The accent itself is seen where a fill can carry the look's text, else
+     * its nearest tone. Palette entries `Brand_1` to `Brand_10` change; a theme without them keeps its
+     * colours. Images of the theme's own stay as they are.
+     *
+     * \param accent  its opacity does not count; an invalid colour gives themes their own brand back.
+     * \return whether the application has it now; true before the first look.
+     */
+    bool setAccent(const QColor &accent);
+    void resetAccent() { setAccent(QColor()); }
+
+    /*!
+     * \brief Whether the desktop's accent colour is the accent while the desktop is followed; false at
+     *        first. A desktop without one leaves themes their own brand.
+     */
+    bool followsAccent() const;
+    void setFollowsAccent(bool follows);
 
     /*!
      * \brief Appends the templates (`*.qss`, `*.css`) of \a folder, with tokens that begin with
@@ -175,7 +204,8 @@ public:
      */
     QMenu *menu(QWidget *parent = nullptr);
 
-    /*! \brief Writes the user's choice, `Theme` and `FollowsDesktop`, below the current group. */
+    /*! \brief Writes the user's choice, `Theme`, `FollowsDesktop` and `Accent`, below the current
+     *         group. */
     void save(QSettings &settings) const;
 
     /*!
@@ -194,6 +224,8 @@ Q_SIGNALS:
     void nameChanged();
     void folderChanged();
     void followsDesktopChanged();
+    void accentChanged();
+    void followsAccentChanged();
     void keepsFontsChanged();
     void liftsTextChanged();
     void liveReloadChanged();

@@ -8,7 +8,9 @@
 #include "themefolder.h"
 
 #include <hvtheme/theme.h>
+#include <maker/rebranding.h>
 
+#include <QFile>
 #include <QMap>
 #include <QSettings>
 #include <QTemporaryFile>
@@ -59,12 +61,15 @@ private:
 class Reading
 {
 public:
-    Reading(Theme &theme, const ThemeFolder &folder, const QString &name)
+    // What stands in first and second takes the place of the folder's files; null texts do not.
+    Reading(Theme &theme, const ThemeFolder &folder, const QString &name, const QString &first,
+            const QString &second)
         : m_theme(theme)
-        , m_first(folder.defaultFile(), QSettings::IniFormat)
+        , m_defaultFile(folder.defaultFile(), QSettings::IniFormat)
+        , m_first(first.isNull() ? folder.defaultFile() : first, QSettings::IniFormat)
     {
         if (folder.file(name) != folder.defaultFile())
-            m_second.emplace(folder.file(name), QSettings::IniFormat);
+            m_second.emplace(second.isNull() ? folder.file(name) : second, QSettings::IniFormat);
     }
 
     QStringList run()
@@ -78,9 +83,9 @@ public:
         addMissingImages(m_theme);
         // Everything is stored now, so what the theme's class requires is looked for in an empty
         // part of the default file; this also gives the theme its file path.
-        m_first.beginGroup(QStringLiteral("hvtheme-no-such-section"));
-        m_theme.readSettings(m_first);
-        m_first.endGroup();
+        m_defaultFile.beginGroup(QStringLiteral("hvtheme-no-such-section"));
+        m_theme.readSettings(m_defaultFile);
+        m_defaultFile.endGroup();
         return derived;
     }
 
@@ -144,15 +149,58 @@ private:
     }
 
     Theme &m_theme;
+    QSettings m_defaultFile;
     QSettings m_first;
     std::optional<QSettings> m_second;
 };
 
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// A theme takes values from files only, so those of another brand go through files as well.
+class RebrandedFiles
+{
+public:
+    RebrandedFiles(const ThemeFolder &folder, const QString &name, const QColor &accent)
+    {
+        const bool isDefault = folder.file(name) == folder.defaultFile();
+        const Maker::ThemeTexts texts{contentOf(folder.defaultFile()),
+                                      isDefault ? QByteArray() : contentOf(folder.file(name))};
+        QStringList notes; // what cannot be had is a tone that comes near
+        const Maker::ThemeTexts rebranded = Maker::withBrand(texts, accent, &notes);
+        m_isWritten = write(&m_first, rebranded.base) && write(&m_second, rebranded.own);
+    }
+
+    QString first() const { return m_isWritten ? m_first.fileName() : QString(); }
+    QString second() const { return m_isWritten ? m_second.fileName() : QString(); }
+
+private:
+    static bool write(QTemporaryFile *file, const QByteArray &text)
+    {
+        if (!file->open() || file->write(text) != text.size())
+            return false;
+        file->fileName(); // a closed file that was never named is lost
+        file->close();
+        return true;
+    }
+
+    QTemporaryFile m_first;
+    QTemporaryFile m_second;
+    bool m_isWritten = false;
+};
+
 } // namespace
 
-QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name)
+QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
+                      const QColor &accent)
 {
-    return Reading(theme, folder, name).run();
+    if (!accent.isValid())
+        return Reading(theme, folder, name, QString(), QString()).run();
+    const RebrandedFiles files(folder, name, accent);
+    return Reading(theme, folder, name, files.first(), files.second()).run();
 }
 
 } // namespace HV

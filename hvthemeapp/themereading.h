@@ -4,6 +4,7 @@
 #ifndef HVTHEMEAPP_THEMEREADING_H
 #define HVTHEMEAPP_THEMEREADING_H
 
+#include <QColor>
 #include <QStringList>
 
 namespace HV
@@ -22,11 +23,15 @@ class ThemeFolder;
  *  - images that neither file has are the built-in drawings;
  *  - keys that the theme's class requires are looked for, and logged by the core if they are missing.
  *
+ * \param accent  if valid, takes the place of the theme's brand: its tones are derived anew, and the
+ *                colours that call for it, see ApplicationTheme::setAccent().
+ *
  * \return the colours that had to be derived, sorted.
  *
  * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
  */
-QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name);
+QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
+                      const QColor &accent = QColor());
 
 } // namespace HV
 

@@ -5,6 +5,7 @@
 #include <colormath/oklch.h>
 #include <maker/lookcolors.h>
 #include <maker/meanings.h>
+#include <maker/themetext.h>
 
 #include <QRegularExpression>
 
@@ -269,7 +270,7 @@ QColor LookColors::resolved(const QString &text) const
     const auto entry = m_palette.constFind(text);
     if (entry != m_palette.cend())
         return *entry;
-    return QColor(text.startsWith(QLatin1Char('#')) ? text : QString(QLatin1Char('#') % text));
+    return colorFromText(text);
 }
 
 QColor LookColors::composite(const QStringList &layers) const
@@ -283,6 +284,21 @@ QColor LookColors::composite(const QStringList &layers) const
 double LookColors::ratio(const ColorPair &pair) const
 {
     return ColorMath::contrastRatio(color(pair.foreground), composite(pair.layers));
+}
+
+QColor colorFromText(const QString &text)
+{
+    return QColor(text.startsWith(QLatin1Char('#')) ? text : QString(QLatin1Char('#') % text));
+}
+
+void setPaletteEntries(ThemeText *text, const QVector<PaletteEntry> &entries)
+{
+    const QString section = QStringLiteral("Palettes");
+    for (const PaletteEntry &entry : entries) {
+        const QColor color = colorFromText(text->value(section, entry.first));
+        if (!color.isValid() || color.rgba() != entry.second.rgba())
+            text->setValue(section, entry.first, hexadecimal(entry.second));
+    }
 }
 
 double requiredRatio(Need need, Look look, double textContrast)

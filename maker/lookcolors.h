@@ -41,6 +41,14 @@ private:
     QMap<QString, QString> m_texts;
 };
 
+class ThemeText;
+
+/*! \brief Returns the colour of `#RRGGBB`, `#AARRGGBB` and the same without `#`; else an invalid one. */
+QColor colorFromText(const QString &text);
+
+/*! \brief Sets the palette of a theme file; an entry that has its colour already keeps its spelling. */
+void setPaletteEntries(ThemeText *text, const QVector<PaletteEntry> &entries);
+
 /*! \brief Returns the ratio that \a need means in \a look. */
 double requiredRatio(Need need, Look look, double textContrast);
 

@@ -53,30 +53,6 @@ QString fileBaseName(const QString &name, Look look)
     return base % QLatin1Char('-') % lookName(look);
 }
 
-QMap<QString, QString> valuesOf(const ThemeText &text, const QString &section)
-{
-    QMap<QString, QString> values;
-    const QStringList keys = text.keys(section);
-    for (const QString &key : keys)
-        values.insert(key, text.value(section, key));
-    return values;
-}
-
-QColor colorOf(const QString &text)
-{
-    return QColor(text.startsWith(QLatin1Char('#')) ? text : QString(QLatin1Char('#') % text));
-}
-
-// An entry that has its colour already keeps its spelling.
-void setPalette(ThemeText *text, const QVector<PaletteEntry> &palette)
-{
-    for (const PaletteEntry &entry : palette) {
-        const QColor color = colorOf(text->value(palettesSection, entry.first));
-        if (!color.isValid() || color.rgba() != entry.second.rgba())
-            text->setValue(palettesSection, entry.first, hexadecimal(entry.second));
-    }
-}
-
 QString neutralText(const Neutral &neutral)
 {
     const auto is = [&](const Neutral &other) {
@@ -102,7 +78,7 @@ QByteArray madeFrom(const Order &order)
 MadeFile defaultFile(const Order &order, const QVector<PaletteEntry> &palette)
 {
     ThemeText text(sample(QStringLiteral("default")));
-    setPalette(&text, palette);
+    setPaletteEntries(&text, palette);
     QByteArray content = text.text();
     content.replace("--brand #3060F0 --neutral cool", madeFrom(order));
     for (const Look look : {Look::Dark, Look::Light, Look::Contrast}) {
@@ -117,7 +93,7 @@ MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &pa
                   QStringList *notes)
 {
     ThemeText text(sample(lookName(look)));
-    const QMap<QString, QString> colors = valuesOf(text, colorsSection);
+    const QMap<QString, QString> colors = text.values(colorsSection);
     const LookColors designed = designedColors(look, order.parameters, palette, colors, notes);
     for (const QString &key : text.keys(colorsSection))
         text.setValue(colorsSection, key, designed.text(key));
@@ -128,56 +104,6 @@ MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &pa
     QByteArray content = text.text();
     content.replace(", 85 images and its flags", " and its flags");
     return {fileBaseName(order.name, look) % QLatin1String(".theme"), content};
-}
-
-Look lookOf(const LookColors &colors, const QMap<QString, QString> &flags)
-{
-    if (flags.value(QStringLiteral("HighContrast")).toInt() != 0)
-        return Look::Contrast;
-    const QColor surface = colors.color(QStringLiteral("BackgroundColor_3"));
-    return surface.isValid() && ColorMath::cieLightness(surface) > 50 ? Look::Light : Look::Dark;
-}
-
-bool hasBrand(const ThemeText &text)
-{
-    const QStringList keys = text.keys(palettesSection);
-    return std::any_of(keys.cbegin(), keys.cend(),
-                       [](const QString &key) { return key.startsWith(QLatin1String("Brand_")); });
-}
-
-// The entries that the text has, and those that a colour has come to name.
-QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const ThemeText &text,
-                                  const LookColors &colors)
-{
-    const QStringList keys = text.keys(palettesSection);
-    const QStringList named = colors.texts().values();
-    QVector<PaletteEntry> used;
-    std::copy_if(entries.cbegin(), entries.cend(), std::back_inserter(used),
-                 [&](const PaletteEntry &entry) {
-                     return keys.contains(entry.first) || named.contains(entry.first);
-                 });
-    return used;
-}
-
-// The palette of a theme with the tones of another brand. An entry may name one before it.
-QVector<PaletteEntry> paletteWithBrand(const ThemeText &text, const QColor &brand)
-{
-    const LookColors known({}, valuesOf(text, palettesSection));
-    QVector<PaletteEntry> entries;
-    Parameters parameters;
-    parameters.brand = brand;
-    const QVector<PaletteEntry> made = palette(parameters);
-    std::copy_if(
-        made.cbegin(), made.cend(), std::back_inserter(entries),
-        [](const PaletteEntry &entry) { return entry.first.startsWith(QLatin1String("Brand")); });
-    for (const QString &key : text.keys(palettesSection)) {
-        if (key.startsWith(QLatin1String("Brand")))
-            continue;
-        const QString value = known.text(key);
-        const QString named = known.text(value);
-        entries.append({key, colorOf(named.isNull() ? value : named)});
-    }
-    return entries;
 }
 
 } // namespace
@@ -197,31 +123,6 @@ MadeThemes makeThemes(const Order &order)
     for (const Look look : order.looks)
         made.files.append(lookFile(order, look, entries, &made.notes));
     return made;
-}
-
-ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes)
-{
-    ThemeText base(theme.base);
-    ThemeText own(theme.own);
-    // A key of the default file keeps its value, so that is where it has to change.
-    QMap<QString, QString> colors = valuesOf(own, colorsSection);
-    const QMap<QString, QString> baseColors = valuesOf(base, colorsSection);
-    for (auto it = baseColors.cbegin(); it != baseColors.cend(); ++it)
-        colors.insert(it.key(), it.value());
-
-    ThemeText &paletteText = hasBrand(own) && !hasBrand(base) ? own : base;
-    const QVector<PaletteEntry> entries = paletteWithBrand(paletteText, brand);
-    const LookColors before(entries, colors);
-    Parameters parameters;
-    parameters.brand = brand;
-    const LookColors designed = recoloredLook(
-        lookOf(before, valuesOf(own, QStringLiteral("Flags"))), parameters, entries, colors, notes);
-    setPalette(&paletteText, usedEntries(entries, paletteText, designed));
-    for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
-        ThemeText &holder = baseColors.contains(it.key()) ? base : own;
-        holder.setValue(colorsSection, it.key(), designed.text(it.key()));
-    }
-    return {base.text(), own.text()};
 }
 
 } // namespace Maker

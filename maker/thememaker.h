@@ -47,21 +47,6 @@ MadeThemes makeThemes(const Order &order);
 /*! \brief Tells whether \a name can be an Order's name. */
 bool isThemeName(const QString &name);
 
-/*! \brief The text of a default file and of the theme over it. */
-struct ThemeTexts {
-    QByteArray base;
-    QByteArray own;
-};
-
-/*!
- * \brief Returns \a theme with the tones of another brand, all else as it is.
- *
- * The palette entries `Brand_1` to `Brand_10` change, and what of the look's colours then calls for
- * it. A theme without such entries, or with some of the colours of the samples missing, is mended
- * as far as its keys go.
- */
-ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes);
-
 } // namespace Maker
 
 #endif

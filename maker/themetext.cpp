@@ -61,6 +61,16 @@ QStringList ThemeText::keys(const QString &section) const
     return keys;
 }
 
+QMap<QString, QString> ThemeText::values(const QString &section) const
+{
+    QMap<QString, QString> values;
+    for (const Line &line : m_lines) {
+        if (line.section == section && !line.key.isEmpty())
+            values.insert(line.key, value(section, line.key));
+    }
+    return values;
+}
+
 int ThemeText::indexOf(const QString &section, const QString &key) const
 {
     for (int i = int(m_lines.size()) - 1; i >= 0; --i) {

@@ -5,6 +5,7 @@
 #define MAKER_THEMETEXT_H
 
 #include <QByteArray>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -28,6 +29,9 @@ public:
 
     /*! \brief Returns the keys of a section, "Colors" say, in the order of the file. */
     QStringList keys(const QString &section) const;
+
+    /*! \brief Returns the values of a section by key. */
+    QMap<QString, QString> values(const QString &section) const;
 
     /*! \brief Returns the value of \a key, or a null text. The last of two equal keys counts. */
     QString value(const QString &section, const QString &key) const;

@@ -4,6 +4,7 @@
 #include <tools/command_new.h>
 
 #include <format/themepath.h>
+#include <maker/rebranding.h>
 #include <maker/thememaker.h>
 #include <maker/themetext.h>
 #include <tools/commandline.h>

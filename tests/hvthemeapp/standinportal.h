@@ -130,4 +130,35 @@ private:
     QList<QDBusMessage> m_waiting;
 };
 
+/*! \brief The colour of `accent-color`, as the portal sends it. */
+struct Accent {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+};
+
+inline QDBusArgument &operator<<(QDBusArgument &argument, const Accent &accent)
+{
+    argument.beginStructure();
+    argument << accent.red << accent.green << accent.blue;
+    argument.endStructure();
+    return argument;
+}
+
+inline const QDBusArgument &operator>>(const QDBusArgument &argument, Accent &accent)
+{
+    argument.beginStructure();
+    argument >> accent.red >> accent.green >> accent.blue;
+    argument.endStructure();
+    return argument;
+}
+
+Q_DECLARE_METATYPE(Accent)
+
+inline QVariant accent(double red, double green, double blue)
+{
+    qDBusRegisterMetaType<Accent>();
+    return QVariant::fromValue(Accent{red, green, blue});
+}
+
 #endif // HVTHEME_TESTS_STANDINPORTAL_H

@@ -21,42 +21,8 @@ Q_DECLARE_METATYPE(StandInPortal::Values)
 namespace
 {
 
-struct Accent {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-};
-
-QDBusArgument &operator<<(QDBusArgument &argument, const Accent &accent)
-{
-    argument.beginStructure();
-    argument << accent.red << accent.green << accent.blue;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument &operator>>(const QDBusArgument &argument, Accent &accent)
-{
-    argument.beginStructure();
-    argument >> accent.red >> accent.green >> accent.blue;
-    argument.endStructure();
-    return argument;
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Accent)
-
-namespace
-{
-
 // What a program that follows the desktop must react within, restyling included.
 const int reactionMs = 200;
-
-QVariant accent(double red, double green, double blue)
-{
-    return QVariant::fromValue(Accent{red, green, blue});
-}
 
 QPalette palette(bool isDark)
 {
@@ -493,7 +459,6 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     if (application.arguments().contains("--report"))
         return report();
-    qDBusRegisterMetaType<Accent>();
     tst_DesktopSettings test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void changeRestylesInTime();
     void ownChoiceEndsIt();
     void choiceWhileFollowing();
+    void accentIsFollowedOnRequest();
     void deletedWhileAsked();
 
 private:
@@ -172,6 +173,33 @@ void tst_FollowDesktop::choiceWhileFollowing()
     });
     QTRY_COMPARE(theme.name(), QString("contrast"));
     QVERIFY(!theme.followsDesktop());
+}
+
+void tst_FollowDesktop::accentIsFollowedOnRequest()
+{
+    StandInPortal stand({{"color-scheme", 1U}, {"accent-color", accent(0.5, 0.25, 0)}});
+    ApplicationTheme theme;
+    QVERIFY(theme.followDesktop());
+    QTRY_COMPARE(theme.name(), QString("dark"));
+    QVERIFY(!theme.accent().isValid());
+
+    QSignalSpy accents(&theme, &ApplicationTheme::accentChanged);
+    QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    theme.setFollowsAccent(true);
+    QCOMPARE(theme.accent(), QColor(128, 64, 0));
+    QCOMPARE(theme.theme()->readNamedColor("Brand").first, QColor(128, 64, 0));
+    QCOMPARE(accents.size(), 1);
+    QCOMPARE(changes.size(), 1);
+
+    stand.change("accent-color", accent(0, 0.5, 0));
+    QTRY_COMPARE(theme.accent(), QColor(0, 128, 0));
+    QCOMPARE(changes.size(), 2);
+    stand.change("accent-color", accent(-1, -1, -1)); // none
+    QTRY_VERIFY(!theme.accent().isValid());
+    stand.change("accent-color", accent(0, 0.5, 0));
+    QTRY_VERIFY(theme.accent().isValid());
+    theme.setFollowsAccent(false);
+    QVERIFY(!theme.accent().isValid());
 }
 
 void tst_FollowDesktop::deletedWhileAsked()

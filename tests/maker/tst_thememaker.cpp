@@ -7,6 +7,7 @@
 #include <hvtheme/workabletheming.h>
 #include <maker/lookcolors.h>
 #include <maker/meanings.h>
+#include <maker/rebranding.h>
 #include <maker/thememaker.h>
 #include <maker/themetext.h>
 

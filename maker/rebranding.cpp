@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <colormath/oklch.h>
+#include <maker/lookcolors.h>
+#include <maker/rebranding.h>
+#include <maker/themetext.h>
+
+#include <algorithm>
+
+namespace Maker
+{
+
+namespace
+{
+
+const QString colorsSection = QStringLiteral("Colors");
+const QString palettesSection = QStringLiteral("Palettes");
+
+Look lookOf(const LookColors &colors, const QMap<QString, QString> &flags)
+{
+    if (flags.value(QStringLiteral("HighContrast")).toInt() != 0)
+        return Look::Contrast;
+    const QColor surface = colors.color(QStringLiteral("BackgroundColor_3"));
+    return surface.isValid() && ColorMath::cieLightness(surface) > 50 ? Look::Light : Look::Dark;
+}
+
+bool hasBrand(const ThemeText &text)
+{
+    const QStringList keys = text.keys(palettesSection);
+    return std::any_of(keys.cbegin(), keys.cend(),
+                       [](const QString &key) { return key.startsWith(QLatin1String("Brand_")); });
+}
+
+// The entries that the text has, and those that a colour has come to name.
+QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const ThemeText &text,
+                                  const LookColors &colors)
+{
+    const QStringList keys = text.keys(palettesSection);
+    const QStringList named = colors.texts().values();
+    QVector<PaletteEntry> used;
+    std::copy_if(entries.cbegin(), entries.cend(), std::back_inserter(used),
+                 [&](const PaletteEntry &entry) {
+                     return keys.contains(entry.first) || named.contains(entry.first);
+                 });
+    return used;
+}
+
+// The palette of a theme with the tones of another brand. An entry may name one before it.
+QVector<PaletteEntry> paletteWithBrand(const ThemeText &text, const QColor &brand)
+{
+    const LookColors known({}, text.values(palettesSection));
+    QVector<PaletteEntry> entries;
+    Parameters parameters;
+    parameters.brand = brand;
+    const QVector<PaletteEntry> made = palette(parameters);
+    std::copy_if(
+        made.cbegin(), made.cend(), std::back_inserter(entries),
+        [](const PaletteEntry &entry) { return entry.first.startsWith(QLatin1String("Brand")); });
+    for (const QString &key : text.keys(palettesSection)) {
+        if (key.startsWith(QLatin1String("Brand")))
+            continue;
+        const QString value = known.text(key);
+        const QString named = known.text(value);
+        entries.append({key, colorFromText(named.isNull() ? value : named)});
+    }
+    return entries;
+}
+
+} // namespace
+
+ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes)
+{
+    ThemeText base(theme.base);
+    ThemeText own(theme.own);
+    // A key of the default file keeps its value, so that is where it has to change.
+    QMap<QString, QString> colors = own.values(colorsSection);
+    const QMap<QString, QString> baseColors = base.values(colorsSection);
+    for (auto it = baseColors.cbegin(); it != baseColors.cend(); ++it)
+        colors.insert(it.key(), it.value());
+
+    const auto isTone = [](const QString &text) {
+        return text.startsWith(QLatin1String("Brand_"));
+    };
+    const bool isNamed = std::any_of(colors.cbegin(), colors.cend(), isTone);
+    if (!hasBrand(base) && !hasBrand(own) && !isNamed)
+        return theme;
+
+    ThemeText &paletteText = hasBrand(own) && !hasBrand(base) ? own : base;
+    const QVector<PaletteEntry> entries = paletteWithBrand(paletteText, brand);
+    const LookColors before(entries, colors);
+    Parameters parameters;
+    parameters.brand = brand;
+    const LookColors designed = recoloredLook(lookOf(before, own.values(QStringLiteral("Flags"))),
+                                              parameters, entries, colors, notes);
+    setPaletteEntries(&paletteText, usedEntries(entries, paletteText, designed));
+    for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
+        ThemeText &holder = baseColors.contains(it.key()) ? base : own;
+        holder.setValue(colorsSection, it.key(), designed.text(it.key()));
+    }
+    return {base.text(), own.text()};
+}
+
+} // namespace Maker

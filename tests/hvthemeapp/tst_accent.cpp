@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "messages.h"
+#include "temporaryfolder.h"
+
+#include <colormath/contrast.h>
+#include <hvtheme/workabletheming.h>
+#include <hvthemeapp/applicationtheme.h>
+#include <maker/lookcolors.h>
+
+#include <QApplication>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QtTest>
+
+using HV::ApplicationTheme;
+
+// An accent takes the place of the brand, and text stays as legible as it was.
+class tst_Accent : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void textStaysLegible_data();
+    void textStaysLegible();
+    void isSeen();
+    void givesTheBrandBack();
+    void beforeTheFirstLook();
+    void survivesASwitch();
+    void signalsOnce();
+    void opacityDoesNotCount();
+    void themeWithoutBrand();
+    void filePathIsTheThemes();
+    void saveAndRestore();
+    void deletedByASlot();
+
+private:
+    MessageLog m_log;
+};
+
+void tst_Accent::init()
+{
+    qApp->setStyleSheet(QString());
+    m_log.start();
+}
+
+void tst_Accent::cleanup()
+{
+    REPORT_STRAY_MESSAGES(m_log);
+}
+
+void tst_Accent::textStaysLegible_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<QColor>("accent");
+
+    for (const char *look : {"dark", "light", "contrast"}) {
+        for (const char *accent : {"#c0a060", "#ff0000", "#ffff00", "#000000", "#ffffff", "#00a050",
+                                   "#0000ff", "#808080"})
+            QTest::addRow("%s-%s", look, accent) << look << QColor(accent);
+    }
+}
+
+void tst_Accent::textStaysLegible()
+{
+    QFETCH(QString, look);
+    QFETCH(QColor, accent);
+    ApplicationTheme theme;
+    QVERIFY(theme.setAccent(accent));
+    QVERIFY(theme.setName(look));
+    const Maker::Look kind = look == "contrast" ? Maker::Look::Contrast
+        : look == "light"                       ? Maker::Look::Light
+                                                : Maker::Look::Dark;
+    for (const Maker::ColorPair &pair : Maker::colorPairs()) {
+        QColor ground = theme.theme()->color(pair.layers.first());
+        for (int i = 1; i < pair.layers.size(); ++i)
+            ground = ColorMath::over(theme.theme()->color(pair.layers.at(i)), ground);
+        const double ratio =
+            ColorMath::contrastRatio(theme.theme()->color(pair.foreground), ground);
+        QVERIFY2(ratio >= Maker::requiredRatio(pair.need, kind, 4.5),
+                 qPrintable(pair.foreground + " on " + pair.layers.join('+')));
+    }
+    const QPalette palette = theme.palette();
+    QVERIFY(ColorMath::contrastRatio(palette.color(QPalette::HighlightedText),
+                                     palette.color(QPalette::Highlight))
+            >= (look == "contrast" ? 7.0 : 4.5));
+}
+
+// A button of the main action is painted in the accent itself.
+void tst_Accent::isSeen()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    QPushButton button;
+    button.setProperty("style", "general");
+    button.resize(80, 30);
+    const QColor accent("#7a2f9c");
+    QVERIFY(button.grab().toImage().pixelColor(40, 15) != accent);
+    QVERIFY(theme.setAccent(accent));
+    QCOMPARE(button.grab().toImage().pixelColor(40, 15), accent);
+}
+
+void tst_Accent::givesTheBrandBack()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("light"));
+    const QVariantMap values = HV::WorkableTheme().values();
+    const QPalette palette = theme.palette();
+    const QString styleSheet = qApp->styleSheet();
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    QVERIFY(theme.palette() != palette);
+    theme.resetAccent();
+    QVERIFY(!theme.accent().isValid());
+    QCOMPARE(theme.palette(), palette);
+    QCOMPARE(qApp->styleSheet(), styleSheet);
+}
+
+void tst_Accent::beforeTheFirstLook()
+{
+    ApplicationTheme theme;
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    QCOMPARE(changes.count(), 0);
+    QVERIFY(theme.setName("dark"));
+    QCOMPARE(theme.theme()->readNamedColor("Brand").first, QColor("#8a3324"));
+}
+
+void tst_Accent::survivesASwitch()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    for (const char *look : {"dark", "light", "contrast"}) {
+        QVERIFY(theme.setName(look));
+        const QColor tone = theme.theme()->readNamedColor("Brand_6").first;
+        QVERIFY2(tone.red() > tone.blue(), look);
+    }
+}
+
+void tst_Accent::signalsOnce()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    const QSignalSpy accents(&theme, &ApplicationTheme::accentChanged);
+    QVERIFY(theme.setProperty("accent", QColor("#8a3324")));
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(accents.count(), 1);
+}
+
+void tst_Accent::opacityDoesNotCount()
+{
+    ApplicationTheme theme;
+    theme.setAccent(QColor(138, 51, 36, 10));
+    QCOMPARE(theme.accent(), QColor("#8a3324"));
+}
+
+// A theme whose palette has no brand keeps every colour.
+void tst_Accent::themeWithoutBrand()
+{
+    TemporaryFolder folder;
+    QByteArray text = "[Colors]\n";
+    HV::WorkableTheme sample;
+    HV::changeTheme(&sample, "dark", ":/hvthemeapp/themes");
+    const QVariantMap &values = sample.values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (it->userType() == QMetaType::QColor)
+            text += it.key().toLatin1() + '=' + it->value<QColor>().name(QColor::HexArgb).toLatin1()
+                + '\n';
+    }
+    folder.write("default.theme", "ThemeName=Own\n" + text);
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("default"));
+    const QColor highlighted = theme.theme()->color("HighlightedForegroundColor");
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    QCOMPARE(theme.theme()->color("HighlightedForegroundColor"), highlighted);
+}
+
+void tst_Accent::filePathIsTheThemes()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setAccent(QColor("#8a3324")));
+    QVERIFY(theme.setName("dark"));
+    QCOMPARE(theme.theme()->filePath(), QString(":/hvthemeapp/themes/default.theme"));
+}
+
+void tst_Accent::saveAndRestore()
+{
+    TemporaryFolder folder;
+    QSettings settings(folder.path() + "/settings.ini", QSettings::IniFormat);
+    {
+        ApplicationTheme theme;
+        QVERIFY(theme.setName("light"));
+        QVERIFY(theme.setAccent(QColor("#8a3324")));
+        theme.save(settings);
+    }
+    ApplicationTheme theme;
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    QVERIFY(theme.restore(settings));
+    QCOMPARE(theme.accent(), QColor("#8a3324"));
+    QCOMPARE(theme.name(), QString("light"));
+    QCOMPARE(changes.count(), 1); // look and accent come into force together
+}
+
+void tst_Accent::deletedByASlot()
+{
+    auto *theme = new ApplicationTheme;
+    QVERIFY(theme->setName("dark"));
+    const QPointer<ApplicationTheme> guard(theme);
+    connect(theme, &ApplicationTheme::changed, theme, [theme] { delete theme; });
+    theme->setAccent(QColor("#8a3324"));
+    QVERIFY(guard.isNull());
+}
+
+QTEST_MAIN(tst_Accent)
+#include "tst_accent.moc"
