@@ -69,7 +69,8 @@ void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPain
                   const QWidget *widget)
 {
     const bool isActive = (option.titleBarState & QStyle::State_Active) != 0;
-    const QPalette &palette = option.palette;
+    // A window keeps the palette of its title bar for itself, from one look to the next.
+    const QPalette palette = widget ? widget->palette() : option.palette;
     const QColor ink =
         palette.color(isActive ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
     painter.save();

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -110,6 +111,7 @@ private Q_SLOTS:
     void everythingInForceWhenChanged();
     void ownStyleSheetStays();
     void whatPalettesDoNotReach();
+    void titleBarsFollow();
     void saveAndRestore();
     void menuInStep();
     void liveReload_data();
@@ -336,6 +338,20 @@ void tst_ApplicationTheme::whatPalettesDoNotReach()
                  theme.palette().color(QPalette::PlaceholderText));
         QCOMPARE(area.background().color(), theme.palette().color(QPalette::Dark));
         QCOMPARE(ownArea.background().color(), QColor(Qt::red));
+    }
+}
+
+void tst_ApplicationTheme::titleBarsFollow()
+{
+    QMdiArea area;
+    area.resize(400, 300);
+    QMdiSubWindow *window = area.addSubWindow(new QWidget);
+    window->resize(300, 200);
+    ApplicationTheme theme;
+    for (const char *name : {"dark", "light", "dark", "contrast"}) {
+        QVERIFY(theme.setName(name));
+        const QColor title = window->grab().toImage().pixelColor(100, 8);
+        QCOMPARE(title, theme.palette().color(QPalette::Window));
     }
 }
 
