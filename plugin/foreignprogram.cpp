@@ -66,18 +66,37 @@ void ForeignProgram::look()
     const QString styleSheet = qApp->styleSheet();
     if (name().isEmpty() || (styleSheet == m_styleSheet && palette == m_palette))
         return;
-    m_ownStyleSheet = withoutTheme(styleSheet);
+    const QString ownStyleSheet = withoutTheme(styleSheet);
+    const Brushes ownBrushes = ownBrushesOf(palette);
+
+    // A program may answer each change of style with its own look. It has the last word then.
+    const qint64 soon = 1000; // ms
+    const bool isRepeated = ownStyleSheet == m_ownStyleSheet && ownBrushes == m_ownBrushes
+        && m_sinceLook.isValid() && m_sinceLook.elapsed() < soon;
+    m_repetitions = isRepeated ? m_repetitions + 1 : 0;
+    m_sinceLook.start();
+    if (m_repetitions > 3) {
+        m_palette = palette;
+        m_styleSheet = styleSheet;
+        return;
+    }
+    m_ownStyleSheet = ownStyleSheet;
+    m_ownBrushes = ownBrushes;
+    restyleAgain();
+}
+
+ForeignProgram::Brushes ForeignProgram::ownBrushesOf(const QPalette &palette) const
+{
+    Brushes brushes;
     for (const QPalette::ColorGroup group : groups) {
         for (int i = 0; i < QPalette::NColorRoles; ++i) {
             const auto role = QPalette::ColorRole(i);
             const QBrush &brush = palette.brush(group, role);
-            if (brush == m_themePalette.brush(group, role))
-                m_ownBrushes.remove({group, role});
-            else
-                m_ownBrushes.insert({group, role}, brush);
+            if (brush != m_themePalette.brush(group, role))
+                brushes.insert({group, role}, brush);
         }
     }
-    restyleAgain();
+    return brushes;
 }
 
 void ForeignProgram::complete(QPalette *palette, QString *styleSheet)

@@ -6,6 +6,7 @@
 
 #include <hvthemeapp/applicationtheme.h>
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QPalette>
@@ -39,10 +40,11 @@ protected:
     void complete(QPalette *palette, QString *styleSheet) override;
 
 private:
-    using Role = QPair<QPalette::ColorGroup, QPalette::ColorRole>;
+    using Brushes = QHash<QPair<QPalette::ColorGroup, QPalette::ColorRole>, QBrush>;
 
     void look();
     void lookSoon();
+    Brushes ownBrushesOf(const QPalette &palette) const;
     QString withoutTheme(const QString &styleSheet) const;
 
     QPalette m_themePalette; // as the theme has it
@@ -50,7 +52,9 @@ private:
     QPalette m_palette; // what the application has since the last look
     QString m_styleSheet;
     QString m_ownStyleSheet; // what the program has set
-    QHash<Role, QBrush> m_ownBrushes;
+    Brushes m_ownBrushes;
+    QElapsedTimer m_sinceLook;
+    int m_repetitions = 0; // of the same own look, one soon after the other
     bool m_isLookPending = false;
 };
 

@@ -132,6 +132,37 @@ QJsonObject clearedSheet()
     });
 }
 
+// Answers each style sheet that is not its own with its own.
+class Insistent : public QWidget
+{
+public:
+    int answers = 0;
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::StyleChange && qApp->styleSheet() != ownRule) {
+            ++answers;
+            QTimer::singleShot(0, this, setSheet);
+        }
+        QWidget::changeEvent(event);
+    }
+};
+
+QJsonObject insistent()
+{
+    Insistent window;
+    showFor(&window);
+    setSheet();
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 1500)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    QJsonObject object = facts();
+    object["answers"] = window.answers;
+    return object;
+}
+
 QJsonObject widgetPalette()
 {
     QWidget window;
@@ -192,6 +223,7 @@ int report(const QString &name)
         {"sheet-replaced", replacedSheet},
         {"sheet-appended", appendedSheet},
         {"sheet-cleared", clearedSheet},
+        {"sheet-insistent", insistent},
         {"palette-before", [] { return withLabel(setHighlight, nothing); }},
         {"palette-after", [] { return withLabel(nothing, setHighlight); }},
         {"palette-of-widget", widgetPalette},

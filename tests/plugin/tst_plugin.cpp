@@ -21,6 +21,7 @@ private Q_SLOTS:
     void themed();
     void styleSheet_data();
     void styleSheet();
+    void programThatInsists();
     void palette_data();
     void palette();
     void style_data();
@@ -147,6 +148,16 @@ void tst_Plugin::styleSheet()
     QCOMPARE(facts.object["label"].toString(),
              color.isNull() ? m_plain["label"].toString() : color);
     QCOMPARE(facts.object["other"], m_plain["other"]);
+    QCOMPARE(facts.object["window"], m_plain["window"]);
+}
+
+// Two that answer each other would be busy for ever.
+void tst_Plugin::programThatInsists()
+{
+    const Facts facts = ::themed("sheet-insistent");
+    QCOMPARE(facts.errors, QByteArray());
+    const int answers = facts.object["answers"].toInt();
+    QVERIFY2(answers > 0 && answers < 20, qPrintable(QString::number(answers)));
     QCOMPARE(facts.object["window"], m_plain["window"]);
 }
 
