@@ -5,15 +5,11 @@
 #include <analysis/rules/rules.h>
 #include <analysis/themeproject.h>
 #include <format/themepath.h>
-#include <format/token.h>
-#include <hvtheme/theming.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
-#include <QPalette>
-#include <QPixmapCache>
 #include <QRegularExpression>
 #include <QSettings>
 
@@ -165,22 +161,6 @@ Problem checkSubstitution(const ThemeProject &project, const ThemeStack &theme)
     return Problem::Endless;
 }
 
-// The default file is where the library looks for the keys that it requires.
-QString placeOfMissingKey(const ThemeProject &project, const QString &message)
-{
-    static const QRegularExpression missing(
-        QStringLiteral("^Theme (\\w+) Key \\[ \"[^\"]+\" \\] is must bu set"));
-    const QString word = missing.match(message).captured(1);
-    static const QHash<QString, Kind> kinds{
-        {"Palette", Kind::Palette},   {"Color", Kind::Color}, {"ImageFile", Kind::ImageFile},
-        {"Gradient", Kind::Gradient}, {"Flag", Kind::Flag},   {"Interger", Kind::Integer}};
-    if (!kinds.contains(word))
-        return {};
-    const ThemeFile &file = project.layers().front()->file;
-    return QFileInfo(file.path()).fileName() + QLatin1Char(':')
-        + QString::number(sectionPosition(file, kinds.value(word)).line);
-}
-
 QStringList templateFiles(const QStringList &folders)
 {
     QStringList files;
@@ -192,27 +172,24 @@ QStringList templateFiles(const QStringList &folders)
     return files;
 }
 
-// The built-in templates leave windows, tool bars, docks and menu bars to the palette.
-QPalette paletteOf(HV::Theme *theme)
+// Themes name images relative to the program that they are for. The library looks beside this one,
+// so it gets copies that name the same images from here.
+void copyWithImagesFrom(const QString &applicationFolder, const QString &theme, const QString &copy)
 {
-    const QVariantMap &values = theme->values();
-    QPalette palette;
-    const auto set = [&](QPalette::ColorRole role, const char *key) {
-        const auto value = values.constFind(QLatin1String(key));
-        if (value != values.cend())
-            palette.setColor(role, value->value<QColor>());
-    };
-    set(QPalette::Window, "BackgroundColor_2");
-    set(QPalette::Button, "BackgroundColor_4");
-    set(QPalette::Base, "EditBackgroundColor");
-    set(QPalette::AlternateBase, "BackgroundColor_3");
-    set(QPalette::WindowText, "DefaultForegroundColor");
-    set(QPalette::Text, "DefaultForegroundColor");
-    set(QPalette::ButtonText, "DefaultForegroundColor");
-    set(QPalette::Highlight, "Color_Brand_8");
-    set(QPalette::HighlightedText, "Color_W100");
-    set(QPalette::PlaceholderText, "DisabledForegroundColor");
-    return palette;
+    QFile::remove(copy);
+    QFile::copy(theme, copy);
+    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    QSettings settings(copy, QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("ImageFiles"));
+    const QDir ownFolder(QCoreApplication::applicationDirPath());
+    const QStringList keys = settings.childKeys();
+    for (const QString &key : keys) {
+        const QString path = settings.value(key).toString();
+        if (path.isEmpty() || path.startsWith(QLatin1String(":/")))
+            continue;
+        const QString file = QDir::cleanPath(applicationFolder + QLatin1Char('/') + path);
+        settings.setValue(key, ownFolder.relativeFilePath(file));
+    }
 }
 
 } // namespace
@@ -236,7 +213,6 @@ QStringList themeNames(const QString &folder)
 
 AppliedTheme::AppliedTheme(QObject *parent)
     : QObject(parent)
-    , m_theme(std::make_unique<HV::WorkableTheme>())
 {
     initResource();
 }
@@ -269,12 +245,7 @@ Problem AppliedTheme::load(const ThemeSource &source)
     if (problem != Problem::None)
         return problem;
 
-    auto candidate = std::make_unique<HV::WorkableTheme>();
-    HV::changeTheme(candidate.get(), source.themeName, source.themesFolder);
-    m_theme = std::move(candidate);
-    m_isLoaded = true;
-    apply(source, values);
-    return Problem::None;
+    return apply(source);
 }
 
 Problem AppliedTheme::readProject(const ThemeSource &source)
@@ -284,7 +255,8 @@ Problem AppliedTheme::readProject(const ThemeSource &source)
     options.folder = source.themesFolder;
     options.themes = QStringList{m_name};
     options.templates =
-        QStringList{":/stylesheet", ":/gallery/stylesheet"} + templateFiles(source.templateFolders);
+        QStringList{":/stylesheet", ":/hvthemeapp/stylesheet", ":/gallery/stylesheet"}
+        + templateFiles(source.templateFolders);
     options.applicationFolder = source.applicationFolder.isEmpty()
         ? QCoreApplication::applicationDirPath()
         : source.applicationFolder;
@@ -301,24 +273,33 @@ Problem AppliedTheme::readProject(const ThemeSource &source)
                                                                     : Problem::Templates;
 }
 
-void AppliedTheme::apply(const ThemeSource &source, const QVariantMap &values)
+Problem AppliedTheme::apply(const ThemeSource &source)
 {
-    QString sheet;
-    const QStringList folders =
-        QStringList{":/stylesheet", ":/gallery/stylesheet"} + source.templateFolders;
-    for (const QString &folder : folders) {
-        HV::readStyleSheet(folder, sheet);
-        sheet += QLatin1Char('\n'); // a template of the user's may end in an open comment line
+    QString folder = source.themesFolder;
+    if (!source.applicationFolder.isEmpty()) {
+        for (const QString &name : {defaultThemeName(), m_name})
+            copyWithImagesFrom(source.applicationFolder, themeFilePath(folder, name),
+                               themeFilePath(m_copies.path(), name));
+        folder = m_copies.path();
     }
-    // With these values rather than the theme's own, whose images are always beside this program.
-    const QString prefix = Tokens::defaultPrefix();
-    sheet = HV::replaceCssColors(prefix, values, sheet);
-    sheet = HV::replaceCssImages(prefix, values, sheet);
-    sheet = HV::replaceCssIntegers(prefix, values, sheet);
-    QPixmapCache::clear(); // an image rewritten under its old name would stay
-    qApp->setStyleSheet(QString()); // replacing a style sheet costs more than setting the first
-    QApplication::setPalette(paletteOf(m_theme.get()));
-    qApp->setStyleSheet(sheet);
+    const QStringList templateFolders =
+        QStringList{":/gallery/stylesheet"} + source.templateFolders;
+    for (const QString &templates : templateFolders) {
+        if (m_templateFolders.contains(templates))
+            continue;
+        if (!m_look.addTemplates(templates))
+            return Problem::Templates;
+        m_templateFolders.append(templates);
+    }
+    if (m_look.folder() != QFileInfo(folder).absoluteFilePath() && !m_look.setFolder(folder))
+        return Problem::ThemesFolder;
+    const bool isApplied = m_look.setName(m_name);
+    m_isLoaded = m_isLoaded || isApplied;
+    if (isApplied)
+        return Problem::None;
+    // All else has been looked at before, so it is a template, or a theme beyond what themes may be.
+    return m_look.problem().contains(QLatin1String("templates folder")) ? Problem::Templates
+                                                                        : Problem::ThemeName;
 }
 
 QString AppliedTheme::placesFor(const QString &message) const
@@ -335,8 +316,6 @@ QString AppliedTheme::placesFor(const QString &message) const
                 places << definition.keyPlace().shortText();
         }
     }
-    if (places.isEmpty())
-        places << placeOfMissingKey(*m_project, message);
     places.removeDuplicates();
     return places.join(QLatin1String(", "));
 }

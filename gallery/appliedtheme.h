@@ -3,10 +3,10 @@
 #ifndef GALLERY_APPLIEDTHEME_H
 #define GALLERY_APPLIEDTHEME_H
 
-#include <hvtheme/workabletheming.h>
+#include <hvthemeapp/applicationtheme.h>
 
-#include <QObject>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -39,9 +39,10 @@ struct ThemeSource {
 QStringList themeNames(const QString &folder);
 
 /*!
- * \brief The theme and the style sheet that the program shows now.
+ * \brief The look that the program has now, and what is wrong with one that it should have.
  *
- * They change as a whole or not at all: a source with a Problem leaves the last good ones.
+ * What a program takes on trust is looked at before, with a message that a designer can act on, and
+ * what would be waited for without end is refused. Looks change as a whole or not at all: a source with a Problem leaves the last good ones.
  */
 class AppliedTheme final : public QObject
 {
@@ -63,7 +64,7 @@ public:
     bool isLoaded() const { return m_isLoaded; }
 
     /*! \brief Returns the theme of the last good load(); never null, empty before there was one. */
-    HV::Theme *theme() const { return m_theme.get(); }
+    HV::Theme *theme() const { return m_look.theme(); }
 
     /*! \brief Returns the files \a source was last read from, the images included. */
     QStringList files() const { return m_files; }
@@ -72,16 +73,17 @@ public:
      * \brief Returns where the theme says what a message of the library is about.
      *
      * \return `FILE:LINE` for each definition of a key that \a message quotes, separated by commas;
-     *         of a key that is nowhere, the place of the section where it is missing. Empty if the
-     *         message is about something else.
+     *         empty if the message is about something else.
      */
     QString placesFor(const QString &message) const;
 
 private:
     Problem readProject(const ThemeSource &source);
-    void apply(const ThemeSource &source, const QVariantMap &values);
+    Problem apply(const ThemeSource &source);
 
-    std::unique_ptr<HV::Theme> m_theme;
+    HV::ApplicationTheme m_look;
+    QStringList m_templateFolders; //!< that m_look has already
+    QTemporaryDir m_copies; //!< of themes of another application
     std::unique_ptr<ThemeProject> m_project; //!< of the last load(), good or not; may be null
     QString m_name; //!< in m_project
     QStringList m_files;

@@ -98,7 +98,7 @@ GalleryWindow::GalleryWindow(const Options &options)
         reload();
     });
     connect(m_pages, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
-    connect(&m_watcher, &ThemeWatcher::changed, this, &GalleryWindow::reload);
+    connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
     reload();
 }
 

@@ -6,7 +6,8 @@
 #include "appliedtheme.h"
 #include "messagelist.h"
 #include "options.h"
-#include "themewatcher.h"
+
+#include <hvthemeapp/themewatcher.h>
 
 #include <QMainWindow>
 
@@ -51,7 +52,7 @@ private:
 
     MessageList m_log;
     AppliedTheme m_applied;
-    ThemeWatcher m_watcher;
+    HV::ThemeWatcher m_watcher;
     ThemeSource m_source;
     QString m_formFile;
     QComboBox *m_themes = nullptr;
