@@ -3,9 +3,11 @@
 
 #include "programlook.h"
 
+#include "calendarweekends.h"
 #include "iconcolors.h"
 #include "placeholders.h"
 
+#include <colormath/oklch.h>
 #include <hvtheme/restyling.h>
 
 #include <QApplication>
@@ -88,6 +90,15 @@ void renewKeptColors(const QPalette &before, const QPalette &after)
     }
 }
 
+QColor weekendColor(const QPalette &palette, const QVariantMap &values)
+{
+    const auto color = values.value(QStringLiteral("ErrorHintForegroundColor")).value<QColor>();
+    const bool isHighContrast = values.value(QStringLiteral("HighContrast")).toBool();
+    return color.isValid() ? ColorMath::liftedToContrast(color, palette.color(QPalette::Base),
+                                                         isHighContrast ? 7 : 4.5)
+                           : color;
+}
+
 } // namespace
 
 QPalette startPalette()
@@ -118,6 +129,7 @@ void setProgramLook(const QPalette &palette, const QVariantMap &values, const QS
 {
     startPalette();
     Placeholders::install(qApp);
+    CalendarWeekends::install(qApp, weekendColor(palette, values));
     const QPalette before = QApplication::palette();
     restyle(*qApp, styleSheet, [&] {
         QApplication::setPalette(palette); // forgets the palettes of classes, so it comes first
