@@ -289,7 +289,7 @@ QWidget *texts()
         widget->setMinimumSize(220, 130);
         grid->addWidget(widget, at / 3, at % 3);
     };
-    auto *plain = new QPlainTextEdit("Plain text\nin two lines");
+    auto *plain = new QPlainTextEdit("Plain text\n(two lines)");
     add(plain, 0);
     auto *held = new QPlainTextEdit("Focused and selected");
     held->selectAll();
