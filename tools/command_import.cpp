@@ -6,11 +6,11 @@
 #include <analysis/theme/inputfile.h>
 #include <exchange/designtokens.h>
 #include <exchange/themewriter.h>
+#include <maker/themefiles.h>
 #include <maker/themetext.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
-#include <tools/themefiles.h>
 
 #include <QDir>
 
@@ -130,9 +130,11 @@ int runImport(const QStringList &arguments)
             error = positional.at(0) % QLatin1String(": ") % error;
     }
     if (!made
-        || !writeThemeFiles(positional.at(1), made->files, parser.isSet(forceOption), &error)) {
+        || !Maker::writeThemeFiles(positional.at(1), made->files, parser.isSet(forceOption),
+                                   &error)) {
         printError(error);
         return ExitUnusable;
     }
-    return writeStandardOutput(writtenFiles(positional.at(1), *made)) ? ExitDone : ExitUnusable;
+    return writeStandardOutput(Maker::writtenFiles(positional.at(1), *made)) ? ExitDone
+                                                                             : ExitUnusable;
 }

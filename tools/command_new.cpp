@@ -5,12 +5,12 @@
 
 #include <format/themepath.h>
 #include <maker/rebranding.h>
+#include <maker/themefiles.h>
 #include <maker/thememaker.h>
 #include <maker/themetext.h>
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
-#include <tools/themefiles.h>
 
 #include <QColor>
 #include <QDir>
@@ -196,9 +196,9 @@ int runNew(const QStringList &arguments)
         ? copiedTheme(parser.value(known.from), order.name, brand, &error)
         : std::optional<Maker::MadeThemes>(Maker::makeThemes(order));
     const QString folder = parser.positionalArguments().constFirst();
-    if (!made || !writeThemeFiles(folder, made->files, parser.isSet(known.force), &error)) {
+    if (!made || !Maker::writeThemeFiles(folder, made->files, parser.isSet(known.force), &error)) {
         printError(error);
         return ExitUnusable;
     }
-    return writeStandardOutput(writtenFiles(folder, *made)) ? ExitDone : ExitUnusable;
+    return writeStandardOutput(Maker::writtenFiles(folder, *made)) ? ExitDone : ExitUnusable;
 }

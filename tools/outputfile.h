@@ -4,52 +4,10 @@
 #ifndef TOOLS_OUTPUTFILE_H
 #define TOOLS_OUTPUTFILE_H
 
-#include <QByteArray>
-#include <QSaveFile>
-#include <QStringList>
+#include <maker/stagedfile.h>
 
-#include <memory>
-
-/*!
- * \brief A file that is written beside its place first and then put there: whole or not at all.
- *
- * Nobody ever reads a half. A file that is there keeps its owner, its permissions and its links: one
- * with several names, or of another user, is written in place, after the disk has made room for all
- * of it. Only a regular file is replaced, never a device. What is not committed leaves no trace.
- */
-class StagedFile
-{
-public:
-    explicit StagedFile(const QString &path);
-    ~StagedFile();
-    Q_DISABLE_COPY_MOVE(StagedFile)
-
-    /*!
-     * \brief Writes \a content beside the place.
-     *
-     * \param inputs  files that the content was made from; none of them is overwritten, by whatever
-     *                name.
-     * \return false if that cannot be; \a error is then one sentence that says why.
-     */
-    bool stage(const QByteArray &content, const QStringList &inputs, QString *error);
-
-    /*! \brief Puts in its place what was staged; result and \a error as above. */
-    bool commit(QString *error);
-
-private:
-    struct Old;
-
-    bool fail(const QString &reason, QString *error) const;
-
-    const QString m_path;
-    QByteArray m_content;
-    QSaveFile m_file;
-    std::unique_ptr<Old> m_old;
-};
-
-/*! \brief Stages and commits \a content as the file at \a path. */
-bool writeFile(const QString &path, const QByteArray &content, const QStringList &inputs,
-               QString *error);
+using Maker::StagedFile;
+using Maker::writeFile;
 
 /*!
  * \brief Writes \a text to standard output as UTF-8.

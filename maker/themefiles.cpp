@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include <tools/themefiles.h>
+#include <maker/themefiles.h>
 
 #include <format/themepath.h>
-#include <tools/outputfile.h>
+#include <maker/stagedfile.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,8 +15,12 @@
 #include <memory>
 #include <vector>
 
+namespace Maker
+{
+
 namespace
 {
+
 bool fail(const QString &message, QString *error)
 {
     *error = message;
@@ -38,7 +42,7 @@ bool makeFolder(const QString &folder, QString *error)
 
 } // namespace
 
-bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
+bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool overwrites,
                      QString *error)
 {
     QStringList present;
@@ -53,7 +57,7 @@ bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &file
     if (!makeFolder(folder, error))
         return false;
     std::vector<std::unique_ptr<StagedFile>> staged;
-    bool isDone = std::all_of(files.cbegin(), files.cend(), [&](const Maker::MadeFile &file) {
+    bool isDone = std::all_of(files.cbegin(), files.cend(), [&](const MadeFile &file) {
         staged.push_back(std::make_unique<StagedFile>(QDir(folder).filePath(file.fileName)));
         return staged.back()->stage(file.content, {}, error);
     });
@@ -68,12 +72,14 @@ bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &file
     return false;
 }
 
-QString writtenFiles(const QString &folder, const Maker::MadeThemes &made)
+QString writtenFiles(const QString &folder, const MadeThemes &made)
 {
     QString text;
-    for (const Maker::MadeFile &file : made.files)
+    for (const MadeFile &file : made.files)
         text += QDir(folder).filePath(file.fileName) % QLatin1Char('\n');
     for (const QString &note : made.notes)
         text += QLatin1String("note: ") % note % QLatin1Char('\n');
     return text;
 }
+
+} // namespace Maker

@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#ifndef TOOLS_THEMEFILES_H
-#define TOOLS_THEMEFILES_H
+#ifndef MAKER_THEMEFILES_H
+#define MAKER_THEMEFILES_H
 
 #include <maker/thememaker.h>
+
+namespace Maker
+{
 
 /*!
  * \brief Writes \a files into \a folder, which is made if it is not there: all of them or none.
@@ -14,10 +17,12 @@
  * \param overwrites  whether the folder may hold theme files already; those of other names stay.
  * \return false if nothing was written; \a error is then one sentence that says why.
  */
-bool writeThemeFiles(const QString &folder, const QVector<Maker::MadeFile> &files, bool overwrites,
+bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool overwrites,
                      QString *error);
 
 /*! \brief Tells the user what was written to \a folder: the files and the notes, a line each. */
-QString writtenFiles(const QString &folder, const Maker::MadeThemes &made);
+QString writtenFiles(const QString &folder, const MadeThemes &made);
+
+} // namespace Maker
 
 #endif
