@@ -3,6 +3,7 @@
 
 #include <colormath/vision.h>
 
+#include <QHash>
 #include <QImage>
 
 #include <cmath>
@@ -94,10 +95,22 @@ QImage seenBy(Vision vision, const QImage &image)
         return image;
     QImage result = image.convertToFormat(QImage::Format_ARGB32);
     const Matrix &matrix = colorMatrix(vision);
+    // Pictures of windows have few colours, and most pixels that of their neighbour.
+    QHash<QRgb, QRgb> known;
+    QRgb last = 0;
+    QRgb lastSeen = seen(matrix, last);
     for (int y = 0; y < result.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(result.scanLine(y));
-        for (int x = 0; x < result.width(); ++x)
-            line[x] = seen(matrix, line[x]);
+        for (int x = 0; x < result.width(); ++x) {
+            if (line[x] != last) {
+                last = line[x];
+                auto it = known.find(last);
+                if (it == known.end())
+                    it = known.insert(last, seen(matrix, last));
+                lastSeen = *it;
+            }
+            line[x] = lastSeen;
+        }
     }
     return result;
 }

@@ -3,6 +3,7 @@
 #include "gallerywindow.h"
 
 #include "pages.h"
+#include "visioneffect.h"
 
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -46,7 +47,22 @@ QListWidget *createPageList(const Options &options)
     return list;
 }
 
-QWidget *createHeader(QComboBox *themes)
+QComboBox *createEyes(ColorMath::Vision vision)
+{
+    auto *eyes = new QComboBox;
+    eyes->setObjectName(QStringLiteral("eyes"));
+    eyes->setAccessibleName(QStringLiteral("Eyes"));
+    eyes->setToolTip(QStringLiteral("Whose eyes to see the window with"));
+    eyes->addItem(QStringLiteral("Normal"));
+    eyes->addItem(QStringLiteral("Protan: no red cones"));
+    eyes->addItem(QStringLiteral("Deutan: no green cones"));
+    eyes->addItem(QStringLiteral("Tritan: no blue cones"));
+    eyes->setCurrentIndex(int(vision));
+    eyes->setItemDelegate(new QStyledItemDelegate(eyes)); // or no row would look selected
+    return eyes;
+}
+
+QWidget *createHeader(QComboBox *themes, QComboBox *eyes)
 {
     auto *header = new QWidget;
     header->setProperty("style", QStringLiteral("toolWidget"));
@@ -54,6 +70,9 @@ QWidget *createHeader(QComboBox *themes)
     layout->setContentsMargins(12, 8, 12, 8);
     layout->addWidget(new QLabel(QStringLiteral("Theme")));
     layout->addWidget(themes);
+    layout->addSpacing(12);
+    layout->addWidget(new QLabel(QStringLiteral("Eyes")));
+    layout->addWidget(eyes);
     layout->addStretch();
     layout->addWidget(new QLabel(QStringLiteral("Click a selector to copy it.")));
     return header;
@@ -86,6 +105,7 @@ GalleryWindow::GalleryWindow(const Options &options)
     : m_source(options.source)
     , m_formFile(options.formFile)
     , m_themes(new QComboBox)
+    , m_eyes(createEyes(options.vision))
     , m_pages(createPageList(options))
     , m_area(new QScrollArea)
 {
@@ -97,6 +117,9 @@ GalleryWindow::GalleryWindow(const Options &options)
         m_source.themeName = name;
         reload();
     });
+    connect(m_eyes, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [this](int index) { seeWith(ColorMath::Vision(index)); });
+    seeWith(options.vision);
     connect(m_pages, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
     connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
     reload();
@@ -128,11 +151,17 @@ void GalleryWindow::buildParts()
     auto *column = new QVBoxLayout(central);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(createHeader(m_themes));
+    column->addWidget(createHeader(m_themes, m_eyes));
     column->addWidget(splitter, 1);
     setCentralWidget(central);
     statusBar()->setSizeGripEnabled(false);
     resize(1420, 920);
+}
+
+void GalleryWindow::seeWith(ColorMath::Vision vision)
+{
+    for (QWidget *part : {centralWidget(), static_cast<QWidget *>(statusBar())})
+        VisionEffect::apply(vision, part);
 }
 
 Problem GalleryWindow::reload()

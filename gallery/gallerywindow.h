@@ -22,7 +22,7 @@ namespace Gallery
  * \brief The gallery's window: a chooser of themes, the pages, and a pane of messages.
  *
  * It restyles the program whenever a file that the theme or the form comes from changes. Its parts
- * are found by object name: `themes`, `pages`, `page` (the scroll area) and `messages`.
+ * are found by object name: `themes`, `eyes`, `pages`, `page` (the scroll area) and `messages`.
  */
 class GalleryWindow final : public QMainWindow
 {
@@ -44,6 +44,7 @@ Q_SIGNALS:
 
 private:
     void buildParts();
+    void seeWith(ColorMath::Vision vision);
     void listThemes();
     void showPage();
     void setPage(QWidget *page);
@@ -56,6 +57,7 @@ private:
     ThemeSource m_source;
     QString m_formFile;
     QComboBox *m_themes = nullptr;
+    QComboBox *m_eyes = nullptr;
     QListWidget *m_pages = nullptr;
     QScrollArea *m_area = nullptr;
 };

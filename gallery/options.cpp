@@ -57,6 +57,10 @@ void describe(QCommandLineParser &parser)
          "Device pixel ratio of the screenshots, 1 to 4; above 1 they are named "
          "PAGE-THEME@2x.png.",
          "N", "1"},
+        {"vision",
+         "See with other eyes: protan, deutan or tritan (normal). The screenshots are named "
+         "PAGE-THEME-VISION.png.",
+         "NAME", "normal"},
         {"join", "Also write each page with its themes side by side, PAGE-THEME-THEME.png."},
     });
 }
@@ -75,6 +79,11 @@ QString errorIn(const Options &options, const QCommandLineParser &parser)
         return QStringLiteral("--screenshot needs the name of a folder.");
     if (options.scale < 1 || options.scale > largestScale)
         return QStringLiteral("--scale takes a number from 1 to %1.").arg(largestScale);
+    const QString vision = parser.value(QStringLiteral("vision"));
+    if (!ColorMath::visionCalled(vision))
+        return QStringLiteral(
+                   "No vision named \"%1\". Choose one of: normal, protan, deutan, tritan.")
+            .arg(vision);
     const QStringList known = pageNames(options);
     for (const QString &page : options.pages) {
         if (!known.contains(page))
@@ -118,6 +127,8 @@ Options readOptions(const QStringList &arguments, const QString &defaultThemesFo
     options.themes = splitValues(parser.values(QStringLiteral("theme")));
     options.source.themeName = options.themes.value(0);
     options.scale = parser.value(QStringLiteral("scale")).toInt();
+    options.vision = ColorMath::visionCalled(parser.value(QStringLiteral("vision")))
+                         .value_or(ColorMath::Vision::Normal);
     options.join = parser.isSet(QStringLiteral("join"));
     options.error = parser.positionalArguments().isEmpty()
         ? errorIn(options, parser)

@@ -5,6 +5,8 @@
 
 #include "appliedtheme.h"
 
+#include <colormath/vision.h>
+
 #include <QStringList>
 
 namespace Gallery
@@ -18,6 +20,7 @@ struct Options {
     QStringList pages; //!< empty: all
     QStringList themes; //!< empty: all of the folder
     int scale = 1;
+    ColorMath::Vision vision = ColorMath::Vision::Normal; //!< whose eyes to see with
     bool join = false; //!< the themes of a page side by side in one more picture
     bool help = false;
     bool version = false;

@@ -20,8 +20,11 @@ constexpr int gapBetweenThemes = 16;
 
 QString fileName(const Options &options, const QString &page, const QString &theme)
 {
-    const QString suffix =
-        options.scale > 1 ? QStringLiteral("@%1x").arg(options.scale) : QString();
+    QString suffix;
+    if (options.vision != ColorMath::Vision::Normal)
+        suffix += QLatin1Char('-') + ColorMath::visionName(options.vision);
+    if (options.scale > 1)
+        suffix += QStringLiteral("@%1x").arg(options.scale);
     return options.screenshotFolder + QLatin1Char('/') + page + QLatin1Char('-') + theme + suffix
         + QLatin1String(".png");
 }
@@ -117,11 +120,20 @@ private:
                 note(Problem::Form);
                 continue;
             }
-            const QImage picture = takePicture(page.get());
+            const QImage picture = seen(takePicture(page.get()));
             note(writePicture(picture, fileName(m_options, name, theme)));
             if (m_options.join)
                 m_pictures[name].append(picture);
         }
+    }
+
+    QImage seen(const QImage &picture) const
+    {
+        const qreal ratio = picture.devicePixelRatioF();
+        QImage result =
+            ColorMath::seenBy(m_options.vision, picture).convertToFormat(QImage::Format_RGB32);
+        result.setDevicePixelRatio(ratio);
+        return result;
     }
 
     void writeJoined(const QStringList &themes)

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void messagesNamePlaces_data();
     void messagesNamePlaces();
     void clickCopies();
+    void eyes_data();
+    void eyes();
     void colorsPageFollowsTheTheme();
     void options_data();
     void options();
@@ -296,6 +298,39 @@ void tst_Gallery::clickCopies()
     QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("QPushButton[style=general]"));
 }
 
+void tst_Gallery::eyes_data()
+{
+    QTest::addColumn<int>("row");
+
+    QTest::newRow("normal") << 0;
+    QTest::newRow("protan") << 1;
+    QTest::newRow("deutan") << 2;
+    QTest::newRow("tritan") << 3;
+}
+
+// What the window shows is what it showed before, pixel by pixel as the eye sees it.
+void tst_Gallery::eyes()
+{
+    QFETCH(int, row);
+    Options options = optionsFor(QStringLiteral("surfaces"));
+    GalleryWindow window(options);
+    window.show();
+    const auto shown = [&] {
+        return window.centralWidget()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const auto *page = window.page();
+    const QRect specimens(page->mapTo(window.centralWidget(), QPoint(0, 0)), QSize(600, 400));
+    const QImage before = shown().copy(specimens);
+    auto *eyes = window.findChild<QComboBox *>(QStringLiteral("eyes"));
+    QCOMPARE(eyes->currentIndex(), 0);
+    eyes->setCurrentIndex(row);
+    const QImage seen = ColorMath::seenBy(ColorMath::Vision(row), before);
+    QCOMPARE(shown().copy(specimens), seen.convertToFormat(QImage::Format_RGB32));
+    QCOMPARE(seen.convertToFormat(QImage::Format_RGB32) == before, row == 0);
+    eyes->setCurrentIndex(0);
+    QCOMPARE(shown().copy(specimens), before);
+}
+
 void tst_Gallery::colorsPageFollowsTheTheme()
 {
     GalleryWindow window(optionsFor(QStringLiteral("colours")));
@@ -330,6 +365,8 @@ void tst_Gallery::options_data()
     QTest::newRow("join-in-the-window") << QStringList{"--join"} << "--join makes sense with --screenshot only";
     QTest::newRow("join-screenshots") << QStringList{"--screenshot", "d", "--join", "--scale", "2"} << "";
     QTest::newRow("empty-screenshot") << QStringList{"--screenshot", ""} << "--screenshot needs the name of a folder";
+    QTest::newRow("vision") << QStringList{"--vision", "tritan"} << "";
+    QTest::newRow("unknown-vision") << QStringList{"--vision", "cat"} << "No vision named \"cat\". Choose one of: normal, protan, deutan, tritan.";
     QTest::newRow("no-application") << QStringList{"--app-dir", "/nowhere"} << "The application's folder \"/nowhere\" does not exist";
     QTest::newRow("application") << QStringList{"--app-dir", "/"} << "";
     QTest::newRow("several-screenshots") << QStringList{"--screenshot", "d", "--theme", "dark,light", "--theme", "contrast"} << "";

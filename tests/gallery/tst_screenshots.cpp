@@ -3,6 +3,7 @@
 
 #include "distincttheme.h"
 
+#include <colormath/vision.h>
 #include <gallery/pages.h>
 
 #include <QBuffer>
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void everyPageOfTheSampleThemes();
     void doubleScale();
     void joinedThemes();
+    void vision();
     void form();
     void problems_data();
     void problems();
@@ -145,6 +147,19 @@ void tst_Screenshots::joinedThemes()
     QCOMPARE(both.height(), dark.height());
     QCOMPARE(both.width(), 2 * dark.width() + 16);
     QCOMPARE(both.copy(dark.rect()), dark);
+}
+
+void tst_Screenshots::vision()
+{
+    const QStringList page{"--page", "surfaces"};
+    QCOMPARE(runGallery(withFolders(page)).exitCode, 0);
+    QCOMPARE(runGallery(withFolders(page + QStringList{"--vision", "deutan"})).exitCode, 0);
+    const QImage normal(m_output->filePath(QStringLiteral("surfaces-default.png")));
+    const QImage deutan(m_output->filePath(QStringLiteral("surfaces-default-deutan.png")));
+    QVERIFY(!normal.isNull());
+    const QImage seen = ColorMath::seenBy(ColorMath::Vision::Deutan, normal);
+    QCOMPARE(deutan.convertToFormat(seen.format()), seen);
+    QVERIFY(seen != normal.convertToFormat(seen.format()));
 }
 
 void tst_Screenshots::form()
