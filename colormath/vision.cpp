@@ -34,12 +34,25 @@ std::array<double, 256> decodingTable()
     return table;
 }
 
+constexpr int encodingSteps = 65535; // fine enough for each of the 256 levels to come back
+
+std::array<uchar, encodingSteps + 1> encodingTable()
+{
+    std::array<uchar, encodingSteps + 1> table{};
+    for (size_t i = 0; i < table.size(); ++i) {
+        const double value = double(i) / encodingSteps;
+        table[i] = uchar(qRound(
+            255.0
+            * (value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055)));
+    }
+    return table;
+}
+
+// Pictures have millions of pixels, which would be as many powers.
 int encoded(double linear)
 {
-    const double channel = qBound(0.0, linear, 1.0);
-    return qRound(
-        255.0
-        * (channel <= 0.0031308 ? 12.92 * channel : 1.055 * std::pow(channel, 1 / 2.4) - 0.055));
+    static const std::array<uchar, encodingSteps + 1> table = encodingTable();
+    return table[size_t(qBound(0.0, linear, 1.0) * encodingSteps + 0.5)];
 }
 
 QRgb seen(const Matrix &matrix, QRgb color)
