@@ -3,10 +3,11 @@
 
 # Usage: cmake -DBUILD_DIR=<project's build folder> -DWORK_DIR=<folder> -DCONFIG=<build type>
 #              -DCTEST=<ctest> -DCXX=<compiler> -DCXX_FLAGS=<flags> -DLIBDIR=<library folder, absolute or below the prefix>
-#              [-DGENERATOR=<name> | -DPKG_CONFIG=<program>] -P run.cmake
+#              [-DGENERATOR=<name> | -DPKG_CONFIG=<program>] [-DCORE_ALONE=ON -DQT=<major version>] -P run.cmake
 #
-# Installs the project below WORK_DIR, builds the program beside this script against the installed
-# files, by find_package or by pkg-config, and checks what it prints.
+# Installs the project below WORK_DIR, builds the programs beside this script against the installed
+# files, by find_package or by pkg-config, and checks what they print. CORE_ALONE builds the one
+# without the application library, as if Qt had no more than its package with the widgets.
 
 cmake_minimum_required(VERSION 3.16)
 
@@ -23,32 +24,52 @@ endfunction()
 set(prefix ${WORK_DIR}/prefix)
 get_filename_component(library_folder ${LIBDIR} ABSOLUTE BASE_DIR ${prefix})
 set(program ${WORK_DIR}/build/consumer)
+set(application ${WORK_DIR}/build/application)
+set(alone "")
+if(CORE_ALONE)
+    set(alone -DCORE_ALONE=ON -DCMAKE_DISABLE_FIND_PACKAGE_Qt${QT}Svg=ON -DCMAKE_DISABLE_FIND_PACKAGE_Qt${QT}DBus=ON)
+endif()
 file(REMOVE_RECURSE ${WORK_DIR})
 file(MAKE_DIRECTORY ${WORK_DIR}/build)
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --config ${CONFIG})
 
 if(PKG_CONFIG)
     set(ENV{PKG_CONFIG_PATH} ${library_folder}/pkgconfig)
-    run(${PKG_CONFIG} --cflags --libs "hvtheme >= 1.0")
     separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS}")
-    separate_arguments(libraries UNIX_COMMAND "${output}")
-    run(${CXX} -o ${program} ${flags} ${CMAKE_CURRENT_LIST_DIR}/main.cpp ${libraries})
+    function(build program source package)
+        run(${PKG_CONFIG} --cflags --libs "${package} >= 1.0")
+        separate_arguments(libraries UNIX_COMMAND "${output}")
+        run(${CXX} -o ${program} ${flags} ${CMAKE_CURRENT_LIST_DIR}/${source} ${libraries})
+    endfunction()
+    build(${program} main.cpp hvtheme)
+    if(NOT CORE_ALONE)
+        build(${application} application.cpp hvthemeapp)
+    endif()
     set(ENV{LD_LIBRARY_PATH} ${library_folder}:$ENV{LD_LIBRARY_PATH})
 else()
     run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
         -DHVTheme_DIR=${library_folder}/cmake/HVTheme -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CONFIGURATION_TYPES=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
-        -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+        -DCMAKE_CXX_FLAGS=${CXX_FLAGS} ${alone})
     run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
     run(${CTEST} -C ${CONFIG} --test-dir ${WORK_DIR}/build)
 endif()
 
-run(${program} ${CMAKE_CURRENT_LIST_DIR}/themes)
-set(expected "Night
+function(expect_output expected)
+    run(${ARGN})
+    if(NOT output STREQUAL expected OR NOT error STREQUAL "")
+        message(FATAL_ERROR "${ARGN} printed\n${output}${error}\ninstead of\n${expected}")
+    endif()
+endfunction()
+expect_output("Night
 QToolTip {
     border:0px;
     background-color:#102030;
 }
-")
-if(NOT output STREQUAL expected OR NOT error STREQUAL "")
-    message(FATAL_ERROR "The program printed\n${output}${error}\ninstead of\n${expected}")
+" ${program} ${CMAKE_CURRENT_LIST_DIR}/themes)
+if(NOT CORE_ALONE)
+    set(ENV{QT_QPA_PLATFORM} offscreen)
+    set(ENV{XDG_RUNTIME_DIR} ${WORK_DIR}/runtime) # Qt has something to say about those of others
+    file(MAKE_DIRECTORY ${WORK_DIR}/runtime)
+    run(chmod 700 ${WORK_DIR}/runtime)
+    expect_output("dark, dark, styled, icons\n" ${application})
 endif()
