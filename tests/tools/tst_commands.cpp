@@ -178,7 +178,7 @@ void tst_Commands::documentedExamples()
     for (int i = 1; i < blocks.size(); i += 2) {
         const QString line = blocks.at(i).section('\n', 1, 1);
         const QString expected = blocks.at(i).section('\n', 2);
-        if (!line.startsWith("$ hvtheme ") || expected.startsWith("$ "))
+        if (!line.startsWith("$ hvtheme ") || expected.isEmpty() || expected.startsWith("$ "))
             continue;
         ++count;
         QString output = CommandRun(line.split(' ').mid(2)).output;
