@@ -18,13 +18,16 @@ templates and a form; its blocks are taken in their order:
   json     is read, and taken as a vocabulary
   yaml     its "run:" lines are run as sh
 
-A comment right before a block says otherwise: <!-- test: skip REASON -->, <!-- test: file NAME -->
-(the block becomes that file), <!-- test: after COMMAND -->
-(the command is run first,
-in a folder for this block alone),
-<!-- test: default --> (the theme is also read as a default file, which must not hide the sample themes), <!-- test: folder PATH --> (the block and those below run in a copy of
-that folder, as seen from the page), <!-- test: project --> (the block builds a copy of the
-project, which takes minutes, and so runs with --build alone).
+A comment <!-- test: ... --> right before a block says otherwise:
+
+  skip REASON    the block is passed over
+  file NAME      it becomes that file
+  after COMMAND  the command runs first, in a folder for this block alone
+  default        the theme is also read as a default file, which must not hide the sample themes
+  folder PATH    this block and those below run in a copy of that folder, as seen from the page
+  samples        as well, in a folder like the first
+  project        it builds a copy of the project, which takes minutes, and so runs with --build alone
+
 Exit codes: 0 all is as the pages say, 1 something is not, 2 wrong usage.
 """
 
@@ -153,6 +156,10 @@ class Page:
         if block.directive == "folder":
             self.folder = folder = self.folder / f"copy-{self.count}"
             shutil.copytree(self.path.parent / block.argument, folder)
+        elif block.directive == "samples":
+            self.folder = folder = self.folder / f"samples-{self.count}"
+            folder.mkdir()
+            self.workshop.furnish(folder)
         elif block.directive == "after":
             folder = self.folder / f"after-{self.count}"
             folder.mkdir()
@@ -192,7 +199,6 @@ class Page:
         project = self.folder / f"project-{self.count}"
         project.mkdir()
         self.workshop.furnish(project)
-        shutil.copy(ROOT / "docs/example.cpp", project / "main.cpp")
         (project / "icons").mkdir()
         shutil.copy(ROOT / "icons/add.svg", project / "icons/a.svg")
         lines = ["cmake_minimum_required(VERSION 3.16)", "project(page LANGUAGES CXX)", "enable_testing()"]
@@ -204,6 +210,8 @@ class Page:
                 lines.append(f"set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${{PROJECT_BINARY_DIR}}/bin)\nadd_executable({name} main.cpp)")
                 if f"target_link_libraries({name}" not in text:
                     text += f"\ntarget_link_libraries({name} PRIVATE HVTheme::hvthemeapp)\n"
+        program = "docs/example.cpp" if "HVTheme::hvthemeapp" in text else "tests/package/consumer/main.cpp"
+        shutil.copy(ROOT / program, project / "main.cpp")
         (project / "CMakeLists.txt").write_text("\n".join(lines) + "\n" + text)
         self.workshop.run(project, self.workshop.cmake, "-S", ".", "-B", "build", "-DCMAKE_BUILD_TYPE=Debug")
         self.workshop.run(project, self.workshop.cmake, "--build", "build")

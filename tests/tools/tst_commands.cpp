@@ -20,7 +20,6 @@ private Q_SLOTS:
     void wrongUsage();
     void exitCodes_data();
     void exitCodes();
-    void documentedExamples();
     void laterKindHides();
     void jsonIsWhole();
     void terminalGetsNoControlCharacters();
@@ -166,28 +165,6 @@ void tst_Commands::exitCodes()
     QFETCH(QString, arguments);
     QFETCH(int, expected);
     QCOMPARE(CommandRun(arguments.split(' ')).exitCode, expected);
-}
-
-// Every example of the documentation prints what stands below it.
-void tst_Commands::documentedExamples()
-{
-    QFile file(HVTHEME_TEST_DIR "/../docs/command.md");
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QStringList blocks = QString::fromUtf8(file.readAll()).split("```");
-    int count = 0;
-    for (int i = 1; i < blocks.size(); i += 2) {
-        const QString line = blocks.at(i).section('\n', 1, 1);
-        const QString expected = blocks.at(i).section('\n', 2);
-        if (!line.startsWith("$ hvtheme ") || expected.isEmpty() || expected.startsWith("$ "))
-            continue;
-        ++count;
-        QString output = CommandRun(line.split(' ').mid(2)).output;
-        if (!output.endsWith('\n'))
-            output += '\n';
-        QVERIFY2(output == expected,
-                 qPrintable(line + '\n' + firstDifference(expected.toUtf8(), output.toUtf8())));
-    }
-    QCOMPARE(count, 5);
 }
 
 // Style sheets see the last of colour, flag, integer and image file.
