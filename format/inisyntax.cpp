@@ -39,6 +39,42 @@ int behindComment(const QByteArray &text, int position)
     return position;
 }
 
+bool isPlainInKeys(ushort code)
+{
+    return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z')
+        || (code >= '0' && code <= '9') || code == '_' || code == '-' || code == '.';
+}
+
+bool isHexadecimalDigit(ushort code)
+{
+    return (code >= '0' && code <= '9') || (code >= 'a' && code <= 'f')
+        || (code >= 'A' && code <= 'F');
+}
+
+// Returns how many code units from position on stand for one character that can be seen, or 0: half
+// characters and marks of byte order do not survive a conversion.
+int seenLength(const QString &text, int position)
+{
+    const QChar first = text.at(position);
+    if (!first.isSurrogate())
+        return first.isPrint() ? 1 : 0;
+    if (!first.isHighSurrogate() || position + 1 >= text.size())
+        return 0;
+    const QChar second = text.at(position + 1);
+    if (!second.isLowSurrogate())
+        return 0;
+    return QChar::isPrint(QChar::surrogateToUcs4(first, second)) ? 2 : 0;
+}
+
+// A text that begins with "@" is a type to QSettings unless the "@" is doubled; one with a NUL in it
+// has to have its type.
+QString markedText(const QString &value)
+{
+    if (value.contains(QChar(0)))
+        return QLatin1String("@String(") + value + QLatin1Char(')');
+    return value.startsWith(QLatin1Char('@')) ? QString(QLatin1Char('@') + value) : value;
+}
+
 } // namespace
 
 bool IniSyntax::nextLine(const QByteArray &text, int *position, Line *line)
@@ -101,4 +137,52 @@ QString IniSyntax::unescapedKey(const QByteArray &escaped)
         ++i;
     }
     return key;
+}
+
+QByteArray IniSyntax::escapedKey(const QString &key)
+{
+    QByteArray escaped;
+    for (const QChar character : key) {
+        const ushort code = character.unicode();
+        if (code == '/')
+            escaped += '\\';
+        else if (isPlainInKeys(code))
+            escaped += char(code);
+        else if (code <= 0xff)
+            escaped += '%' + QByteArray::number(code, 16).toUpper().rightJustified(2, '0');
+        else
+            escaped += "%U" + QByteArray::number(code, 16).toUpper().rightJustified(4, '0');
+    }
+    return escaped;
+}
+
+QByteArray IniSyntax::escapedValue(const QString &value, Encoding encoding, Quotes quotes)
+{
+    const QString text = markedText(value);
+    const bool hasOuterSpace = text.startsWith(QLatin1Char(' ')) || text.endsWith(QLatin1Char(' '));
+    bool needsQuotes = quotes == Quotes::Always || hasOuterSpace;
+    bool isBehindNumber = false; // which would take a digit that follows as its own
+    QByteArray escaped;
+    for (int i = 0; i < text.size(); ++i) {
+        const ushort code = text.at(i).unicode();
+        const bool isAscii = code >= ' ' && code < 0x7f;
+        const int seen = !isAscii && encoding == Encoding::Utf8 ? seenLength(text, i) : 0;
+        const bool isNumber =
+            (!isAscii && seen == 0) || (isBehindNumber && isHexadecimalDigit(code));
+        needsQuotes = needsQuotes || code == ';' || code == ',' || code == '=';
+        if (code == '\n' || code == '\r' || code == '\t') {
+            escaped += code == '\n' ? "\\n" : code == '\r' ? "\\r" : "\\t";
+        } else if (isNumber) {
+            escaped += "\\x" + QByteArray::number(code, 16);
+        } else if (seen > 0) {
+            escaped += text.mid(i, seen).toUtf8();
+            i += seen - 1;
+        } else {
+            if (code == '"' || code == '\\')
+                escaped += '\\';
+            escaped += char(code);
+        }
+        isBehindNumber = isNumber && code != '\n' && code != '\r' && code != '\t';
+    }
+    return needsQuotes ? '"' + escaped + '"' : escaped;
 }

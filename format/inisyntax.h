@@ -33,6 +33,24 @@ bool nextLine(const QByteArray &text, int *position, Line *line);
 /*! \brief Returns the bytes of \a escaped as QSettings names them: "\\" is "/", %XX, %UXXXX. */
 QString unescapedKey(const QByteArray &escaped);
 
+/*! \brief Returns \a key, a whole one or a part, as QSettings writes it: unescapedKey() reads it back. */
+QByteArray escapedKey(const QString &key);
+
+/*! \brief How characters beyond ASCII are written. */
+enum class Encoding {
+    Escaped, //!< as `\x4e2d`: the same to every version of Qt
+    Utf8, //!< as they are, for files with a byte order mark
+};
+
+/*! \brief When a value is put in quotation marks. */
+enum class Quotes {
+    AsNeeded,
+    Always,
+};
+
+/*! \brief Returns \a value, a text, so that QSettings reads back exactly that, and no list. */
+QByteArray escapedValue(const QString &value, Encoding encoding, Quotes quotes);
+
 } // namespace IniSyntax
 
 #endif

@@ -76,12 +76,19 @@ ThemeFileEntry entryAt(const QByteArray &text, const IniSyntax::Line &line, cons
     int valueStart = line.equals + 1;
     while (valueStart < line.end && (text.at(valueStart) == ' ' || text.at(valueStart) == '\t'))
         ++valueStart;
+    int valueEnd = line.end;
+    while (valueEnd > valueStart && (text.at(valueEnd - 1) == ' ' || text.at(valueEnd - 1) == '\t'))
+        --valueEnd;
 
     ThemeFileEntry entry;
     entry.rawKey = text.mid(line.start, keyEnd - line.start);
     entry.rawValue = text.mid(line.equals + 1, line.end - line.equals - 1);
     entry.keyPosition = lines.position(line.start);
     entry.valuePosition = lines.position(valueStart);
+    entry.start = line.start;
+    entry.valueStart = valueStart;
+    entry.valueEnd = valueEnd;
+    entry.end = line.end;
     return entry;
 }
 
@@ -137,8 +144,8 @@ void ThemeFile::parse()
     while (IniSyntax::nextLine(text, &position, &line)) {
         if (text.at(line.start) == '[') {
             prefix = sectionPrefix(text, line);
-            m_sections.append(
-                {prefix.chopped(prefix.isEmpty() ? 0 : 1), lines.position(line.start)});
+            m_sections.append({prefix.chopped(prefix.isEmpty() ? 0 : 1), lines.position(line.start),
+                               line.start, line.end});
         } else if (line.equals < 0) {
             if (text.mid(line.start, line.end - line.start) == byteOrderMark)
                 continue;

@@ -17,6 +17,10 @@ struct ThemeFileEntry {
     QByteArray rawValue; //!< everything behind the "=" up to the line's end or a comment
     TextPosition keyPosition;
     TextPosition valuePosition; //!< of the first character that is not blank
+    int start = 0; //!< of the key: like those that follow, an offset into the file's bytes
+    int valueStart = 0; //!< of the first character that is not blank
+    int valueEnd = 0; //!< behind the last that is not; the start if there is none
+    int end = 0; //!< behind all of it, where a comment or the line's end is
     bool isEffective = true; //!< false if another entry of the same key takes its place
 
     /*! \brief Returns the key up to its first "/", which names the section; "" at the top level. */
@@ -29,6 +33,8 @@ struct ThemeFileEntry {
 struct ThemeFileSection {
     QString name; //!< as QSettings names it; "" for [General]
     TextPosition position;
+    int start = 0; //!< offset into the file's bytes
+    int end = 0; //!< behind all of it, where a comment or the line's end is
 };
 
 /*!

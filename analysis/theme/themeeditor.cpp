@@ -1,0 +1,308 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <analysis/theme/themeeditor.h>
+
+#include <analysis/theme/changedtext.h>
+#include <format/themepath.h>
+#include <maker/stagedfile.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringBuilder>
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int stepLimit = 500;
+
+bool fail(const QString &message, QString *error)
+{
+    *error = message;
+    return false;
+}
+
+// A text that the editor has was one of a theme file.
+ThemeFile fileOf(const QString &path, const QByteArray &content)
+{
+    QString error;
+    return *ThemeFile::fromContent(path, content, &error);
+}
+
+// A value that is no text, such as a list, is told as it is written.
+QString textOf(const ThemeFile &file, const ThemeFileEntry &entry,
+               const QMap<QString, QVariant> &values)
+{
+    const QVariant value = values.value(entry.key);
+    if (value.userType() == QMetaType::QString)
+        return value.toString().isNull() ? QStringLiteral("") : value.toString();
+    const int length = entry.valueEnd - entry.valueStart;
+    return QString::fromUtf8(file.content().mid(entry.valueStart, length));
+}
+
+std::optional<QByteArray> changed(const QString &path, QByteArray content,
+                                  const QVector<ThemeChange> &changes, QString *error)
+{
+    for (const ThemeChange &change : changes) {
+        const auto file = ThemeFile::fromContent(path, content, error);
+        if (!file)
+            return std::nullopt;
+        const auto next = change.value.isNull()
+            ? ChangedText::withoutKey(*file, change.key)
+            : ChangedText::withValue(*file, change.key, change.value, error);
+        if (!next)
+            return std::nullopt;
+        content = *next;
+    }
+    return content;
+}
+
+bool isName(const QString &name)
+{
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
+        && !name.contains(QLatin1Char('%')) && !name.contains(QChar(0)) && name.trimmed() == name;
+}
+
+} // namespace
+
+ThemeEditor::ThemeEditor()
+    : m_states{State()}
+{
+}
+
+void ThemeEditor::open(const ThemeFile &file)
+{
+    if (m_saved.contains(file.path()))
+        return;
+    m_saved.insert(file.path(), file.content());
+    for (State &each : m_states)
+        each.contents.insert(file.path(), file.content());
+}
+
+void ThemeEditor::push(const QString &file, const QByteArray &content, const QString &changed)
+{
+    State next = state();
+    next.contents.insert(file, content);
+    next.changed = changed;
+    m_states.resize(m_current + 1);
+    m_states.append(next);
+    if (m_states.size() > stepLimit)
+        m_states.removeFirst();
+    m_current = int(m_states.size()) - 1;
+}
+
+bool ThemeEditor::setValue(const QString &file, const QString &key, const QString &value, Step step,
+                           QString *error)
+{
+    if (!m_saved.contains(file)) {
+        const std::optional<ThemeFile> read = ThemeFile::read(file, error);
+        if (!read)
+            return false;
+        open(*read);
+    }
+    const auto content =
+        ::changed(file, contentOf(file), {ThemeChange{file, key, QString(), value}}, error);
+    if (!content)
+        return false;
+    if (*content == contentOf(file))
+        return true;
+    const QString changed = file % QLatin1Char('\n') % key;
+    if (step == Step::Continued && canUndo() && state().changed == changed)
+        --m_current; // what it led to takes its place
+    push(file, *content, changed);
+    return true;
+}
+
+QVector<ThemeChange> ThemeEditor::changesOf(const QString &file, const QByteArray &content) const
+{
+    QVector<ThemeChange> changes;
+    const QByteArray saved = m_saved.value(file);
+    if (content == saved)
+        return changes;
+    const ThemeFile before = fileOf(file, saved);
+    const ThemeFile after = fileOf(file, content);
+    const auto valuesBefore = ChangedText::values(saved);
+    const auto valuesAfter = ChangedText::values(content);
+    for (const ThemeFileEntry &entry : after.entries()) {
+        if (!entry.isEffective)
+            continue;
+        const ThemeFileEntry *old = before.find(entry.key);
+        ThemeChange change{file, entry.key, QString(), textOf(after, entry, valuesAfter)};
+        if (old)
+            change.before = textOf(before, *old, valuesBefore);
+        if (!old || change.before != change.value)
+            changes.append(change);
+    }
+    for (const ThemeFileEntry &entry : before.entries()) {
+        if (entry.isEffective && !after.find(entry.key))
+            changes.append({file, entry.key, textOf(before, entry, valuesBefore), QString()});
+    }
+    return changes;
+}
+
+QVector<ThemeChange> ThemeEditor::changes() const
+{
+    QVector<ThemeChange> changes;
+    QStringList files = m_saved.keys();
+    files.sort();
+    for (const QString &file : qAsConst(files))
+        changes += changesOf(file, contentOf(file));
+    return changes;
+}
+
+// Not by writing the old value: the text becomes what it would be had the key never been touched.
+void ThemeEditor::reset(const QString &file, const QString &key)
+{
+    QVector<ThemeChange> kept = changesOf(file, contentOf(file));
+    const auto isReset = [&](const ThemeChange &change) { return change.key == key; };
+    kept.erase(std::remove_if(kept.begin(), kept.end(), isReset), kept.end());
+    QString error;
+    const auto content = ::changed(file, m_saved.value(file), kept, &error);
+    if (content && *content != contentOf(file))
+        push(file, *content, QString());
+}
+
+void ThemeEditor::resetAll()
+{
+    if (!isChanged())
+        return;
+    push(QString(), QByteArray(), QString());
+    m_states.last().contents = m_saved;
+}
+
+void ThemeEditor::undo()
+{
+    if (canUndo())
+        --m_current;
+}
+
+void ThemeEditor::redo()
+{
+    if (canRedo())
+        ++m_current;
+}
+
+QHash<QString, QByteArray> ThemeEditor::contents() const
+{
+    QHash<QString, QByteArray> contents;
+    for (auto it = m_saved.cbegin(); it != m_saved.cend(); ++it) {
+        if (contentOf(it.key()) != it.value())
+            contents.insert(it.key(), contentOf(it.key()));
+    }
+    return contents;
+}
+
+ThemeSaving ThemeEditor::save(const QString &file)
+{
+    using Outcome = ThemeSaving::Outcome;
+    const QByteArray ours = contentOf(file);
+    const QByteArray saved = m_saved.value(file);
+    if (ours == saved)
+        return {};
+    if (isResourcePath(file))
+        return {Outcome::InProgram,
+                file
+                    % QLatin1String(": inside the program, where nothing can be written; save it "
+                                    "as a new theme"),
+                ours, QByteArray()};
+    if (!QFileInfo::exists(file))
+        return {Outcome::Vanished,
+                file % QLatin1String(": no longer there; save it as a new theme"), ours,
+                QByteArray()};
+    if (!QFileInfo(file).isWritable())
+        return {Outcome::Refused,
+                file % QLatin1String(": may only be read; save it as a new theme"), ours,
+                QByteArray()};
+    QString error;
+    Maker::StagedFile staged(file);
+    if (!staged.stage(ours, {}, &error))
+        return {Outcome::Refused, error, ours, QByteArray()};
+    // As late as can be, so that next to nobody comes in between.
+    const std::optional<ThemeFile> onDisk = ThemeFile::read(file, &error);
+    if (!onDisk)
+        return {Outcome::Refused, error, ours, QByteArray()};
+    const bool isWritten = onDisk->content() == ours; // by whoever it was
+    if (onDisk->content() != saved && !isWritten)
+        return {Outcome::ChangedMeanwhile,
+                file % QLatin1String(": somebody else changed it meanwhile; nothing was written"),
+                ours, onDisk->content()};
+    if (!isWritten && !staged.commit(&error))
+        return {Outcome::Refused, error, ours, QByteArray()};
+    m_saved.insert(file, ours);
+    m_states[m_current].changed.clear(); // what comes now can be undone to here
+    return {};
+}
+
+bool ThemeEditor::adopt(const QString &file, Text text, QString *error)
+{
+    const std::optional<ThemeFile> theirs = ThemeFile::read(file, error);
+    if (!theirs)
+        return false;
+    QVector<State> states = m_states;
+    for (State &each : states) {
+        if (text == Text::Ours)
+            break;
+        const auto content =
+            ::changed(file, theirs->content(), changesOf(file, each.contents.value(file)), error);
+        if (!content)
+            return false;
+        each.contents.insert(file, *content);
+    }
+    m_states = states;
+    m_saved.insert(file, theirs->content());
+    return true;
+}
+
+std::optional<QByteArray> ThemeEditor::newContent(const QString &file, QString *error) const
+{
+    if (m_saved.contains(file))
+        return contentOf(file);
+    const std::optional<ThemeFile> read = ThemeFile::read(file, error);
+    return read ? std::optional<QByteArray>(read->content()) : std::nullopt;
+}
+
+bool ThemeEditor::saveAs(const NewTheme &to, const QStringList &files, QString *error) const
+{
+    const QString defaultName = defaultThemeName();
+    if (!isName(to.name) || to.name.compare(defaultName, Qt::CaseInsensitive) == 0)
+        return fail(QStringLiteral("\"%1\" cannot be the name of a new theme").arg(to.name), error);
+    const auto base = newContent(files.value(0), error);
+    if (!base)
+        return false;
+    const QString nameKey = QStringLiteral("ThemeName");
+    if (ChangedText::values(*base).value(nameKey).toString().compare(to.name, Qt::CaseInsensitive)
+        == 0)
+        return fail(QStringLiteral("the default theme is itself called \"%1\"").arg(to.name),
+                    error);
+    const auto own = files.size() > 1 ? newContent(files.at(1), error) : QByteArray();
+    if (!own)
+        return false;
+    const QString ownPath = themeFilePath(to.folder, to.name, to.suffix);
+    const auto named = ChangedText::withValue(
+        fileOf(ownPath, *own), nameKey, to.displayName.isEmpty() ? to.name : to.displayName, error);
+    if (!named)
+        return false;
+
+    const QString basePath = themeFilePath(to.folder, defaultName, to.suffix);
+    if (QFileInfo::exists(ownPath))
+        return fail(ownPath % QLatin1String(": there is such a theme already"), error);
+    const bool hasBase = QFileInfo::exists(basePath);
+    if (hasBase) {
+        const std::optional<ThemeFile> present = ThemeFile::read(basePath, error);
+        if (!present)
+            return false;
+        if (present->content() != *base)
+            return fail(basePath
+                            % QLatin1String(": another default file, which the theme would get its "
+                                            "values from; choose an empty folder"),
+                        error);
+    }
+    if (!QDir().mkpath(to.folder))
+        return fail(to.folder % QLatin1String(": the folder cannot be made"), error);
+    Maker::StagedFile stagedBase(basePath);
+    Maker::StagedFile stagedOwn(ownPath);
+    return (hasBase || stagedBase.stage(*base, {}, error)) && stagedOwn.stage(*named, {}, error)
+        && (hasBase || stagedBase.commit(error)) && stagedOwn.commit(error);
+}
