@@ -3,6 +3,8 @@
 
 #include "desktoptheme.h"
 
+#include <format/themepath.h>
+
 #include <QColor>
 #include <QSettings>
 
@@ -19,8 +21,8 @@ class ThemeFiles
 {
 public:
     ThemeFiles(const QString &folder, const QString &name)
-        : m_default(folder + QLatin1String("/default.theme"), QSettings::IniFormat)
-        , m_own(folder + QLatin1Char('/') + name + QLatin1String(".theme"), QSettings::IniFormat)
+        : m_default(themeFilePath(folder, defaultThemeName()), QSettings::IniFormat)
+        , m_own(themeFilePath(folder, name), QSettings::IniFormat)
         , m_name(name)
     {
     }

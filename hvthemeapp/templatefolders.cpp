@@ -3,6 +3,7 @@
 
 #include "templatefolders.h"
 
+#include "quotedurls.h"
 #include "themefolder.h"
 
 #include <hvtheme/theming.h>
@@ -113,7 +114,7 @@ QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
     QString sheet = findStyleSheet(theme, builtIn, prefix) + QLatin1Char('\n');
     for (const Folder &folder : m_folders)
         sheet += findStyleSheet(theme, folder.path, folder.prefix) + QLatin1Char('\n');
-    return sheet;
+    return withQuotedUrls(sheet, theme);
 }
 
 } // namespace HV

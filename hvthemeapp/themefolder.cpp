@@ -3,18 +3,18 @@
 
 #include "themefolder.h"
 
+#include <format/themepath.h>
+
 #include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+
+#include <algorithm>
 
 namespace HV
 {
 namespace
 {
-
-const QString suffix = QStringLiteral(".theme");
-const QString defaultName = QStringLiteral("default");
 
 // Far more than a theme needs, and far less than a program can read without being noticed.
 constexpr qint64 sizeLimit = 4 * 1024 * 1024;
@@ -65,12 +65,12 @@ QString ThemeFolder::problemOfText(const QString &path)
 
 QString ThemeFolder::file(const QString &name) const
 {
-    return m_path + QLatin1Char('/') + name + suffix;
+    return themeFilePath(m_path, name);
 }
 
 QString ThemeFolder::defaultFile() const
 {
-    return file(defaultName);
+    return file(defaultThemeName());
 }
 
 QString ThemeFolder::problem() const
@@ -103,15 +103,14 @@ QString ThemeFolder::problemOf(const QString &name) const
 
 QStringList ThemeFolder::names() const
 {
-    QStringList names;
-    const auto files =
-        QDir(m_path).entryInfoList({QLatin1Char('*') + suffix}, QDir::Files, QDir::Name);
-    for (const QFileInfo &file : files)
-        names.append(file.completeBaseName());
+    QStringList names = listThemes(m_path).names;
+    const auto isNoFile = [this](const QString &name) { return !QFileInfo(file(name)).isFile(); };
+    names.erase(std::remove_if(names.begin(), names.end(), isNoFile), names.end());
+    names.sort();
     if (names.size() > 1) {
         const QSettings settings(defaultFile(), QSettings::IniFormat);
         if (!settings.childGroups().contains(QStringLiteral("Colors")))
-            names.removeOne(defaultName);
+            names.removeOne(defaultThemeName());
     }
     return names;
 }
