@@ -161,7 +161,7 @@ bool ApplicationTheme::setFolder(const QString &folder)
     const QPointer<ApplicationTheme> guard(this);
     if (!d->name.isNull()) {
         const QString name = d->desktop ? d->fitting(path) : d->name;
-        if (QFileInfo::exists(ThemeFolder(path).file(name)) && !apply(path, name))
+        if (ThemeFolder(path).names().contains(name) && !apply(path, name))
             return false;
     }
     if (!guard)

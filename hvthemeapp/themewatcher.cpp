@@ -60,7 +60,10 @@ void ThemeWatcher::setPaths(const QStringList &files, const QStringList &folders
     m_files.removeDuplicates();
     QHash<QString, QString> prints = fingerprint();
     // What changed while the caller was reading must still be told.
+    const QStringList wanted = m_files + m_folders;
     for (const QString &path : known) {
+        if (!wanted.contains(path))
+            continue;
         prints.remove(path);
         if (m_fingerprint.contains(path))
             prints.insert(path, m_fingerprint.value(path));

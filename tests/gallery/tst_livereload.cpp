@@ -157,6 +157,9 @@ void tst_LiveReload::watcherAlone()
     QVERIFY(QDir().mkpath(folder.path()));
     write(path, "5");
     QVERIFY(changed.wait());
+    while (changed.wait(200)) { }
+    watcher.setPaths({folder.filePath(QStringLiteral("other"))}, {});
+    QVERIFY(!changed.wait(200)); // what is no longer watched has not changed
 }
 
 void tst_LiveReload::themeFile_data()
