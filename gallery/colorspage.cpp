@@ -150,7 +150,7 @@ QLayout *createColors(const QVariantMap &values)
     grid->setVerticalSpacing(10);
     int cell = 0;
     for (auto value = values.cbegin(); value != values.cend(); ++value) {
-        if (value->type() != QVariant::Color)
+        if (value->userType() != QMetaType::QColor)
             continue;
         const auto color = value->value<QColor>();
         grid->addWidget(

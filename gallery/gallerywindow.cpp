@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
 
+#include "makerpage.h"
 #include "pages.h"
 #include "visioneffect.h"
 
@@ -12,6 +13,7 @@
 #include <QLabel>
 #include <QListView>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -113,10 +115,8 @@ GalleryWindow::GalleryWindow(const Options &options)
         m_source.themeName = themeNames(m_source.themesFolder).value(0);
     m_log.setPlaceFinder([this](const QString &text) { return m_applied.placesFor(text); });
     buildParts();
-    connect(m_themes, &QComboBox::textActivated, this, [this](const QString &name) {
-        m_source.themeName = name;
-        reload();
-    });
+    connect(m_themes, &QComboBox::textActivated, this, &GalleryWindow::chooseTheme);
+    connect(&m_workshop, &ThemeWorkshop::made, this, &GalleryWindow::showMade);
     connect(m_eyes, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this](int index) { seeWith(ColorMath::Vision(index)); });
     seeWith(options.vision);
@@ -178,15 +178,49 @@ Problem GalleryWindow::reload()
         settlePage(page());
     m_area->verticalScrollBar()->setValue(scrolled);
     QStringList files = m_applied.files();
+    if (showsMade()) // nobody but the workshop writes those, and it tells
+        files = files.filter(QRegularExpression(
+            QStringLiteral("^(?!%1/)").arg(QRegularExpression::escape(m_workshop.folder()))));
     if (!m_formFile.isEmpty())
         files.append(m_formFile);
-    m_watcher.setPaths(files, m_source.templateFolders + QStringList{m_source.themesFolder});
+    m_watcher.setPaths(files,
+                       m_source.templateFolders
+                           + (showsMade() ? QStringList() : QStringList{m_source.themesFolder}));
     statusBar()->showMessage(
         problem == Problem::None   ? QStringLiteral("Restyled in %1 ms").arg(timer.elapsed())
             : m_applied.isLoaded() ? QStringLiteral("This is the last good theme; see the messages")
                                    : QStringLiteral("No theme could be loaded; see the messages"));
     Q_EMIT reloaded();
     return problem;
+}
+
+void GalleryWindow::chooseTheme(const QString &name)
+{
+    for (const auto look : {Maker::Look::Dark, Maker::Look::Light, Maker::Look::Contrast}) {
+        if (showsMade() && name == Maker::lookName(look)) {
+            m_workshop.setLook(look);
+            return;
+        }
+    }
+    m_source.themeName = name;
+    reload();
+}
+
+void GalleryWindow::showMade()
+{
+    if (!showsMade())
+        m_ownSource = m_source;
+    m_source.themesFolder = m_workshop.folder();
+    m_source.themeName = Maker::lookName(m_workshop.look());
+    reload();
+}
+
+void GalleryWindow::leaveMade()
+{
+    if (!showsMade())
+        return;
+    m_source = m_ownSource;
+    reload();
 }
 
 void GalleryWindow::listThemes()
@@ -202,6 +236,14 @@ void GalleryWindow::listThemes()
 
 void GalleryWindow::showPage()
 {
+    if (pageName() == QLatin1String(makerPageName)) {
+        if (!showsMade())
+            m_workshop.beginWith(lookOf(*m_applied.theme()));
+        MakerPage *made = createMakerPage(&m_workshop);
+        connect(made, &MakerPage::left, this, &GalleryWindow::leaveMade);
+        setPage(made);
+        return;
+    }
     QWidget *page =
         showsForm() ? createFormPage(m_formFile) : createPage(pageName(), *m_applied.theme());
     if (page != nullptr)

@@ -6,6 +6,7 @@
 #include "appliedtheme.h"
 #include "messagelist.h"
 #include "options.h"
+#include "themeworkshop.h"
 
 #include <hvthemeapp/themewatcher.h>
 
@@ -45,6 +46,10 @@ Q_SIGNALS:
 private:
     void buildParts();
     void seeWith(ColorMath::Vision vision);
+    void chooseTheme(const QString &name);
+    void showMade();
+    void leaveMade();
+    bool showsMade() const { return m_source.themesFolder == m_workshop.folder(); }
     void listThemes();
     void showPage();
     void setPage(QWidget *page);
@@ -55,6 +60,8 @@ private:
     AppliedTheme m_applied;
     HV::ThemeWatcher m_watcher;
     ThemeSource m_source;
+    ThemeSource m_ownSource; //!< what was shown before the first made theme
+    ThemeWorkshop m_workshop;
     QString m_formFile;
     QComboBox *m_themes = nullptr;
     QComboBox *m_eyes = nullptr;

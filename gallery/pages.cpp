@@ -4,6 +4,7 @@
 
 #include "applicationpage.h"
 #include "colorspage.h"
+#include "makerpage.h"
 #include "specimenpage.h"
 #include "specimentable.h"
 
@@ -17,6 +18,7 @@ namespace Gallery
 {
 
 const char formPageName[] = "form";
+const char makerPageName[] = "make";
 
 QVector<Page> pages()
 {
@@ -34,6 +36,7 @@ QVector<Page> pages()
         {"menus", "Menus and tool tips"},
         {"surfaces", "Surfaces"},
         {"colours", "Colours"},
+        {QString::fromLatin1(makerPageName), "Make a theme"},
     };
 }
 
@@ -53,8 +56,32 @@ bool showsThemeValues(const QString &name)
     return name == QLatin1String("colours");
 }
 
+Maker::Look lookOf(HV::Theme &theme)
+{
+    const QVariantMap &values = theme.values();
+    if (values.value(QStringLiteral("HighContrast")).toBool())
+        return Maker::Look::Contrast;
+    return values.value(QStringLiteral("DarkSurfaces"), true).toBool() ? Maker::Look::Dark
+                                                                       : Maker::Look::Light;
+}
+
+MakerPage *createMakerPage(ThemeWorkshop *workshop)
+{
+    auto *page = new MakerPage(workshop);
+    page->setProperty("style", QStringLiteral("BG3"));
+    settlePage(page);
+    return page;
+}
+
 QWidget *createPage(const QString &name, HV::Theme &theme)
 {
+    if (name == QLatin1String(makerPageName)) {
+        auto *workshop = new ThemeWorkshop;
+        workshop->beginWith(lookOf(theme));
+        QWidget *page = createMakerPage(workshop);
+        workshop->setParent(page);
+        return page;
+    }
     QWidget *page = nullptr;
     if (name == QLatin1String("application"))
         page = createApplicationPage();

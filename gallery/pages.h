@@ -4,6 +4,7 @@
 #define GALLERY_PAGES_H
 
 #include <hvtheme/theme.h>
+#include <maker/pairs.h>
 
 #include <QString>
 #include <QVector>
@@ -13,6 +14,9 @@ class QWidget;
 namespace Gallery
 {
 
+class MakerPage;
+class ThemeWorkshop;
+
 /*! \brief A page of the gallery: its name on the command line and its title in the window. */
 struct Page {
     QString name;
@@ -21,6 +25,9 @@ struct Page {
 
 /*! \brief The page that shows the form given with `--ui`. */
 extern const char formPageName[];
+
+/*! \brief The page where themes are made. */
+extern const char makerPageName[];
 
 /*! \brief Returns the pages in the window's order, the page of the form not among them. */
 QVector<Page> pages();
@@ -32,6 +39,12 @@ QVector<Page> pages();
  *         unknown name.
  */
 QWidget *createPage(const QString &name, HV::Theme &theme);
+
+/*! \brief Builds the page where \a workshop is told what to make; the caller owns it. */
+MakerPage *createMakerPage(ThemeWorkshop *workshop);
+
+/*! \brief Returns which look \a theme is: its flags tell. */
+Maker::Look lookOf(HV::Theme &theme);
 
 /*! \brief Gives \a page, as createPage() made it, the sizes of a new look. */
 void settlePage(QWidget *page);
