@@ -68,7 +68,8 @@ function(hvtheme_install_pkg_config name)
             set(pc_${folder} "${CMAKE_INSTALL_${folder}}")
         endif()
     endforeach()
-    configure_file(${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in ${name}.pc @ONLY)
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
+    set(file ${name}${HVTHEME_SUFFIX}.pc)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in ${file} @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${file}
         DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT Development)
 endfunction()

@@ -9,6 +9,9 @@
 namespace
 {
 
+// Channels are taken as the integers they are: the fractions that Qt gives are coarser in Qt 6.
+constexpr double full = 0xffff;
+
 // WCAG 2.1 prints the threshold as 0.03928. The sRGB standard has 0.04045; no 8-bit channel value
 // lies between the two, so the text of the recommendation is followed.
 double linearChannel(double encoded)
@@ -23,9 +26,9 @@ namespace ColorMath
 
 double relativeLuminance(const QColor &color)
 {
-    const QColor rgb = color.toRgb();
-    return 0.2126 * linearChannel(rgb.redF()) + 0.7152 * linearChannel(rgb.greenF())
-        + 0.0722 * linearChannel(rgb.blueF());
+    const QRgba64 rgb = color.rgba64();
+    return 0.2126 * linearChannel(rgb.red() / full) + 0.7152 * linearChannel(rgb.green() / full)
+        + 0.0722 * linearChannel(rgb.blue() / full);
 }
 
 double contrastRatio(const QColor &foreground, const QColor &background)
@@ -41,19 +44,20 @@ double contrastRatio(const QColor &foreground, const QColor &background)
 
 QColor over(const QColor &front, const QColor &back)
 {
-    const QColor above = front.toRgb();
-    const QColor below = back.toRgb();
-    const double shown = above.alphaF();
-    const double hidden = below.alphaF() * (1.0 - shown);
+    const QRgba64 above = front.rgba64();
+    const QRgba64 below = back.rgba64();
+    const double shown = above.alpha() / full;
+    const double hidden = below.alpha() / full * (1.0 - shown);
     const double alpha = shown + hidden;
     if (alpha <= 0.0)
         return {0, 0, 0, 0};
 
     const auto mix = [=](double upper, double lower) {
-        return qBound(0.0, (upper * shown + lower * hidden) / alpha, 1.0);
+        return ushort(qRound(qBound(0.0, (upper * shown + lower * hidden) / alpha, full)));
     };
-    return QColor::fromRgbF(mix(above.redF(), below.redF()), mix(above.greenF(), below.greenF()),
-                            mix(above.blueF(), below.blueF()), qMin(alpha, 1.0));
+    return QRgba64::fromRgba64(mix(above.red(), below.red()), mix(above.green(), below.green()),
+                               mix(above.blue(), below.blue()),
+                               ushort(qRound(qMin(alpha, 1.0) * full)));
 }
 
 QString contrastText(double ratio)

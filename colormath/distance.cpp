@@ -84,10 +84,11 @@ namespace ColorMath
 
 Lab toLab(const QColor &color)
 {
-    const QColor rgb = color.toRgb();
-    const double red = linearChannel(rgb.redF());
-    const double green = linearChannel(rgb.greenF());
-    const double blue = linearChannel(rgb.blueF());
+    constexpr double full = 0xffff; // the fractions that Qt gives are coarser in Qt 6
+    const QRgba64 rgb = color.rgba64();
+    const double red = linearChannel(rgb.red() / full);
+    const double green = linearChannel(rgb.green() / full);
+    const double blue = linearChannel(rgb.blue() / full);
     // IEC 61966-2-1; each row is divided by its sum, the white point, so that greys come out as such.
     const double x = (0.4124 * red + 0.3576 * green + 0.1805 * blue) / 0.9505;
     const double y = 0.2126 * red + 0.7152 * green + 0.0722 * blue;

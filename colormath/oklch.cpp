@@ -115,10 +115,11 @@ namespace ColorMath
 
 Oklch toOklch(const QColor &color)
 {
-    const QColor rgb = color.toRgb();
-    const double red = decoded(rgb.redF());
-    const double green = decoded(rgb.greenF());
-    const double blue = decoded(rgb.blueF());
+    constexpr double full = 0xffff; // the fractions that Qt gives are coarser in Qt 6
+    const QRgba64 rgb = color.rgba64();
+    const double red = decoded(rgb.red() / full);
+    const double green = decoded(rgb.green() / full);
+    const double blue = decoded(rgb.blue() / full);
     const double l = std::cbrt(0.4122214708 * red + 0.5363325363 * green + 0.0514459929 * blue);
     const double m = std::cbrt(0.2119034982 * red + 0.6806995451 * green + 0.1073969566 * blue);
     const double s = std::cbrt(0.0883024619 * red + 0.2817188376 * green + 0.6299787005 * blue);

@@ -3,6 +3,8 @@
 
 #include <exchange/themewriter.h>
 
+#include <hvtheme/inifile.h>
+
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -87,7 +89,7 @@ std::optional<QByteArray> iniText(const QTemporaryDir &folder, const QByteArray 
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    return comment + '\n' + file.readAll();
+    return comment + '\n' + HV::asciiIniText(file.readAll());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <analysis/rules/rules.h>
 #include <analysis/themeproject.h>
 #include <format/themepath.h>
+#include <hvtheme/inifile.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -205,7 +206,8 @@ QStringList themeNames(const QString &folder)
     if (!isReadableFile(themeFilePath(folder, defaultThemeName())))
         return names;
     // The default file usually holds what the others share, and is no look by itself.
-    const QSettings settings(themeFilePath(folder, defaultThemeName()), QSettings::IniFormat);
+    const QString path = themeFilePath(folder, defaultThemeName());
+    const QSettings settings(path, HV::iniFormat(path));
     if (names.size() > 1 && !settings.childGroups().contains(QStringLiteral("Colors")))
         names.removeOne(defaultThemeName());
     return names;

@@ -3,6 +3,7 @@
 
 #include "theming.h"
 
+#include "inifile.h"
 #include "theme.h"
 
 #include <QDebug>
@@ -54,6 +55,8 @@ constexpr Kind imageKind{".theme.image.", true, false};
 constexpr Kind integerKind{".theme.integer.", false, true};
 constexpr QChar separator = u'|';
 
+using Size = decltype(QString().size()); // int in Qt 5
+
 // The characters of \w: ASCII, whatever the locale.
 bool isWordCharacter(QChar c)
 {
@@ -73,14 +76,14 @@ public:
     {
     }
 
-    int size() const { return m_opening.size(); }
+    Size size() const { return m_opening.size(); }
 
     // Returns where the next token begins; what has no key is none.
-    int indexIn(const QString &text, int from) const
+    Size indexIn(const QString &text, Size from) const
     {
         const QChar *const data = text.constData();
-        const int end = text.size() - size();
-        int place = from;
+        const Size end = text.size() - size();
+        Size place = from;
         for (; place <= end - placesAtATime; place += placesAtATime) {
             if (!mayBeAmong(data + place))
                 continue;
@@ -145,7 +148,7 @@ private:
     }
 
     const QString m_opening;
-    const int m_lastDot;
+    const Size m_lastDot;
 };
 
 // The texts that replace the tokens of one pass. Each is made once, but missed at every token.
@@ -199,11 +202,11 @@ public:
     }
 
     const QString &text() const { return m_text; }
-    int searchStart() const { return m_searchStart; }
+    Size searchStart() const { return m_searchStart; }
 
     // Makes everything before start final, drops [start, end) and puts the replacement in front of
     // what is to be searched.
-    void replace(int start, int end, const QString &replacement)
+    void replace(Size start, Size end, const QString &replacement)
     {
         QChar *data = m_text.data();
         std::copy(data + m_searchStart, data + start, data + m_finalEnd);
@@ -229,18 +232,18 @@ public:
     }
 
 private:
-    void widen(int wanted)
+    void widen(Size wanted)
     {
-        const int size = m_text.size();
-        const int growth = std::max(wanted, size / 16); // few moves, little memory
+        const Size size = m_text.size();
+        const Size growth = std::max(wanted, size / 16); // few moves, little memory
         m_text.resize(size + growth);
         std::copy_backward(m_text.cbegin() + m_searchStart, m_text.cbegin() + size, m_text.end());
         m_searchStart += growth;
     }
 
     QString m_text;
-    int m_finalEnd = 0;
-    int m_searchStart = 0;
+    Size m_finalEnd = 0;
+    Size m_searchStart = 0;
 };
 
 // A prefix of word characters is what it says, so a pass is a search for fixed text, in linear time.
@@ -250,12 +253,12 @@ QString replaceLiteralTokens(const QString &prefix, const Kind &kind, Replacemen
     const TokenFinder finder(prefix, kind);
     GapText gap(styleSheet);
     const QString &text = gap.text();
-    int hit = finder.indexIn(text, 0);
+    Size hit = finder.indexIn(text, 0);
     while (hit >= 0) {
-        const int keyStart = hit + finder.size();
-        const int keyEnd =
-            int(std::find_if_not(text.cbegin() + keyStart, text.cend(), isWordCharacter)
-                - text.cbegin());
+        const Size keyStart = hit + finder.size();
+        const Size keyEnd =
+            Size(std::find_if_not(text.cbegin() + keyStart, text.cend(), isWordCharacter)
+                 - text.cbegin());
 
         const QString replacement = replacements.text(text.mid(keyStart, keyEnd - keyStart));
         const bool separated =
@@ -288,13 +291,13 @@ QString replaceMatchedTokens(const QString &prefix, const Kind &kind, Replacemen
     QString text = styleSheet;
     QRegularExpressionMatch match = expression.match(text);
     while (match.hasMatch()) {
-        const int start = match.capturedStart();
+        const Size start = match.capturedStart();
         const QString key = match.captured(1);
-        int span = canonicalToken(prefix, kind, key).size();
+        Size span = canonicalToken(prefix, kind, key).size();
         if (kind.hasSeparator && start + span < text.size() && text.at(start + span) == separator)
             ++span;
         text.replace(start, span, replacements.text(key));
-        match = expression.match(text, std::max(0, match.capturedEnd() - span));
+        match = expression.match(text, std::max(Size(0), Size(match.capturedEnd()) - span));
     }
     return text;
 }
@@ -326,7 +329,7 @@ void appendFile(const QString &path, const Site &site, QString &text)
         warning(site) << path << "not there!";
         return;
     }
-    text += QString::fromUtf8(file.readAll());
+    text += QString::fromUtf8(file.readAll().constData()); // up to a NUL byte
 }
 
 QString themeFile(const QString &folder, const QString &name, const QString &suffix)
@@ -340,7 +343,7 @@ QString themeFile(const QString &folder, const QString &name, const QString &suf
 
 void readThemeFile(Theme *theme, const QString &path)
 {
-    QSettings settings(path, QSettings::IniFormat);
+    QSettings settings(path, iniFormat(path));
     theme->readSettings(settings);
 }
 

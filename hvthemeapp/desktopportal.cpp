@@ -69,7 +69,10 @@ QColor colorOf(const QVariant &value)
             return {};
     }
     // Eight bits each, which is what is remembered.
-    return QColor(QColor::fromRgbF(channels[0], channels[1], channels[2]).rgb());
+    const auto wide = [](double channel) { return ushort(qRound(channel * 0xffff)); };
+    return QColor(
+        QColor(QRgba64::fromRgba64(wide(channels[0]), wide(channels[1]), wide(channels[2]), 0xffff))
+            .rgb());
 }
 
 bool saysAbsent(const QDBusError &error)

@@ -4,6 +4,7 @@
 #include "desktoptheme.h"
 
 #include <format/themepath.h>
+#include <hvtheme/inifile.h>
 
 #include <QColor>
 #include <QSettings>
@@ -21,9 +22,7 @@ class ThemeFiles
 {
 public:
     ThemeFiles(const QString &folder, const QString &name)
-        : m_default(themeFilePath(folder, defaultThemeName()), QSettings::IniFormat)
-        , m_own(themeFilePath(folder, name), QSettings::IniFormat)
-        , m_name(name)
+        : ThemeFiles(themeFilePath(folder, defaultThemeName()), themeFilePath(folder, name), name)
     {
     }
 
@@ -41,6 +40,13 @@ public:
     }
 
 private:
+    ThemeFiles(const QString &defaultFile, const QString &ownFile, const QString &name)
+        : m_default(defaultFile, iniFormat(defaultFile))
+        , m_own(ownFile, iniFormat(ownFile))
+        , m_name(name)
+    {
+    }
+
     // Numbers, as the core reads them: what is none is 0. The theme's replaces the default one.
     std::optional<bool> flag(const QString &key) const
     {

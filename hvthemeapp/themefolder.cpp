@@ -4,6 +4,7 @@
 #include "themefolder.h"
 
 #include <format/themepath.h>
+#include <hvtheme/inifile.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -108,7 +109,7 @@ QStringList ThemeFolder::names() const
     names.erase(std::remove_if(names.begin(), names.end(), isNoFile), names.end());
     names.sort();
     if (names.size() > 1) {
-        const QSettings settings(defaultFile(), QSettings::IniFormat);
+        const QSettings settings(defaultFile(), iniFormat(defaultFile()));
         if (!settings.childGroups().contains(QStringLiteral("Colors")))
             names.removeOne(defaultThemeName());
     }
@@ -117,7 +118,7 @@ QStringList ThemeFolder::names() const
 
 QString ThemeFolder::displayName(const QString &name) const
 {
-    const QSettings settings(file(name), QSettings::IniFormat);
+    const QSettings settings(file(name), iniFormat(file(name)));
     const QString displayName = settings.value(QStringLiteral("ThemeName")).toString();
     return displayName.isEmpty() ? name : displayName;
 }

@@ -7,6 +7,7 @@
 #include "missingimages.h"
 #include "themefolder.h"
 
+#include <hvtheme/inifile.h>
 #include <hvtheme/theme.h>
 #include <maker/rebranding.h>
 
@@ -50,7 +51,7 @@ public:
             file.write(QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1());
         const QString path = file.fileName(); // a closed file that was never named is lost
         file.close();
-        QSettings settings(path, QSettings::IniFormat);
+        QSettings settings(path, iniFormat(path));
         read(settings);
     }
 
@@ -65,11 +66,13 @@ public:
     Reading(Theme &theme, const ThemeFolder &folder, const QString &name, const QString &first,
             const QString &second)
         : m_theme(theme)
-        , m_defaultFile(folder.defaultFile(), QSettings::IniFormat)
-        , m_first(first.isNull() ? folder.defaultFile() : first, QSettings::IniFormat)
+        , m_defaultFile(folder.defaultFile(), iniFormat(folder.defaultFile()))
+        , m_first(first.isNull() ? folder.defaultFile() : first,
+                  iniFormat(first.isNull() ? folder.defaultFile() : first))
     {
+        const QString file = second.isNull() ? folder.file(name) : second;
         if (folder.file(name) != folder.defaultFile())
-            m_second.emplace(second.isNull() ? folder.file(name) : second, QSettings::IniFormat);
+            m_second.emplace(file, iniFormat(file));
     }
 
     QStringList run()

@@ -91,7 +91,9 @@ QImage draw(const QString &path, const QSize &size, QIcon::Mode mode, Qt::Aspect
         drawPlaceholder(painter, area);
     if (mode == QIcon::Disabled) { // as a whole: shapes that overlap would show through one another
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        painter.fillRect(image.rect(), QColor::fromRgbF(0, 0, 0, disabledOpacity));
+        painter.fillRect(
+            image.rect(),
+            QColor(QRgba64::fromRgba64(0, 0, 0, ushort(qRound(disabledOpacity * 0xffff)))));
     }
     return image;
 }

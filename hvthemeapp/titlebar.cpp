@@ -107,7 +107,7 @@ void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPain
         if (option.activeSubControls & button.part
             && option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) {
             QColor veil = ink;
-            veil.setAlphaF(option.state & QStyle::State_Sunken ? 0.25 : 0.12);
+            veil.setAlphaF(option.state & QStyle::State_Sunken ? 0.25F : 0.12F);
             painter.fillRect(area, veil);
         }
         drawIcon(painter, style.standardIcon(button.icon, &option, widget), area, isActive);

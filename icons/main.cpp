@@ -4,6 +4,7 @@
 #include <format/place.h>
 #include <format/themepath.h>
 #include <format/token.h>
+#include <hvtheme/inifile.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -70,7 +71,7 @@ bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
             return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
     }
     const QString defaultFile = themeFilePath(folder, defaultThemeName());
-    const QString displayName = QSettings(defaultFile, QSettings::IniFormat)
+    const QString displayName = QSettings(defaultFile, HV::iniFormat(defaultFile))
                                     .value(QStringLiteral("ThemeName"), QStringLiteral("unnamed"))
                                     .toString();
     if (name != defaultThemeName() && displayName.compare(name, Qt::CaseInsensitive) == 0) {

@@ -3,8 +3,6 @@
 
 #include <analysis/rules/rules.h>
 
-#include <QTextCodec>
-
 #include <algorithm>
 
 namespace
@@ -18,9 +16,8 @@ bool isGarbled(const QByteArray &bytes)
         std::all_of(bytes.cbegin(), bytes.cend(), [](char byte) { return uchar(byte) < 0x80; });
     if (isAscii)
         return false;
-    QTextCodec::ConverterState state;
-    QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    const QByteArray text = 'x' + bytes; // a byte order mark counts only at the beginning
+    return QString::fromUtf8(text.constData(), text.size()).toUtf8() == text;
 }
 
 void check(const ThemeProject &project, Report &report)

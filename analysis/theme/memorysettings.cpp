@@ -3,6 +3,8 @@
 
 #include <analysis/theme/memorysettings.h>
 
+#include <hvtheme/inifile.h>
+
 #include <QDataStream>
 #include <QResource>
 #include <QSettings>
@@ -63,7 +65,7 @@ const uchar *bytesOf(const QByteArray &resource)
 } // namespace
 
 MemorySettings::MemorySettings(const QByteArray &ini)
-    : m_resource(resourceOf(ini))
+    : m_resource(resourceOf(HV::iniText(ini)))
 {
     static std::atomic<quint64> count{0};
     m_root = QLatin1String("/hvtheme-analysis/") % QString::number(++count);
