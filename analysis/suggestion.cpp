@@ -60,7 +60,7 @@ QString Suggestion::nearest(const QString &misspelt) const
         return {};
 
     QString best;
-    int bestDistance = qBound(1, misspelt.size() / 4, 3) + 1;
+    int bestDistance = int(qBound(1, misspelt.size() / 4, 3) + 1);
     for (const QString &name : m_names) {
         if (qAbs(name.size() - misspelt.size()) >= bestDistance)
             continue;

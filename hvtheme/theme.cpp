@@ -279,8 +279,7 @@ QPair<QColor, QString> Theme::readNamedColor(const QString &text) const
     // The "#" keeps colour words out: in a theme file a word is the name of a palette entry.
     const QLatin1Char hash('#');
     const QString candidate = text.startsWith(hash) ? text : hash + text;
-    QColor color;
-    color.setNamedColor(candidate);
+    const QColor color(candidate);
     if (color.isValid())
         return {color, QString()};
 

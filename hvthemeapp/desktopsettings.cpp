@@ -6,9 +6,13 @@
 #include "desktopfiles.h"
 #include "desktopportal.h"
 
+#include <QGuiApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QStyleHints>
 #include <QTimer>
+
+#include <optional>
 
 namespace HV
 {
@@ -31,6 +35,22 @@ bool isDark(const QPalette &palette)
 {
     return qGray(palette.color(QPalette::Window).rgb())
         < qGray(palette.color(QPalette::WindowText).rgb());
+}
+
+// What Qt itself knows of the desktop, from 6.5 on; nothing before.
+std::optional<DesktopSettings::ColorScheme> platformScheme()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    switch (QGuiApplication::styleHints()->colorScheme()) {
+    case Qt::ColorScheme::Dark:
+        return DesktopSettings::ColorScheme::Dark;
+    case Qt::ColorScheme::Light:
+        return DesktopSettings::ColorScheme::Light;
+    case Qt::ColorScheme::Unknown:
+        break;
+    }
+#endif
+    return {};
 }
 
 } // namespace
@@ -78,7 +98,7 @@ void DesktopSettings::Private::recall()
         memory.contrast = Contrast::High;
     else if (contrastText == QLatin1String("normal"))
         memory.contrast = Contrast::Normal;
-    memory.accentColor.setNamedColor(file.value(accentKey).toString());
+    memory.accentColor = QColor(file.value(accentKey).toString());
 }
 
 // A folder that cannot be written costs one frame in the wrong look at the next start, no more.
@@ -114,8 +134,8 @@ bool DesktopSettings::Private::combine()
     const bool hasPortal =
         isKnown ? portal.presence() == DesktopPortal::Presence::Present : remembersPortal;
     all.complete(files.preferences());
-    const ColorScheme newScheme =
-        all.colorScheme.value_or(hasPortal ? ColorScheme::Light : startScheme);
+    const ColorScheme newScheme = all.colorScheme.value_or(
+        hasPortal ? ColorScheme::Light : platformScheme().value_or(startScheme));
     const Contrast newContrast = all.contrast.value_or(Contrast::Normal);
     const bool isNew =
         newScheme != colorScheme || newContrast != contrast || all.accentColor != accentColor;
@@ -142,6 +162,9 @@ DesktopSettings::DesktopSettings(const QPalette &startPalette, QObject *parent)
     };
     connect(&d->files, &DesktopFiles::changed, this, update);
     connect(&d->portal, &DesktopPortal::changed, this, update);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this, update);
+#endif
 }
 
 DesktopSettings::~DesktopSettings() = default;

@@ -24,8 +24,9 @@ namespace HV
  *    folder;
  * -# KDE's `kdeglobals`;
  * -# GTK's settings: the variable `GTK_THEME`, then `gtk-3.0/settings.ini` and `gtk-4.0/settings.ini`;
- * -# the palette that the application was started with, for dark or light alone. A portal that answers
- *    without a preference leaves the files their say and is else for light.
+ * -# for dark or light alone, what Qt itself says of the desktop (from 6.5 on), else the palette that
+ *    the application was started with. A portal that answers without a preference leaves the files
+ *    their say and is else for light.
  *
  * Files are watched. Nothing waits for the portal, whatever it does, and nothing polls. A portal that
  * is restarted is asked again. Answers that make no sense count as none. Logs nothing. Needs a

@@ -83,8 +83,10 @@ MadeFile defaultFile(const Order &order, const QVector<PaletteEntry> &palette)
     content.replace("--brand #3060F0 --neutral cool", madeFrom(order));
     for (const Look look : {Look::Dark, Look::Light, Look::Contrast}) {
         const QByteArray own = fileBaseName(order.name, look).toLatin1();
-        content.replace(QByteArray(lookName(look).toLatin1() + ".theme"), own + ".theme");
-        content.replace(QByteArray('"' + lookName(look).toLatin1() + '"'), '"' + own + '"');
+        content.replace(QByteArray(lookName(look).toLatin1() + ".theme"),
+                        QByteArray(own + ".theme"));
+        content.replace(QByteArray('"' + lookName(look).toLatin1() + '"'),
+                        QByteArray('"' + own + '"'));
     }
     return {QStringLiteral("default.theme"), content};
 }

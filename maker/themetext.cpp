@@ -28,9 +28,9 @@ QByteArray withValue(const QByteArray &line, const QString &value)
 ThemeText::ThemeText(const QByteArray &text)
 {
     QString section;
-    int start = 0;
+    decltype(text.size()) start = 0;
     while (start < text.size()) {
-        const int end = text.indexOf('\n', start);
+        const auto end = text.indexOf('\n', start);
         const QByteArray whole = text.mid(start, end < 0 ? -1 : end + 1 - start);
         start += whole.size();
         const QByteArray line = whole.trimmed();

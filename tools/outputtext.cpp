@@ -13,7 +13,9 @@
 void printError(const QString &message)
 {
     QTextStream stream(stderr);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // UTF-8 by itself from there on
     stream.setCodec("UTF-8");
+#endif
     stream << "hvtheme: " << printable(message) << '\n';
 }
 

@@ -75,7 +75,7 @@ private:
 Ground opaqueGround(const Colors &colors, const QVector<StyleValue> &layers)
 {
     Ground ground;
-    for (int i = layers.size() - 1; i >= 0; --i) {
+    for (int i = int(layers.size() - 1); i >= 0; --i) {
         if (layers.at(i).offset < 0)
             continue;
         const Ground layer = colors.read(layers.at(i).text);

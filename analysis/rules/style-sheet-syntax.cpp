@@ -21,12 +21,12 @@ int templateOffset(const ThemeProject &project, const QString &finished,
             at = rules.at(i).end;
         while (at < templates.size() && templates.at(at).isSpace())
             ++at;
-        return qMin(at, templates.size() - 1);
+        return int(qMin(at, templates.size() - 1));
     }
-    const int line = finished.left(offset).count(QLatin1Char('\n'));
+    const int line = int(finished.left(offset).count(QLatin1Char('\n')));
     int start = 0;
     for (int i = 0; i < line; ++i)
-        start = templates.indexOf(QLatin1Char('\n'), start) + 1;
+        start = int(templates.indexOf(QLatin1Char('\n'), start) + 1);
     return start;
 }
 

@@ -52,7 +52,7 @@ Candidate candidate(const StyleSelector &selector, const StyleRule &rule, int nu
         result.order = number;
     } else if (subject.type != QLatin1String("*")) {
         result.subject = Subject::Class;
-        result.order = number - node.classes.indexOf(subject.type) * sheetWeight;
+        result.order = number - int(node.classes.indexOf(subject.type)) * sheetWeight;
     }
     return result;
 }
@@ -139,7 +139,7 @@ private:
             found->place = m_templates->placeAt(found->offset);
             return;
         }
-        found->offset -= m_opening.size();
+        found->offset -= int(m_opening.size());
         const QString before = m_text.mid(m_opening.size(), found->offset);
         found->place.position = {int(before.count(QLatin1Char('\n'))) + 1,
                                  int(before.size() - before.lastIndexOf(QLatin1Char('\n')))};
@@ -175,7 +175,7 @@ QVector<StyleMatch> StyleCascade::own(const StyleElement &element) const
     for (int i = 0; i < element.path.size(); ++i) {
         if (element.path.at(i).styleSheet.isEmpty())
             continue;
-        const int known = matches.size();
+        const int known = int(matches.size());
         Sheet(element.path.at(i).styleSheet).collect(element, &matches);
         for (int j = known; j < matches.size(); ++j)
             matches[j].sheet = i;

@@ -200,7 +200,7 @@ QStringList attributesIn(const QVector<StyleRule> &rules)
 // is not what the step before asks for, an outer ancestor is not tried.
 bool matchesObject(const StyleSelector &selector, const QVector<StyleNode> &path)
 {
-    int step = selector.steps.size() - 1;
+    int step = int(selector.steps.size() - 1);
     for (const StyleNode &node : path) {
         const bool isMatch = matchesStep(selector.steps.at(step), node);
         const bool isSubject = step == selector.steps.size() - 1;

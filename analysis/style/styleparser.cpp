@@ -34,7 +34,7 @@ public:
 
     QVector<int> rejected()
     {
-        search(0, m_rules.size());
+        search(0, int(m_rules.size()));
         return m_rejected;
     }
 
@@ -44,7 +44,7 @@ private:
 
     QString part(int first, int last) const
     {
-        const int end = last >= m_rules.size() ? m_text.size() : m_rules.at(last - 1).end;
+        const int end = int(last >= m_rules.size() ? m_text.size() : m_rules.at(last - 1).end);
         return m_text.mid(startOf(first), end - startOf(first));
     }
 
@@ -59,7 +59,7 @@ private:
             return;
         }
         const int middle = first + (last - first) / 2;
-        const int found = m_rejected.size();
+        const int found = int(m_rejected.size());
         search(first, middle);
         search(middle, last);
         if (found == m_rejected.size())

@@ -47,14 +47,14 @@ private:
             declaration.start = m_at;
             declaration.end = endOfPart();
             const QString text = m_text.mid(m_at, declaration.end - m_at);
-            const int colon = text.indexOf(u':');
+            const int colon = int(text.indexOf(u':'));
             if (colon >= 0) {
                 declaration.property = text.left(colon).simplified();
                 declaration.value = text.mid(colon + 1).simplified();
                 result.append(declaration);
             }
             isOpen = declaration.end < m_text.size() && m_text.at(declaration.end) != u'}';
-            m_at = std::min(declaration.end + 1, m_text.size());
+            m_at = std::min(declaration.end + 1, int(m_text.size()));
         }
         return result;
     }
@@ -82,7 +82,7 @@ private:
                 return at;
             }
         }
-        return m_text.size();
+        return int(m_text.size());
     }
 
     const QString m_text;
@@ -105,12 +105,12 @@ StyleRules::StyleRules(const QString &text)
     const QLatin1String opening("/*");
     const QLatin1String closing("*/");
     QString blanked = text;
-    for (int start = text.indexOf(opening); start >= 0;) {
-        const int close = text.indexOf(closing, start + opening.size());
-        const int end = close < 0 ? text.size() : close + closing.size();
+    for (int start = int(text.indexOf(opening)); start >= 0;) {
+        const int close = int(text.indexOf(closing, start + opening.size()));
+        const int end = int(close < 0 ? text.size() : close + closing.size());
         m_comments.append({start, end, close >= 0});
         std::fill(blanked.begin() + start, blanked.begin() + end, QChar(u' '));
-        start = text.indexOf(opening, end);
+        start = int(text.indexOf(opening, end));
     }
     m_rules = RuleScanner(blanked).rules();
 }

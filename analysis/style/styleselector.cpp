@@ -218,7 +218,8 @@ int StyleSelector::specificity() const
 {
     int result = 0;
     for (const Step &step : steps) {
-        result += step.ids.size() * 0x100 + (step.attributes.size() + step.pseudos.size()) * 0x10
+        result += int(step.ids.size()) * 0x100
+            + int(step.attributes.size() + step.pseudos.size()) * 0x10
             + (step.type == QLatin1String("*") ? 0 : 1);
     }
     return result;

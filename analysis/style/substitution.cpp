@@ -73,11 +73,11 @@ private:
 
     Token nextToken(const QString &text, int from) const
     {
-        for (int hit = text.indexOf(m_opening, from); hit >= 0;
-             hit = text.indexOf(m_opening, hit + 1)) {
+        for (int hit = int(text.indexOf(m_opening, from)); hit >= 0;
+             hit = int(text.indexOf(m_opening, hit + 1))) {
             Token token;
             token.start = hit;
-            token.keyEnd = hit + m_opening.size();
+            token.keyEnd = int(hit + m_opening.size());
             while (token.keyEnd < text.size() && Tokens::isKeyCharacter(text.at(token.keyEnd)))
                 ++token.keyEnd;
             token.key = text.mid(hit + m_opening.size(), token.keyEnd - hit - m_opening.size());
@@ -117,8 +117,8 @@ private:
     {
         const int before = searchStart(first);
         QString window = text.mid(before, first.end - before + windowSize);
-        const int behindWindow = text.size() - before - window.size();
-        int leastBehind = window.size();
+        const int behindWindow = int(text.size() - before - window.size());
+        int leastBehind = int(window.size());
         QVector<OpenValue> open;
         Token token = nextToken(window, first.start - before);
         for (int step = 0; token.start >= 0; ++step) {
@@ -126,7 +126,7 @@ private:
                 open.removeLast();
             if (step > 0 && open.isEmpty())
                 break;
-            const int lengthBehind = window.size() - token.end;
+            const int lengthBehind = int(window.size() - token.end);
             // A token that reaches out of a value uses up the text behind it, so nothing repeats.
             while (!open.isEmpty() && open.last().lengthBehind > lengthBehind)
                 open.removeLast();
@@ -141,7 +141,7 @@ private:
             open.append({token.key, lengthBehind});
             token = nextToken(window, searchStart(token));
         }
-        *resumeAt = text.size() - behindWindow - leastBehind;
+        *resumeAt = int(text.size() - behindWindow - leastBehind);
         return {};
     }
 

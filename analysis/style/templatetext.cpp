@@ -70,7 +70,7 @@ bool TemplateText::append(const QString &path, QString *error)
     const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
     if (!input)
         return false;
-    m_files.append({*input, m_text.size()});
+    m_files.append({*input, int(m_text.size())});
     m_text += decoded(input->content());
     return true;
 }

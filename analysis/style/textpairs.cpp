@@ -142,10 +142,10 @@ private:
         if (!selector.isValid())
             return;
         if (!m_byText.contains(selector.text)) {
-            m_byText.insert(selector.text, m_entries.size());
+            m_byText.insert(selector.text, int(m_entries.size()));
             m_buckets[bucketName(selector.subControl(), selector.subject().type,
                                  allConditions(selector))]
-                .append(m_entries.size());
+                .append(int(m_entries.size()));
             m_entries.append({selector, 0, {}});
         }
         Entry &entry = m_entries[m_byText.value(selector.text)];
@@ -235,8 +235,8 @@ bool isWherever(const StyleSelector &general, const StyleSelector &specific)
     };
     if (!holds(general.subject(), specific.subject()))
         return false;
-    int from = specific.steps.size() - 1;
-    for (int i = general.steps.size() - 2; i >= 0; --i) {
+    int from = int(specific.steps.size() - 1);
+    for (int i = int(general.steps.size() - 2); i >= 0; --i) {
         const bool wantsParent = isChild(general.steps.at(i + 1));
         if (wantsParent && (from == 0 || !isChild(specific.steps.at(from))))
             return false;

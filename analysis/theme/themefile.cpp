@@ -44,7 +44,7 @@ private:
 
 QString sectionPrefix(const QByteArray &text, const IniSyntax::Line &line)
 {
-    const int bracket = text.indexOf(']', line.start);
+    const int bracket = int(text.indexOf(']', line.start));
     const bool isClosed = bracket >= 0 && bracket < line.end;
     const int end = isClosed ? bracket : line.end;
     const QByteArray name = text.mid(line.start + 1, end - line.start - 1).trimmed();

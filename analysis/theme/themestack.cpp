@@ -50,7 +50,7 @@ void ThemeStack::read(const ThemeLayer &layer)
         Definition definition;
         definition.layer = &layer;
         definition.value = &value;
-        const int index = m_definitions.size();
+        const int index = int(m_definitions.size());
         QHash<QString, int> &own = m_stored[int(value.kind)];
         const QHash<QString, int> &taken =
             value.kind == Kind::Flag ? m_stored[int(Kind::Integer)] : own;

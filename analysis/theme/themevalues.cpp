@@ -56,7 +56,7 @@ ThemeValues ThemeValues::read(const QByteArray &content)
             value.key = key;
             value.value = settings.value(key);
             if (kind == Kind::Gradient)
-                readStops(&settings, keys.size(), &value);
+                readStops(&settings, int(keys.size()), &value);
             result.values.append(value);
         }
         settings.endGroup();

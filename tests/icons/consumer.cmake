@@ -35,7 +35,7 @@ set(build ${WORK_DIR}/build)
 set(copies ${build}/share/consumer/forest)
 
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --config ${CONFIG} --prefix ${WORK_DIR}/installed)
-run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${WORK_DIR}/installed
+run(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${WORK_DIR}/installed -DHVTHEME_PACKAGE=HVTheme${SUFFIX}
     -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CONFIGURATION_TYPES=${CONFIG})
 run(${CMAKE_COMMAND} --build ${build})
 run(${build}/bin/icons_consumer)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The HVTheme authors
 # SPDX-License-Identifier: MIT
 
-# Usage: cmake -DNM=<nm> -DLIBRARY=<shared library> -DLIST=<file> -P check_exports.cmake
+# Usage: cmake -DNM=<nm> -DLIBRARY=<shared library> -DLIST=<file> -DQT=5|6 -P check_exports.cmake
 #
 # Compares the symbols that LIBRARY exports with those of LIST, and looks for the mark that ties the
 # compressed templates to a Qt that can read them.
@@ -28,7 +28,9 @@ list(FILTER exported EXCLUDE REGEX "^[A-Za-z] (__bss_start|_edata|_end|__odr_asa
 list(FILTER exported EXCLUDE REGEX "^[VWu] _Z(TI|TS|NK?)?([0-9]+Q[A-Z]|St)")
 list(TRANSFORM exported REPLACE "^. " "")
 list(SORT exported)
-file(STRINGS ${LIST} expected REGEX "^_Z")
+# A list of texts has another name in each Qt.
+file(STRINGS ${LIST} expected REGEX "^(qt${QT} )?_Z")
+list(TRANSFORM expected REPLACE "^qt[0-9] " "")
 list(SORT expected)
 
 if(NOT exported STREQUAL expected)

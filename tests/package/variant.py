@@ -23,6 +23,7 @@ def check(variant, cmake, ctest, cxx, pkg_config, work, sources, options):
     build, users = work / "a build", {"find_package": ["-DGENERATOR=Unix Makefiles"]}
     if pkg_config:
         users["pkg_config"] = [f"-DPKG_CONFIG={pkg_config}"]
+    suffix = "6" if "-DHVTHEME_QT=6" in options else ""
     library_folder = work / "libraries" if variant == "absolute-libdir" else pathlib.Path("lib/deeper/still")
     options = [
         *options,
@@ -38,7 +39,7 @@ def check(variant, cmake, ctest, cxx, pkg_config, work, sources, options):
         # The folders of a .pc file beside an absolute one start from the configured prefix.
         run(cmake, f"-DCMAKE_INSTALL_PREFIX={work / way / 'prefix'}", build)
         common = (f"-DBUILD_DIR={build}", f"-DWORK_DIR={work / way}", "-DCONFIG=Debug", f"-DLIBDIR={library_folder}")
-        run(cmake, *common, f"-DCTEST={ctest}", f"-DCXX={cxx}", *arguments, "-P", HERE / "consumer/run.cmake")
+        run(cmake, *common, f"-DSUFFIX={suffix}", f"-DCTEST={ctest}", f"-DCXX={cxx}", *arguments, "-P", HERE / "consumer/run.cmake")
         program = work / way / "prefix/bin/hvtheme-icons"
         output, _ = run(program, "--version")
         expect(output.startswith("hvtheme-icons "), f"{program} printed {output!r}")

@@ -41,14 +41,14 @@ if(PKG_CONFIG)
         separate_arguments(libraries UNIX_COMMAND "${output}")
         run(${CXX} -o ${program} ${flags} ${CMAKE_CURRENT_LIST_DIR}/${source} ${libraries})
     endfunction()
-    build(${program} main.cpp hvtheme)
+    build(${program} main.cpp hvtheme${SUFFIX})
     if(NOT CORE_ALONE)
-        build(${application} application.cpp hvthemeapp)
+        build(${application} application.cpp hvthemeapp${SUFFIX})
     endif()
     set(ENV{LD_LIBRARY_PATH} ${library_folder}:$ENV{LD_LIBRARY_PATH})
 else()
     run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR} -B ${WORK_DIR}/build -G ${GENERATOR}
-        -DHVTheme_DIR=${library_folder}/cmake/HVTheme -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CONFIGURATION_TYPES=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
+        -DHVTHEME_PACKAGE=HVTheme${SUFFIX} -DHVTheme${SUFFIX}_DIR=${library_folder}/cmake/HVTheme${SUFFIX} -DCMAKE_BUILD_TYPE=${CONFIG} -DCMAKE_CONFIGURATION_TYPES=${CONFIG} -DCMAKE_CXX_COMPILER=${CXX}
         -DCMAKE_CXX_FLAGS=${CXX_FLAGS} ${alone})
     run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
     run(${CTEST} -C ${CONFIG} --test-dir ${WORK_DIR}/build)

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEME_TESTS_QTVERSION_H
+#define HVTHEME_TESTS_QTVERSION_H
+
+#include <QtGlobal>
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
+
+/*!
+ * Where Qt 6 itself gives tests another answer than Qt 5; docs/qt6.md has the same list in words. A test
+ * asks here, never for a version.
+ */
+namespace QtDifference
+{
+
+constexpr bool isQt6 = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
+
+/*! The 8-bit encoding of the locale, as which the texts of some messages pass, is always UTF-8. */
+constexpr bool localeIsAlwaysUtf8 = isQt6;
+
+/*! Makes Latin-1 the encoding of the locale, or what it was; does nothing where it cannot change. */
+inline void setLatin1Locale(bool isLatin1)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QTextCodec::setCodecForLocale(isLatin1 ? QTextCodec::codecForName("ISO-8859-1") : nullptr);
+#else
+    Q_UNUSED(isLatin1)
+#endif
+}
+
+} // namespace QtDifference
+
+#endif // HVTHEME_TESTS_QTVERSION_H
