@@ -60,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
 {
     static const QtMessageHandler previous = qInstallMessageHandler(countMissingImages);
     const QByteArray input(reinterpret_cast<const char *>(data), int(size));
-    const int headEnd = input.indexOf("\n\n");
+    const int headEnd = int(input.indexOf("\n\n"));
     if (headEnd < 1)
         return 0;
     QList<QByteArray> lines = input.left(headEnd).split('\n');
@@ -72,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     QVariantMap hiddenValues;
     QVariantMap values;
     for (const QByteArray &line : qAsConst(lines)) {
-        const int equals = line.indexOf('=');
+        const int equals = int(line.indexOf('='));
         const QString key = QString::fromUtf8(line.left(equals));
         const QString value = equals < 0 ? QString() : QString::fromUtf8(line.mid(equals + 1));
         hiddenValues.insert(key, Plain::hiddenSurrogates(value));

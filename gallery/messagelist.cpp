@@ -67,7 +67,7 @@ void MessageList::clear()
 
 int MessageList::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : m_messages.size();
+    return parent.isValid() ? 0 : int(m_messages.size());
 }
 
 QVariant MessageList::data(const QModelIndex &index, int role) const

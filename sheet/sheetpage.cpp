@@ -298,7 +298,7 @@ QString Page::flagCell(const SheetTheme &, const StoredValue &value) const
 
 void Page::addIcons()
 {
-    const int width = std::max(9, 4 * m_model.themes().size());
+    const int width = std::max(9, 4 * int(m_model.themes().size()));
     m_html += QStringLiteral("<ul class=\"icons\" style=\"--card:%1rem\">\n").arg(width);
     const QStringList keys = m_model.keys(Kind::ImageFile);
     for (const QString &key : keys) {

@@ -201,7 +201,7 @@ void Picture::drawTable(Kind kind, const QString &title, int rowHeight, Cell cel
     heading(title, isBeside ? right : left);
     if (kind == Kind::Color)
         drawNote();
-    const int half = isShort ? keys.size() : (keys.size() + 1) / 2;
+    const int half = int(isShort ? keys.size() : (keys.size() + 1) / 2);
     drawBlock({isBeside ? right : left, m_y}, kind, keys.mid(0, half), rowHeight, cell);
     if (!isShort)
         drawBlock({right, m_y}, kind, keys.mid(half), rowHeight, cell);
@@ -219,7 +219,7 @@ void Picture::drawNote()
 void Picture::drawBlock(QPoint corner, Kind kind, const QStringList &keys, int rowHeight, Cell cell)
 {
     const int columnWidth = (blockWidth() - keyWidth) / m_themeCount;
-    const int height = 44 + keys.size() * rowHeight;
+    const int height = int(44 + keys.size() * rowHeight);
     for (int row = 0; row < keys.size(); ++row) {
         const int top = corner.y() + 44 + row * rowHeight;
         text(QRect(corner.x(), top, keyWidth - 12, rowHeight), font(13), textColor, keys.at(row));

@@ -75,7 +75,7 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
     if (!QStringList({"text", "json", "sarif"}).contains(options->format))
         return QStringLiteral("no format is called \"%1\"").arg(options->format);
     const QString severity = parser.value(known.fail);
-    const int level = QStringList({"info", "warning", "error"}).indexOf(severity);
+    const int level = int(QStringList({"info", "warning", "error"}).indexOf(severity));
     if (level < 0)
         return QStringLiteral("no severity is called \"%1\"").arg(severity);
     options->failOn = Severity(level);

@@ -20,7 +20,7 @@ std::optional<int> parseArguments(QCommandLineParser &parser, const QString &nam
         // The usage line begins with the program as it was started, and lacks the command.
         QString text = parser.helpText();
         const QString program = QCoreApplication::arguments().constFirst();
-        const int start = text.indexOf(program);
+        const int start = int(text.indexOf(program));
         if (start >= 0)
             text.replace(start, program.size(), QLatin1String("hvtheme ") + name);
         return writeStandardOutput(text) ? ExitDone : ExitUnusable;

@@ -206,7 +206,7 @@ static QString withColors(QString styleSheet)
 {
     const char *const colors[] = {"#ff0000", "#00ff00", "#0000ff"};
     for (int i = 0; styleSheet.contains("{#}"); ++i) {
-        const int at = styleSheet.indexOf("{#}");
+        const int at = int(styleSheet.indexOf("{#}"));
         styleSheet.replace(at, 3, QString("{background-color: %1}").arg(colors[i % 3]));
     }
     return styleSheet;

@@ -33,7 +33,7 @@ QString replacedByCore(QString text, const QVariantMap &values)
 QString replacedByGrammar(QString text)
 {
     const QVector<TemplateToken> tokens = Tokens::find(text, Tokens::defaultPrefix());
-    for (int i = tokens.size() - 1; i >= 0; --i) {
+    for (int i = int(tokens.size() - 1); i >= 0; --i) {
         const TemplateToken &token = tokens.at(i);
         const bool isSeparated = Tokens::takesSeparator(token.kind) && token.end() < text.size()
             && text.at(token.end()) == QLatin1Char(Tokens::separator);

@@ -45,10 +45,10 @@ public:
     }
     QStringList colorKeys() const { return m_colorKeys; }
     QStringList imageKeys() const { return m_imageKeys; }
-    QColor color(const QString &key) const { return numbered(m_colorKeys.indexOf(key)); }
+    QColor color(const QString &key) const { return numbered(int(m_colorKeys.indexOf(key))); }
     QColor imageColor(const QString &key) const
     {
-        return numbered(m_colorKeys.size() + m_imageKeys.indexOf(key));
+        return numbered(int(m_colorKeys.size() + m_imageKeys.indexOf(key)));
     }
 
     /*! \brief Writes the theme file \a name; \a changed replaces single colours (key to text). */

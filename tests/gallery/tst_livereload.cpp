@@ -342,7 +342,7 @@ void tst_LiveReload::endlessValue()
     const QColor good = shownButtonColor();
     const QByteArray sound = themeWith(QStringLiteral("#123456"));
     QByteArray endless = sound;
-    const int start = endless.indexOf("\nadd=") + 5;
+    const int start = int(endless.indexOf("\nadd=") + 5);
     endless.replace(start, endless.indexOf('\n', start) - start, "../global.theme.image.add");
     QSignalSpy reloaded(m_window.get(), &GalleryWindow::reloaded);
     QTest::ignoreMessage(QtCriticalMsg,

@@ -205,7 +205,7 @@ void tst_Screenshots::problems()
     QFETCH(int, exitCode);
     QFETCH(QString, message);
     arguments.replaceInStrings(QStringLiteral("%1"), m_files->folder());
-    const int broken = arguments.indexOf(QStringLiteral("broken"));
+    const int broken = int(arguments.indexOf(QStringLiteral("broken")));
     if (broken >= 0) {
         QFile image(m_files->imagePath(QStringLiteral("close")));
         QVERIFY(image.open(QIODevice::WriteOnly));

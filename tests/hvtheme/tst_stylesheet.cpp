@@ -367,7 +367,7 @@ void tst_Stylesheet::tokens()
 void tst_Stylesheet::integerTokensCarryTheirUnit()
 {
     const QString text = wholeText();
-    const int tokens = text.count("global.theme.integer.");
+    const int tokens = int(text.count("global.theme.integer."));
     QVERIFY(tokens > 0);
     QCOMPARE(text.count(QRegularExpression(R"(global\.theme\.integer\.\w+\|px;)")), tokens);
     QCOMPARE(text.count('|'), tokens);

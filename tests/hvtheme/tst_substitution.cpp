@@ -109,7 +109,7 @@ private:
     QString piece()
     {
         const QString whole = token();
-        const int cut = below(whole.size() + 1);
+        const int cut = below(int(whole.size()) + 1);
         switch (below(12)) {
         case 0:
             return whole.left(cut);

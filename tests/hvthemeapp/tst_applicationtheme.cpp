@@ -308,7 +308,7 @@ void tst_ApplicationTheme::ownStyleSheetStays()
     QVERIFY(qApp->styleSheet().size() > 20000);
 
     ApplicationTheme other; // finds the look of the first one
-    const int size = qApp->styleSheet().size();
+    const int size = int(qApp->styleSheet().size());
     QVERIFY(other.setName("dark"));
     QCOMPARE(qApp->styleSheet().size(), size);
 }

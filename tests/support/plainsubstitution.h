@@ -47,13 +47,13 @@ inline int spanOf(Kind kind, const QString &prefix, const QString &name)
 {
     switch (kind) {
     case Kind::Color:
-        return QString("%1.theme.color." + name).arg(prefix).size();
+        return int(QString("%1.theme.color." + name).arg(prefix).size());
     case Kind::Image:
-        return QString("%1.theme.image." + name).arg(prefix).size();
+        return int(QString("%1.theme.image." + name).arg(prefix).size());
     case Kind::Integer:
         break;
     }
-    return QString("%1.theme.integer.%2").arg(prefix).arg(name).size();
+    return int(QString("%1.theme.integer.%2").arg(prefix).arg(name).size());
 }
 
 inline Result replaced(Kind kind, const QString &prefix, const QVariantMap &values,
@@ -74,10 +74,10 @@ inline Result replaced(Kind kind, const QString &prefix, const QVariantMap &valu
             result.ended = false;
             break;
         }
-        const int end = match.capturedEnd();
+        const int end = int(match.capturedEnd());
         const QString name = match.captured(1);
         int span = spanOf(kind, prefix, name);
-        const int after = match.capturedStart() + span;
+        const int after = int(match.capturedStart() + span);
         if (kind == Kind::Integer && after < result.text.size() && result.text.at(after) == '|')
             ++span;
         const QString text = values.value(name).toString();

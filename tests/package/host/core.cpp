@@ -12,5 +12,5 @@ int ruleCount()
     HV::Theme theme(QStringLiteral("host"));
     const QString styleSheet =
         HV::findStyleSheet(&theme, QStringLiteral(":/stylesheet"), QStringLiteral("global"));
-    return styleSheet.count(QLatin1Char('{'));
+    return int(styleSheet.count(QLatin1Char('{')));
 }
