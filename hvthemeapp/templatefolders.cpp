@@ -3,6 +3,7 @@
 
 #include "templatefolders.h"
 
+#include "applicationtheme.h"
 #include "quotedurls.h"
 #include "themefolder.h"
 
@@ -60,7 +61,7 @@ QString problemOfTemplate(const QString &file)
     readStyleSheet(QStringList(file), text);
     if (isClosed(text))
         return {};
-    return QStringLiteral("\"%1\" has a rule, comment or text that does not begin or end")
+    return ApplicationTheme::tr("\"%1\" has a rule, comment or text that does not begin or end")
         .arg(file);
 }
 
@@ -91,14 +92,16 @@ QString TemplateFolders::problem() const
 {
     for (const Folder &folder : m_folders) {
         if (!QFileInfo(folder.path).isDir())
-            return QStringLiteral("The templates folder \"%1\" does not exist; name one that does.")
+            return ApplicationTheme::tr(
+                       "The templates folder \"%1\" does not exist; name one that does.")
                 .arg(folder.path);
     }
     const QStringList all = files();
     for (const QString &file : all) {
         const QString fault = problemOfTemplate(file);
         if (!fault.isEmpty())
-            return QStringLiteral("%1; mend it or take it out of the templates folder.").arg(fault);
+            return ApplicationTheme::tr("%1; mend it or take it out of the templates folder.")
+                .arg(fault);
     }
     return {};
 }

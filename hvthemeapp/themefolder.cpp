@@ -3,6 +3,8 @@
 
 #include "themefolder.h"
 
+#include "applicationtheme.h"
+
 #include <format/themepath.h>
 #include <hvtheme/inifile.h>
 
@@ -25,17 +27,17 @@ QString problemOfFile(const QString &path, bool isTheme)
 {
     const QFileInfo info(path);
     if (!info.isFile())
-        return QStringLiteral("\"%1\" is no file").arg(path);
+        return ApplicationTheme::tr("\"%1\" is no file").arg(path);
     if (info.size() > sizeLimit)
-        return QStringLiteral("\"%1\" is larger than 4 MiB").arg(path);
+        return ApplicationTheme::tr("\"%1\" is larger than 4 MiB").arg(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return QStringLiteral("\"%1\" cannot be read").arg(path);
     const QByteArray text = file.readAll();
     if (text.contains('\0'))
-        return QStringLiteral("\"%1\" is no text").arg(path);
+        return ApplicationTheme::tr("\"%1\" is no text").arg(path);
     if (isTheme && !text.contains('='))
-        return QStringLiteral("\"%1\" has no key").arg(path);
+        return ApplicationTheme::tr("\"%1\" has no key").arg(path);
     return {};
 }
 
@@ -77,13 +79,14 @@ QString ThemeFolder::defaultFile() const
 QString ThemeFolder::problem() const
 {
     if (!QFileInfo(m_path).isDir())
-        return QStringLiteral("The themes folder \"%1\" does not exist; name one that does.")
+        return ApplicationTheme::tr("The themes folder \"%1\" does not exist; name one that does.")
             .arg(m_path);
     const QString fault = problemOfFile(defaultFile(), true);
     if (fault.isEmpty())
         return {};
-    return QStringLiteral("%1, and every themes folder needs that file; put what all themes share "
-                          "there.")
+    return ApplicationTheme::tr(
+               "%1, and every themes folder needs that file; put what all themes share "
+               "there.")
         .arg(fault);
 }
 
@@ -94,11 +97,11 @@ QString ThemeFolder::problemOf(const QString &name) const
         return ofFolder;
     // A name is no path: themes of other folders have another default file.
     const bool isName = !name.isEmpty() && QFileInfo(name).fileName() == name;
-    const QString fault =
-        isName ? problemOfFile(file(name), true) : QStringLiteral("\"%1\" is no name").arg(name);
+    const QString fault = isName ? problemOfFile(file(name), true)
+                                 : ApplicationTheme::tr("\"%1\" is no name").arg(name);
     if (fault.isEmpty())
         return {};
-    return QStringLiteral("The theme \"%1\" cannot be read: %2; choose one of: %3.")
+    return ApplicationTheme::tr("The theme \"%1\" cannot be read: %2; choose one of: %3.")
         .arg(name, fault, names().join(QLatin1String(", ")));
 }
 
