@@ -3,9 +3,22 @@
 
 #include <analysis/messagelog.h>
 
+#include <QReadWriteLock>
 #include <QThread>
 
-std::atomic<MessageLog *> MessageLog::s_innermost{nullptr};
+namespace
+{
+
+// Never deleted, for messages may come to the very end.
+QReadWriteLock *chainLock()
+{
+    static auto *lock = new QReadWriteLock(QReadWriteLock::Recursive);
+    return lock;
+}
+
+} // namespace
+
+MessageLog *MessageLog::s_innermost = nullptr;
 
 MessageLog::MessageLog()
     : MessageLog(Listener())
@@ -15,13 +28,15 @@ MessageLog::MessageLog()
 MessageLog::MessageLog(Listener listener)
     : m_listener(std::move(listener))
     , m_thread(QThread::currentThreadId())
-    , m_outer(s_innermost.exchange(this))
-    , m_previous(qInstallMessageHandler(handle))
 {
+    const QWriteLocker locker(chainLock());
+    m_outer = std::exchange(s_innermost, this);
+    m_previous = qInstallMessageHandler(handle);
 }
 
 MessageLog::~MessageLog()
 {
+    const QWriteLocker locker(chainLock());
     qInstallMessageHandler(m_previous);
     s_innermost = m_outer;
 }
@@ -29,6 +44,8 @@ MessageLog::~MessageLog()
 void MessageLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
     const LoggedMessage message{type, QString::fromLatin1(context.function), text};
+    // A log that hears a message stays until it has heard it. Listeners may log in turn.
+    QReadLocker locker(chainLock());
     MessageLog *log = s_innermost;
     while (log) {
         if (log->m_listener) {
@@ -40,7 +57,9 @@ void MessageLog::handle(QtMsgType type, const QMessageLogContext &context, const
         }
         // Somebody else's handler may stand between two logs.
         if (log->m_previous != handle) {
-            log->m_previous(type, context, text);
+            const QtMessageHandler previous = log->m_previous;
+            locker.unlock();
+            previous(type, context, text);
             return;
         }
         log = log->m_outer;

@@ -8,7 +8,6 @@
 #include <QVector>
 #include <QtGlobal>
 
-#include <atomic>
 #include <functional>
 #include <utility>
 
@@ -37,7 +36,8 @@ public:
     /*!
      * \brief Hears all messages of all threads, and passes on what \a listener says.
      *
-     * \param listener  called on the thread that the message comes from.
+     * \param listener  called on the thread that the message comes from, on several at a time perhaps;
+     *        the log's end waits for it. It may log, but neither make nor end a log.
      */
     explicit MessageLog(Listener listener);
 
@@ -51,11 +51,11 @@ public:
 private:
     static void handle(QtMsgType type, const QMessageLogContext &context, const QString &text);
 
-    static std::atomic<MessageLog *> s_innermost;
+    static MessageLog *s_innermost;
     const Listener m_listener;
     const Qt::HANDLE m_thread;
-    MessageLog *const m_outer;
-    const QtMessageHandler m_previous;
+    MessageLog *m_outer = nullptr;
+    QtMessageHandler m_previous = nullptr;
     QVector<LoggedMessage> m_messages;
 };
 

@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include <analysis/messagelog.h>
 
+#include <QSemaphore>
+#include <QThread>
 #include <QtTest>
 
+#include <atomic>
 #include <thread>
 
 // A handler of the program's own stands behind the logs and hears what they do not keep.
@@ -18,6 +21,7 @@ private Q_SLOTS:
     void otherThreadsGoOn();
     void innermostKeeps();
     void listenerDecides();
+    void endWaitsForListeners();
 
 private:
     QtMessageHandler m_before = nullptr;
@@ -103,6 +107,27 @@ void tst_MessageLog::listenerDecides()
     }
     QCOMPARE(heard, QStringList({"goes on", "stays", "elsewhere"}));
     QCOMPARE(passedOn, QStringList({"goes on", "elsewhere"}));
+}
+
+// What a listener refers to mostly goes with the log.
+void tst_MessageLog::endWaitsForListeners()
+{
+    QSemaphore heard;
+    std::atomic_bool isDone{false};
+    std::thread other;
+    {
+        const MessageLog log([&](const LoggedMessage &) {
+            heard.release();
+            QThread::msleep(100);
+            isDone = true;
+            return false;
+        });
+        other = std::thread([] { qWarning("elsewhere"); });
+        heard.acquire();
+    }
+    const bool wasDone = isDone;
+    other.join();
+    QVERIFY(wasDone);
 }
 
 QTEST_APPLESS_MAIN(tst_MessageLog)
