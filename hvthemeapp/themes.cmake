@@ -6,7 +6,10 @@
 
 set(embedded_dir ${CMAKE_CURRENT_BINARY_DIR}/embedded)
 set(collection "<RCC>\n<qresource prefix=\"/hvthemeapp/themes\">\n")
-foreach(theme default dark light contrast)
+set(builtin_themes contrast dark light)
+# For the command, which names them without the library.
+set_property(GLOBAL PROPERTY HVTHEME_BUILTIN_THEMES ${builtin_themes})
+foreach(theme default ${builtin_themes})
     set(source ${PROJECT_SOURCE_DIR}/themes/${theme}.theme)
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
     file(READ ${source} text)

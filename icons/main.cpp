@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <format/place.h>
+#include <format/printabletext.h>
 #include <format/themepath.h>
 #include <format/token.h>
 #include <hvtheme/inifile.h>
@@ -49,7 +50,7 @@ const char usage[] =
 
 bool complain(const QString &what)
 {
-    QTextStream(stderr) << "hvtheme-icons: " << what << '\n';
+    QTextStream(stderr) << "hvtheme-icons: " << printable(what) << '\n';
     return false;
 }
 

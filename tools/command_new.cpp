@@ -134,6 +134,13 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
     return made;
 }
 
+// A copy writes the default file anew, and so over that of the theme that it copies.
+bool holdsSource(const QString &folder, const QString &from)
+{
+    const QString canonical = QFileInfo(folder).canonicalFilePath();
+    return !canonical.isEmpty() && canonical == QFileInfo(from).dir().canonicalPath();
+}
+
 // Returns what is wrong with the usage, or a null text.
 QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, Maker::Order *order,
                   std::optional<QColor> *brand)
@@ -196,6 +203,12 @@ int runNew(const QStringList &arguments)
         ? copiedTheme(parser.value(known.from), order.name, brand, &error)
         : std::optional<Maker::MadeThemes>(Maker::makeThemes(order));
     const QString folder = parser.positionalArguments().constFirst();
+    if (made && parser.isSet(known.from) && holdsSource(folder, parser.value(known.from))) {
+        printError(folder
+                   % QLatin1String(": the theme that --from names is in this folder and would be "
+                                   "written over; name another folder"));
+        return ExitUnusable;
+    }
     if (!made || !Maker::writeThemeFiles(folder, made->files, parser.isSet(known.force), &error)) {
         printError(error);
         return ExitUnusable;

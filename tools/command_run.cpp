@@ -55,13 +55,19 @@ QString mistake(const QCommandLineParser &parser)
         return QStringLiteral("a program is missing");
     if (parser.isSet(QStringLiteral("theme")) && parser.isSet(QStringLiteral("follow")))
         return QStringLiteral("--theme and --follow exclude each other");
-    if (!parser.isSet(QStringLiteral("themes")))
-        return {};
+    const QString theme = parser.value(QStringLiteral("theme"));
+    if (!parser.isSet(QStringLiteral("themes"))) {
+        const QStringList names = QStringLiteral(HVTHEME_BUILTIN_THEMES).split(QLatin1Char(','));
+        if (theme.isEmpty() || names.contains(theme))
+            return {};
+        return QLatin1String("no built-in theme is called \"") % theme
+            % QLatin1String("\"; there are ") % names.join(QLatin1String(", "))
+            % QLatin1String(", or name a folder with --themes");
+    }
     const QDir folder(parser.value(QStringLiteral("themes")));
     if (!folder.exists(themeFileName(defaultThemeName())))
         return folder.path()
             % QLatin1String(": no default.theme here, with which every theme begins");
-    const QString theme = parser.value(QStringLiteral("theme"));
     if (!theme.isEmpty() && !folder.exists(themeFileName(theme)))
         return folder.path() % QLatin1String(": no theme is called \"") % theme % QLatin1Char('"');
     return {};

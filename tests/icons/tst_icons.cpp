@@ -129,6 +129,9 @@ void tst_Icons::unusableInput_data()
     QTest::newRow("no-such-picture")
         << "red"
         << "gone.svg" << QByteArray() << "gone.svg: No such file or directory";
+    QTest::newRow("control-characters")
+        << "red"
+        << "a\x1b[1m.svg" << QByteArray() << "a\\x1b[1m.svg: No such file or directory";
     QTest::newRow("no-such-colour")
         << "red"
         << "pen.svg" << QByteArray("<svg>\n\n global.theme.color.Pen </svg>")

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void refused_data();
     void refused();
     void keepsWhatIsThere();
+    void copyNeverReplacesItsSource();
     void writesAllOrNothing();
 };
 
@@ -217,6 +218,24 @@ void tst_New::keepsWhatIsThere()
     QCOMPARE(CommandRun(arguments + QStringList{"--force"}).exitCode, 0);
     QVERIFY(contentOf(folder.path("default.theme")).contains("Brand_1="));
     QCOMPARE(contentOf(folder.path("night.theme")), QByteArray("[Flags]\nA=1\n"));
+}
+
+void tst_New::copyNeverReplacesItsSource()
+{
+    const QByteArray text("[General]\nThemeName=Mine\n");
+    const TemporaryTheme folder(text);
+    folder.write("night.theme", text);
+    const QString roundabout = folder.path("../" + QFileInfo(folder.path()).fileName() + "/night");
+    for (const QString &source : {folder.path("night"), roundabout}) {
+        const CommandRun run({"new", folder.path(), "--from", source, "--brand", "red", "--force"});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.errors,
+                 "hvtheme: " + folder.path().toUtf8()
+                     + ": the theme that --from names is in this folder and would be written over; "
+                       "name another folder\n");
+    }
+    QCOMPARE(contentOf(folder.path("default.theme")), text);
+    QCOMPARE(contentOf(folder.path("night.theme")), text);
 }
 
 // A limit on the size of files stands for a full disk.

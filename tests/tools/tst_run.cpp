@@ -146,9 +146,8 @@ void tst_Run::specification_data()
     QTest::newRow("nothing") << QStringList() << "hvtheme:program=env";
     QTest::newRow("follow") << QStringList("--follow") << "hvtheme:program=env";
     QTest::newRow("no-lift") << QStringList("--no-lift") << "hvtheme:program=env&lift=no";
-    QTest::newRow("name-with-signs")
-        << QStringList({"--theme", QString::fromUtf8("d,a:r&k \xc3\xa9")})
-        << "hvtheme:program=env&theme=d%2Ca%3Ar%26k%20%C3%A9";
+    QTest::newRow("built-in") << QStringList({"--theme", "dark"})
+                              << "hvtheme:program=env&theme=dark";
 }
 
 void tst_Run::specification()
@@ -247,6 +246,14 @@ void tst_Run::usage_data()
     QTest::newRow("unknown-option") << QStringList({"--fast", "env"}) << "Unknown option 'fast'.";
     QTest::newRow("two-ways") << QStringList({"--theme", "dark", "--follow", "env"})
                               << "--theme and --follow exclude each other";
+    QTest::newRow("no-theme")
+        << QStringList({"--theme", "day", "env"})
+        << "no built-in theme is called \"day\"; there are contrast, dark, light, "
+           "or name a folder with --themes";
+    QTest::newRow("default")
+        << QStringList({"--theme", "default", "env"})
+        << "no built-in theme is called \"default\"; there are contrast, dark, "
+           "light, or name a folder with --themes";
     QTest::newRow("no-folder") << QStringList({"--themes", "/no/such", "env"})
                                << "/no/such: no default.theme here, with which every theme begins";
 }
@@ -266,12 +273,16 @@ void tst_Run::themesFolder()
 {
     const TemporaryTheme themes("[Colors]\n");
     themes.write("night.theme", "[Colors]\n");
-    const QString entry = "hvtheme:program=env&theme=night&themes="
-        + QString::fromLatin1(QUrl::toPercentEncoding(themes.path()));
+    themes.write(QString::fromUtf8("d,a:r&k \xc3\xa9.theme"), "[Colors]\n");
+    const QString folder = QString::fromLatin1(QUrl::toPercentEncoding(themes.path()));
     const QStringList options{"--themes", themes.path(), "--theme"};
-    QCOMPARE(
-        valueSeen(options + QStringList("night"), plainEnvironment(), "QT_QPA_GENERIC_PLUGINS"),
-        entry);
+    const QPair<const char *, const char *> names[] = {
+        {"night", "night"}, {"d,a:r&k \xc3\xa9", "d%2Ca%3Ar%26k%20%C3%A9"}};
+    for (const auto &name : names) {
+        QCOMPARE(valueSeen(options + QStringList(QString::fromUtf8(name.first)), plainEnvironment(),
+                           "QT_QPA_GENERIC_PLUGINS"),
+                 "hvtheme:program=env&theme=" + QString(name.second) + "&themes=" + folder);
+    }
     const Run seen = run(options + QStringList{"day", "env"}, plainEnvironment());
     QCOMPARE(QString::fromLocal8Bit(seen.errors),
              "hvtheme: run: " + themes.path()
