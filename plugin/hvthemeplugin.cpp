@@ -50,13 +50,13 @@ class HVThemePlugin : public QGenericPlugin
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "hvthemeplugin.json")
 
 public:
-    QObject *create(const QString &key, const QString &specification) override;
+    QObject *create(const QString &key, const QString &request) override;
 
 private:
     bool m_isDone = false;
 };
 
-QObject *HVThemePlugin::create(const QString &, const QString &specification)
+QObject *HVThemePlugin::create(const QString &, const QString &request)
 {
     // Qt warns of a plugin that makes nothing, and a program without widgets deserves no warning.
     const auto nothing = [] { return new QObject; };
@@ -65,8 +65,8 @@ QObject *HVThemePlugin::create(const QString &, const QString &specification)
     if (m_isDone || !qobject_cast<QApplication *>(QCoreApplication::instance())
         || hasThemeOfItsOwn())
         return nothing();
-    m_isDone = true; // the first of several specifications counts
-    const QUrlQuery query(specification);
+    m_isDone = true; // the first of several requests counts
+    const QUrlQuery query(request);
     const QStringList names = programNames();
     if (!names.contains(query.queryItemValue(QStringLiteral("program"), QUrl::FullyDecoded))
         && isLeftAlone(names, leaveAloneLines()))

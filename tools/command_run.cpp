@@ -75,7 +75,7 @@ QString mistake(const QCommandLineParser &parser)
 
 // The text for the plugin. Commas separate plugins and Qt reads the list as Latin-1, so all that is
 // neither a letter nor a digit is encoded.
-QByteArray specification(const QCommandLineParser &parser)
+QByteArray pluginRequest(const QCommandLineParser &parser)
 {
     const auto encoded = [](const QString &text) { return QUrl::toPercentEncoding(text); };
     QByteArray text("hvtheme:program=");
@@ -146,6 +146,6 @@ int runProgram(int argc, char **argv)
     addToEnvironment(pluginPathVariable, QFile::encodeName(QDir::cleanPath(folder.path())), ':',
                      false);
     // Of several entries of this plugin the first counts.
-    addToEnvironment(pluginVariable, specification(parser), ',', true);
+    addToEnvironment(pluginVariable, pluginRequest(parser), ',', true);
     return execute(argv + (argc - parser.positionalArguments().size()));
 }

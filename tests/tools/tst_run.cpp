@@ -17,7 +17,7 @@ private Q_SLOTS:
     void environment();
     void restOfTheEnvironment();
     void specification_data();
-    void specification();
+    void pluginRequest();
     void arguments_data();
     void arguments();
     void inputAndOutput();
@@ -150,7 +150,7 @@ void tst_Run::specification_data()
                               << "hvtheme:program=env&theme=dark";
 }
 
-void tst_Run::specification()
+void tst_Run::pluginRequest()
 {
     QFETCH(QStringList, options);
     QFETCH(QString, expected);
