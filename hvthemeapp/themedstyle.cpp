@@ -3,18 +3,26 @@
 
 #include "themedstyle.h"
 
+#include "controldrawing.h"
 #include "iconcolors.h"
 #include "themedicon.h"
 #include "titlebar.h"
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QEvent>
+#include <QListView>
 #include <QMdiArea>
+#include <QMenu>
+#include <QPainter>
 #include <QPointer>
 #include <QSet>
+#include <QSlider>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTimer>
+
+#include <algorithm>
 
 namespace HV
 {
@@ -150,11 +158,54 @@ QSet<QRgb> &formerGrounds()
 // An area takes the brush of the moment when it is made, and no other after it.
 void followPalette(QMdiArea &area)
 {
-    const QBrush ground = area.palette().brush(QPalette::Dark);
+    const QBrush ground = area.palette().brush(QPalette::Button);
     const QBrush own = area.background();
+    formerGrounds().insert(area.palette().color(QPalette::Dark).rgba());
     formerGrounds().insert(ground.color().rgba());
     if (own.style() == Qt::SolidPattern && formerGrounds().contains(own.color().rgba()))
         area.setBackground(ground);
+}
+
+// Null for what the style draws itself.
+const char *drawingOf(QStyle::PrimitiveElement element, const QStyleOption &option)
+{
+    const bool isMirrored = option.direction == Qt::RightToLeft;
+    switch (element) {
+    case QStyle::PE_IndicatorBranch:
+        if (!(option.state & QStyle::State_Children))
+            return nullptr;
+        return option.state & QStyle::State_Open ? "down" : isMirrored ? "left" : "right";
+    case QStyle::PE_IndicatorColumnViewArrow:
+        return isMirrored ? "left" : "right";
+    case QStyle::PE_IndicatorItemViewItemCheck:
+        return option.state & QStyle::State_NoChange ? "checkbox_half"
+            : option.state & QStyle::State_On        ? "checkbox_on"
+                                                     : "checkbox_off";
+    default:
+        return nullptr;
+    }
+}
+
+// There the colour of selected rows lies below the text alone.
+bool showsIconsAbove(const QWidget *widget)
+{
+    const auto *list = qobject_cast<const QListView *>(widget);
+    return list && list->viewMode() == QListView::IconMode;
+}
+
+// Null for what is none, or while no theme is in force.
+const QStyleOptionMenuItem *themedSeparator(const QStyleOption *option)
+{
+    const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    const bool isSeparator = item && item->menuItemType == QStyleOptionMenuItem::Separator;
+    return isSeparator && IconColors::hasValues() ? item : nullptr;
+}
+
+bool hasSeparators(const QMenu &menu)
+{
+    const auto actions = menu.actions();
+    return std::any_of(actions.cbegin(), actions.cend(),
+                       [](const QAction *action) { return action->isSeparator(); });
 }
 
 } // namespace
@@ -193,6 +244,35 @@ void ThemedStyle::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     if (auto *area = qobject_cast<QMdiArea *>(widget))
         followPalette(*area);
+    else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget))
+        widget->installEventFilter(this);
+}
+
+void ThemedStyle::unpolish(QWidget *widget)
+{
+    widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint && IconColors::hasValues()) {
+        auto *slider = qobject_cast<QSlider *>(watched);
+        if (slider && slider->tickPosition() != QSlider::NoTicks) {
+            // A style sheet that draws the groove draws no marks, and asks no style for them.
+            QPainter painter(slider);
+            drawTickMarks(*slider->style(), *slider, painter);
+        }
+        auto *menu = qobject_cast<QMenu *>(watched);
+        if (menu && hasSeparators(*menu)) {
+            // One that draws the items of a menu leaves out the titles of its sections.
+            watched->event(event);
+            QPainter painter(menu);
+            drawMenuSeparators(*menu, painter);
+            return true;
+        }
+    }
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 QIcon ThemedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
@@ -218,10 +298,63 @@ void ThemedStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter *painter, const QWidget *widget) const
 {
     const auto *titleBar = qstyleoption_cast<const QStyleOptionTitleBar *>(option);
+    const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     if (control == CC_TitleBar && titleBar && IconColors::hasValues())
         drawTitleBar(*proxy(), *titleBar, *painter, widget);
+    else if (control == CC_Dial && slider && IconColors::hasValues())
+        drawDial(*slider, *painter);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void ThemedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
+                                QPainter *painter, const QWidget *widget) const
+{
+    const char *name = IconColors::hasValues() ? drawingOf(element, *option) : nullptr;
+    if (!name) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        return;
+    }
+    const int side = qMin(16, qMin(option->rect.width(), option->rect.height()));
+    QRect area(0, 0, side, side);
+    area.moveCenter(option->rect.center());
+    const bool isEnabled = (option->state & State_Enabled) != 0;
+    const bool isSelected = (option->state & State_Selected) != 0 && !showsIconsAbove(widget);
+    themedIcon(QLatin1String(name))
+        .paint(painter, area, Qt::AlignCenter,
+               !isEnabled       ? QIcon::Disabled
+                   : isSelected ? QIcon::Selected
+                                : QIcon::Normal);
+}
+
+void ThemedStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                              const QWidget *widget) const
+{
+    const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (!IconColors::hasValues()) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    } else if (element == CE_ColumnViewGrip) {
+        drawGrip(*option, *painter);
+    } else if (element == CE_ItemViewItem && item && item->state & State_Selected
+               && showsIconsAbove(widget)) {
+        QStyleOptionViewItem plain = *item;
+        plain.icon = QIcon();
+        const QIcon::Mode mode = item->state & State_Enabled ? QIcon::Normal : QIcon::Disabled;
+        plain.icon.addPixmap(
+            item->icon.pixmap(widget->window()->windowHandle(), item->decorationSize, mode),
+            QIcon::Selected);
+        QProxyStyle::drawControl(element, &plain, painter, widget);
+    } else {
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+}
+
+QSize ThemedStyle::sizeFromContents(ContentsType type, const QStyleOption *option,
+                                    const QSize &contents, const QWidget *widget) const
+{
+    const QSize own = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const QStyleOptionMenuItem *separator = type == CT_MenuItem ? themedSeparator(option) : nullptr;
+    return separator ? QSize(own.width(), menuSeparatorHeight(*separator)) : own;
 }
 
 int ThemedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,

@@ -13,7 +13,9 @@ namespace HV
  * \brief One of Qt's styles with the icons of the theme in force in the place of its own.
  *
  * They are those of message boxes, file dialogs, dialog buttons, title bars, line edits and tool bars.
- * Title bars of windows inside windows, for which Qt has fixed colours, take those of the palette. Until a theme is in force the style's own stay.
+ * What style sheets do not reach takes the colours of the palette: title bars and grounds of windows
+ * inside windows, dials, tick marks of sliders, titles in menus, arrows and boxes of items. Until a theme is in force the style's
+ * own stay.
  */
 class ThemedStyle : public QProxyStyle
 {
@@ -29,9 +31,12 @@ public:
     static void install();
 
     using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
     /*! \brief Prepares \a widget; the ground of an area of inner windows, which else stays that of the
      *         palette at its making, becomes that of the palette in force, unless the program chose it. */
     void polish(QWidget *widget) override;
+    void unpolish(QWidget *widget) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption *option = nullptr,
                        const QWidget *widget = nullptr) const override;
@@ -40,6 +45,12 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget = nullptr) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option = nullptr,
                     const QWidget *widget = nullptr) const override;
 

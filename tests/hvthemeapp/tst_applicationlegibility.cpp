@@ -166,7 +166,10 @@ void tst_ApplicationLegibility::placeholder()
 
     HV::ApplicationTheme theme;
     theme.setKeepsFonts(keepsFonts);
-    const std::unique_ptr<QWidget> window(Zoo::pages().at(3).make());
+    const std::unique_ptr<QWidget> window(
+        std::find_if(Zoo::pages().cbegin(), Zoo::pages().cend(), [](const Zoo::Page &page) {
+            return page.name == QLatin1String("line-edits");
+        })->make());
     Zoo::settle(window.get());
     // The look before must leave nothing behind.
     for (const QString &name : {looks.constFirst(), looks.constLast(), look}) {

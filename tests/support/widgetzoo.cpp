@@ -92,6 +92,37 @@ QWidget *pushButtons()
     return window;
 }
 
+/*! Buttons with each property of the built-in templates that changes how one looks. */
+QWidget *templateButtons()
+{
+    const QPair<const char *, const char *> properties[] = {
+        {"style", "general"},           {"style", "assist"},
+        {"style", "transparent"},       {"style", "helper"},
+        {"style", "menuButton"},        {"style", "editButton"},
+        {"style", "floatingTabButton"}, {"style", "floatingTabButtonAssist"},
+        {"imageBtn", "close"},          {"checkStyle", "checked"},
+        {"switchStyle", "general"}};
+    auto *window = new QWidget;
+    auto *form = new QFormLayout(window);
+    for (const auto &property : properties) {
+        const auto make = [&property](const QString &text,
+                                      const std::function<void(QPushButton *)> &change) {
+            return pushed(text, [&](QPushButton *button) {
+                button->setProperty(property.first, property.second);
+                button->setCheckable(true);
+                change(button);
+            });
+        };
+        row(form, property.second,
+            {make("Rest", [](auto *) {}), make("Hovered", [](auto *b) { holdHover(b); }),
+             make("Pressed", [](auto *b) { b->setDown(true); }),
+             make("Checked", [](auto *b) { b->setChecked(true); }),
+             make("Focused", [](auto *b) { holdFocus(b); }),
+             make("Disabled", [](auto *b) { b->setEnabled(false); })});
+    }
+    return window;
+}
+
 QToolButton *tool(const QString &text, const std::function<void(QToolButton *)> &change)
 {
     auto *button = new QToolButton;
@@ -899,6 +930,7 @@ void showDetails(QMessageBox *box)
 const QVector<Page> &pages()
 {
     static const QVector<Page> all{{"push-buttons", pushButtons},
+                                   {"template-buttons", templateButtons},
                                    {"tool-buttons", toolButtons},
                                    {"checks", checks},
                                    {"line-edits", lineEdits},

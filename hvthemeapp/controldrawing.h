@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef HVTHEMEAPP_CONTROLDRAWING_H
+#define HVTHEMEAPP_CONTROLDRAWING_H
+
+class QMenu;
+class QPainter;
+class QSlider;
+class QStyle;
+class QStyleOption;
+class QStyleOptionMenuItem;
+class QStyleOptionSlider;
+
+namespace HV
+{
+
+/*! \brief Draws a dial in the colours of its palette; no style sheet has rules for one. */
+void drawDial(const QStyleOptionSlider &option, QPainter &painter);
+
+/*!
+ * \brief Draws the tick marks of \a slider, which style sheets leave out, in the colours of its palette.
+ *
+ * \param style  places the knob, and so the marks beside it.
+ */
+void drawTickMarks(const QStyle &style, const QSlider &slider, QPainter &painter);
+
+/*!
+ * \brief Draws the lines across \a menu and the titles of the sections below them.
+ *
+ * A line with another height than menuSeparatorHeight() has a rule of its own, and is left alone.
+ */
+void drawMenuSeparators(const QMenu &menu, QPainter &painter);
+
+/*! \brief How high a line across a menu is, with its title. */
+int menuSeparatorHeight(const QStyleOptionMenuItem &option);
+
+/*! \brief Draws what the columns of a view of columns are pulled wider by. */
+void drawGrip(const QStyleOption &option, QPainter &painter);
+
+} // namespace HV
+
+#endif // HVTHEMEAPP_CONTROLDRAWING_H
