@@ -51,7 +51,12 @@ class tst_ApplicationLegibility : public QObject
 private Q_SLOTS:
     void initTestCase() { m_quiet = std::make_unique<QuietPlatform>(); }
     void cleanupTestCase() { m_quiet.reset(); }
-    void cleanup() { qApp->setStyleSheet(QString()); }
+    void cleanup()
+    {
+        qApp->setStyleSheet(QString());
+        QApplication::setFont(m_font);
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
 
     void recorder_data();
     void recorder();
@@ -63,6 +68,7 @@ private Q_SLOTS:
 private:
     QVector<RecordedText> textsOf(const Zoo::Page &page);
     std::unique_ptr<QuietPlatform> m_quiet;
+    const QFont m_font = QApplication::font();
 };
 
 QVector<RecordedText> tst_ApplicationLegibility::textsOf(const Zoo::Page &page)
@@ -121,10 +127,16 @@ void tst_ApplicationLegibility::everyText_data()
 {
     QTest::addColumn<QString>("look");
     QTest::addColumn<bool>("keepsFonts");
+    QTest::addColumn<int>("fontSize");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
 
     for (const QString &look : looks) {
-        QTest::newRow(qUtf8Printable(look)) << look << false;
-        QTest::addRow("%s-keeps-fonts", qUtf8Printable(look)) << look << true;
+        QTest::newRow(qUtf8Printable(look)) << look << false << 0 << Qt::LeftToRight;
+        QTest::addRow("%s-keeps-fonts", qUtf8Printable(look))
+            << look << true << 0 << Qt::LeftToRight;
+        QTest::addRow("%s-24-px", qUtf8Printable(look)) << look << true << 24 << Qt::LeftToRight;
+        QTest::addRow("%s-right-to-left", qUtf8Printable(look))
+            << look << false << 0 << Qt::RightToLeft;
     }
 }
 
@@ -132,7 +144,15 @@ void tst_ApplicationLegibility::everyText()
 {
     QFETCH(QString, look);
     QFETCH(bool, keepsFonts);
+    QFETCH(int, fontSize);
+    QFETCH(Qt::LayoutDirection, direction);
 
+    if (fontSize) {
+        QFont font = m_font;
+        font.setPixelSize(fontSize);
+        QApplication::setFont(font);
+    }
+    QGuiApplication::setLayoutDirection(direction);
     HV::ApplicationTheme theme;
     theme.setKeepsFonts(keepsFonts);
     QVERIFY(theme.setName(look));

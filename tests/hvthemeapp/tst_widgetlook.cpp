@@ -63,6 +63,35 @@ QWidget *range()
     return widget;
 }
 
+template<Qt::Orientation orientation, QSlider::TickPosition position>
+QWidget *ticked()
+{
+    auto *slider = static_cast<QSlider *>(range<orientation, QSlider>());
+    slider->setTickPosition(position);
+    slider->setTickInterval(10);
+    return slider;
+}
+
+template<bool notches>
+QWidget *dial()
+{
+    auto *widget = new QDial;
+    widget->setNotchesVisible(notches);
+    widget->setNotchTarget(10);
+    return widget;
+}
+
+template<bool section>
+QWidget *menuWith()
+{
+    auto *menu = new QMenu;
+    menu->addAction("One");
+    if (section)
+        menu->addSection("Section");
+    menu->addAction("Two");
+    return menu;
+}
+
 QWidget *toolButton()
 {
     auto *button = new QToolButton;
@@ -212,6 +241,11 @@ private Q_SLOTS:
     void sizeHint_data();
     void sizeHint();
     void narrowButton();
+    void drawnByStyle_data();
+    void drawnByStyle();
+    void selectedRow_data();
+    void selectedRow();
+    void ownSeparator();
     void templateProperty_data();
     void templateProperty();
 
@@ -512,6 +546,118 @@ void tst_WidgetLook::sizeHint()
                               .arg(plain.height());
     QVERIFY2(qAbs(themed.width() - plain.width()) <= 0.2 * plain.width(), qUtf8Printable(sizes));
     QVERIFY2(qAbs(themed.height() - plain.height()) <= 0.2 * plain.height(), qUtf8Printable(sizes));
+}
+
+void tst_WidgetLook::drawnByStyle_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("without");
+    QTest::addColumn<Make>("with");
+
+    for (const QString &look : looks) {
+        addRow(look, "ticks") << look << Make(range<Qt::Horizontal, QSlider>)
+                              << Make(ticked<Qt::Horizontal, QSlider::TicksBothSides>);
+        addRow(look, "ticks", "upright") << look << Make(range<Qt::Vertical, QSlider>)
+                                         << Make(ticked<Qt::Vertical, QSlider::TicksLeft>);
+        addRow(look, "notches") << look << Make(dial<false>) << Make(dial<true>);
+        addRow(look, "section") << look << Make(menuWith<false>) << Make(menuWith<true>);
+    }
+}
+
+// What style sheets leave out is there, and stands out from the ground of the control.
+void tst_WidgetLook::drawnByStyle()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, without);
+    QFETCH(Make, with);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto pictureOf = [](const Make &make) {
+        const std::unique_ptr<QWidget> control(make());
+        control->resize(160, 120);
+        control->ensurePolished();
+        QImage picture(control->size(), QImage::Format_RGB32);
+        picture.fill(QApplication::palette().color(QPalette::Window)); // a slider has no ground
+        QPainter(&picture).drawPixmap(0, 0, control->grab());
+        return picture;
+    };
+    const QImage before = pictureOf(without);
+    const QImage after = pictureOf(with);
+    QCOMPARE(before.size(), after.size());
+    const QColor ground = mainColor(before, before.rect());
+    double sign = 1;
+    for (int y = 0; y < after.height(); ++y) {
+        for (int x = 0; x < after.width(); ++x) {
+            if (before.pixel(x, y) != after.pixel(x, y))
+                sign = qMax(sign, ColorMath::contrastRatio(QColor(after.pixel(x, y)), ground));
+        }
+    }
+    QVERIFY2(sign >= 3, qUtf8Printable(QString::number(sign)));
+}
+
+void tst_WidgetLook::selectedRow_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("mirrored");
+
+    for (const QString &look : looks) {
+        addRow(look, "left-to-right") << look << false;
+        addRow(look, "right-to-left") << look << true;
+    }
+}
+
+// The arrow and the empty box of a selected row stand out from its ground, not from that of others.
+void tst_WidgetLook::selectedRow()
+{
+    QFETCH(QString, look);
+    QFETCH(bool, mirrored);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    Stage stage([]() -> QWidget * {
+        auto *tree = new QTreeWidget;
+        auto *item = new QTreeWidgetItem(tree, {"iii"});
+        item->setCheckState(0, Qt::Unchecked);
+        new QTreeWidgetItem(item, {"inner"});
+        tree->setHeaderHidden(true);
+        tree->setMinimumWidth(240);
+        tree->setCurrentItem(item);
+        return tree;
+    });
+    auto *tree = static_cast<QTreeWidget *>(stage.control());
+    tree->setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+    Zoo::settle(tree->window());
+    const QImage picture = tree->viewport()->grab().toImage();
+    const QRect row = tree->visualItemRect(tree->topLevelItem(0));
+    const int indentation = tree->indentation();
+    const QRect arrow(mirrored ? tree->viewport()->width() - indentation : 0, row.y(), indentation,
+                      row.height());
+    const QRect box(mirrored ? row.right() - 18 : row.left() + 3, row.y() + 2, 15,
+                    row.height() - 4);
+    const QColor ground = mainColor(picture, row);
+    for (const QRect &part : {arrow, box}) {
+        const double sign =
+            mostIn(picture, part & picture.rect(), mainColor(picture, part & picture.rect()));
+        QVERIFY2(sign >= 3, qUtf8Printable(QString("%1 on %2").arg(sign).arg(ground.name())));
+    }
+}
+
+// Who gives the lines of menus a rule gets what the rule says.
+void tst_WidgetLook::ownSeparator()
+{
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    qApp->setStyleSheet(qApp->styleSheet()
+                        + "QMenu::separator {height: 3px; background: #ff0000;}");
+    QMenu menu;
+    menu.addAction("One");
+    QAction *line = menu.addSeparator();
+    menu.addAction("Two");
+    menu.ensurePolished();
+    const QRect rect = menu.actionGeometry(line);
+    QCOMPARE(rect.height(), 3);
+    QCOMPARE(menu.grab().toImage().pixelColor(rect.center()), QColor(255, 0, 0));
 }
 
 // Programs keep buttons as narrow as their text, which then must not be cut.

@@ -107,7 +107,9 @@ QWidget *templateButtons()
     for (const auto &property : properties) {
         const auto make = [&property](const QString &text,
                                       const std::function<void(QPushButton *)> &change) {
-            return pushed(text, [&](QPushButton *button) {
+            // The others are pictures.
+            const bool isText = qstrcmp(property.first, "style") == 0;
+            return pushed(isText ? text : QString(), [&](QPushButton *button) {
                 button->setProperty(property.first, property.second);
                 button->setCheckable(true);
                 change(button);
