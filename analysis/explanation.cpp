@@ -26,7 +26,48 @@ QString articleFor(const QString &noun)
 
 using Topic = ExplanationStep::Topic;
 
+ExplanationStep step(Topic topic, const ThemeFile &file, const ThemeFileEntry &entry,
+                     const QString &value)
+{
+    return {topic,
+            {file.path(), entry.keyPosition},
+            QLatin1Char('[') % entry.section() % QLatin1String("] ") % entry.name()
+                % QLatin1Char('=') % value};
+}
+
+ExplanationStep step(Topic topic, const Definition &definition)
+{
+    const QString value =
+        definition.value->isList() ? QStringLiteral("(a list)") : definition.value->text();
+    return step(topic, definition.layer->file, *definition.entry(), value);
+}
+
 } // namespace
+
+QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &definition)
+{
+    QVector<ExplanationStep> steps{step(Topic::Origin, definition)};
+    const QString &text = definition.value->text();
+    const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
+    if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
+        const bool isLate = theme.find(Kind::Palette, text) != nullptr;
+        const QString note = isLate
+            ? QStringLiteral("the palette entry of that name is stored only later, so it is black")
+            : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it is black");
+        steps.append({Topic::Note, {}, note});
+    }
+    if (definition.kind() == Kind::Gradient) {
+        const QString prefix = definition.entry()->key % QLatin1Char('/');
+        for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
+            if (entry.isEffective && entry.key.startsWith(prefix))
+                steps.append(step(Topic::Origin, definition.layer->file, entry,
+                                  QString::fromUtf8(entry.rawValue.trimmed())));
+        }
+    }
+    if (definition.palette >= 0)
+        steps += originSteps(theme, theme.definitions().at(definition.palette));
+    return steps;
+}
 
 Explanation::Explanation(const ThemeProject &input, const ThemeStack &theme, const QString &key)
     : m_input(input)
@@ -50,29 +91,13 @@ void Explanation::add(Topic topic, const QString &text, const Place &place)
     m_steps.append({topic, place, text});
 }
 
-void Explanation::add(Topic topic, const ThemeFile &file, const ThemeFileEntry &entry,
-                      const QString &value)
-{
-    add(topic,
-        QLatin1Char('[') % entry.section() % QLatin1String("] ") % entry.name() % QLatin1Char('=')
-            % value,
-        {file.path(), entry.keyPosition});
-}
-
-void Explanation::add(Topic topic, const Definition &definition)
-{
-    const QString value =
-        definition.value->isList() ? QStringLiteral("(a list)") : definition.value->text();
-    add(topic, definition.layer->file, *definition.entry(), value);
-}
-
 void Explanation::tellValue(const StoredValue &value)
 {
     m_isDefined = true;
     add(Topic::Value,
         m_key % QLatin1String(" is ") % articleFor(nounOf(value.kind())) % QLatin1String(": ")
             % valueText(value.value));
-    tellOrigin(*value.definition);
+    m_steps += originSteps(m_theme, *value.definition);
     if (value.isHidden)
         add(Topic::Note,
             QStringLiteral("hidden from style sheets by a value of another kind, see below"));
@@ -87,31 +112,6 @@ void Explanation::tellUnknown()
     add(Topic::Statement,
         QLatin1String("The theme ") % m_theme.name() % QLatin1String(" has no value called ")
             % m_key % question);
-}
-
-void Explanation::tellOrigin(const Definition &definition)
-{
-    add(Topic::Origin, definition);
-    const QString &text = definition.value->text();
-    const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
-    if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
-        const bool isLate = m_theme.find(Kind::Palette, text) != nullptr;
-        add(Topic::Note,
-            isLate ? QStringLiteral(
-                "the palette entry of that name is stored only later, so it is black")
-                   : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it "
-                                    "is black"));
-    }
-    if (definition.kind() == Kind::Gradient) {
-        const QString prefix = definition.entry()->key % QLatin1Char('/');
-        for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
-            if (entry.isEffective && entry.key.startsWith(prefix))
-                add(Topic::Origin, definition.layer->file, entry,
-                    QString::fromUtf8(entry.rawValue.trimmed()));
-        }
-    }
-    if (definition.palette >= 0)
-        tellOrigin(m_theme.definitions().at(definition.palette));
 }
 
 QString Explanation::reasonOf(const Definition &definition) const
@@ -141,7 +141,7 @@ void Explanation::tellWithoutEffect()
     for (const Definition &definition : m_theme.definitions()) {
         if (definition.key() != m_key || definition.fate == Definition::Fate::Stored)
             continue;
-        add(Topic::Ineffective, definition);
+        m_steps.append(step(Topic::Ineffective, definition));
         add(Topic::Note, reasonOf(definition));
     }
     QVector<const ThemeLayer *> layers{&m_theme.base()};
@@ -152,8 +152,8 @@ void Explanation::tellWithoutEffect()
         for (const ThemeFileEntry &entry : layer->file.entries()) {
             if (entry.name() != m_key || (isRead && entry.isEffective))
                 continue;
-            add(Topic::Ineffective, layer->file, entry,
-                QString::fromUtf8(entry.rawValue.trimmed()));
+            m_steps.append(step(Topic::Ineffective, layer->file, entry,
+                                QString::fromUtf8(entry.rawValue.trimmed())));
             add(Topic::Note,
                 isRead ? QStringLiteral("the key is given again in the same file")
                        : QStringLiteral("the file is never read: the default theme is itself "
@@ -182,7 +182,7 @@ void Explanation::tellUsers()
         if (!isUser(definition))
             continue;
         ++count;
-        add(Topic::Taker, definition);
+        m_steps.append(step(Topic::Taker, definition));
     }
     if (count == 0)
         add(Topic::Statement, QStringLiteral("No colour, palette entry or gradient takes it."));

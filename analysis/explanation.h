@@ -16,13 +16,22 @@ struct ExplanationStep {
         Taker, //!< a definition that takes this palette entry
         Token, //!< a template that uses the key
         Note, //!< something about the step before
-        Statement, //!< a sentence about the key as a whole
+        Statement, //!< a sentence about the whole
+        Rule, //!< a rule of a template; its Declaration steps follow
+        Declaration, //!< one of a rule, with its value
+        Source, //!< a line that the value of a declaration comes from, the nearest first
     };
 
     Topic topic = Topic::Statement;
     Place place; //!< without a file if the step stands nowhere
     QString text; //!< as the files have it, so not made printable
 };
+
+/*!
+ * \brief Returns the lines that the value of \a definition comes from, the nearest first: it and the
+ *        palette entries that it is taken from, as Origin steps with Note steps behind them.
+ */
+QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &definition);
 
 /*! \brief The story of one key of a theme: its value, its definitions and its uses. */
 class Explanation
@@ -38,12 +47,8 @@ public:
 
 private:
     void add(ExplanationStep::Topic topic, const QString &text, const Place &place = {});
-    void add(ExplanationStep::Topic topic, const ThemeFile &file, const ThemeFileEntry &entry,
-             const QString &value);
-    void add(ExplanationStep::Topic topic, const Definition &definition);
     void tellValue(const StoredValue &value);
     void tellUnknown();
-    void tellOrigin(const Definition &definition);
     void tellWithoutEffect();
     void tellUsers();
     void tellTokens();

@@ -23,6 +23,9 @@ QLatin1String headingOf(Topic topic)
     case Topic::Origin:
     case Topic::Note:
     case Topic::Statement:
+    case Topic::Rule:
+    case Topic::Declaration:
+    case Topic::Source:
         break;
     }
     return QLatin1String();
@@ -30,9 +33,22 @@ QLatin1String headingOf(Topic topic)
 
 int indentationOf(Topic topic)
 {
-    if (topic == Topic::Note)
+    switch (topic) {
+    case Topic::Note:
+    case Topic::Source:
         return 4;
-    return topic == Topic::Value || topic == Topic::Statement ? 0 : 2;
+    case Topic::Value:
+    case Topic::Statement:
+    case Topic::Rule:
+        return 0;
+    case Topic::Origin:
+    case Topic::Ineffective:
+    case Topic::Taker:
+    case Topic::Token:
+    case Topic::Declaration:
+        return 2;
+    }
+    return 0;
 }
 
 } // namespace

@@ -54,6 +54,10 @@ void tst_Commands::output_data()
                            "Brand_1",    "TitelColor", "Missing", "Veil",   "Margin"};
     for (const QString &key : keys)
         row(qPrintable("explain-" + key), "explain themes night " + key + templates);
+    row("explain-selector", QString("explain themes night QPushButton:hover") + templates + app);
+    row("explain-no-rule", QString("explain themes night QSlider::handle:hover") + templates);
+    row("explain-color", QString("explain themes night #101820") + templates);
+    row("explain-no-color", QString("explain themes night #80123456") + templates);
     row("explain-never-read", QString("explain themes plain TitleColor") + templates);
 }
 
@@ -74,7 +78,7 @@ void tst_Commands::help_data()
     QTest::newRow("check") << "Usage: hvtheme check [options] FOLDER [THEME...]";
     QTest::newRow("render") << "Usage: hvtheme render [options] FOLDER THEME";
     QTest::newRow("values") << "Usage: hvtheme values [options] FOLDER THEME";
-    QTest::newRow("explain") << "Usage: hvtheme explain [options] FOLDER THEME KEY";
+    QTest::newRow("explain") << "Usage: hvtheme explain [options] FOLDER THEME KEY|SELECTOR|COLOR";
     QTest::newRow("diff") << "Usage: hvtheme diff [options] FOLDER THEME_A THEME_B";
     QTest::newRow("sheet") << "Usage: hvtheme sheet [options] FOLDER THEME...";
 }
@@ -124,6 +128,7 @@ void tst_Commands::wrongUsage_data()
     QTest::newRow("no-theme") << "values themes" << "hvtheme: values: the name of a theme is missing (see hvtheme values --help)\n";
     QTest::newRow("one-theme") << "diff themes night" << "hvtheme: diff: the name of a theme is missing (see hvtheme diff --help)\n";
     QTest::newRow("no-key") << "explain themes night" << "hvtheme: explain: KEY is missing (see hvtheme explain --help)\n";
+    QTest::newRow("no-state") << "explain themes night QLabel:hovr" << "hvtheme: explain: Qt has no state \"hovr\"; did you mean hover? (see hvtheme explain --help)\n";
     QTest::newRow("too-many") << "render themes night day" << "hvtheme: render: one argument too many: day (see hvtheme render --help)\n";
     QTest::newRow("unknown-option") << "values themes night --fast" << "hvtheme: values: Unknown option 'fast'. (see hvtheme values --help)\n";
     QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called xml (see hvtheme values --help)\n";
@@ -155,6 +160,11 @@ void tst_Commands::exitCodes_data()
     QTest::newRow("render") << "render themes night --no-builtin --templates templates" << 0;
     QTest::newRow("explain-defined") << "explain themes night Veil" << 0;
     QTest::newRow("explain-undefined") << "explain themes night Half" << 1;
+    QTest::newRow("explain-rules") << "explain themes night QPushButton" << 0;
+    QTest::newRow("explain-no-rules")
+        << "explain themes night QPushButton --no-builtin --templates templates" << 1;
+    QTest::newRow("explain-color") << "explain themes night #101820" << 0;
+    QTest::newRow("explain-no-color") << "explain themes night #123456" << 1;
     QTest::newRow("diff-same") << "diff themes night night" << 0;
     QTest::newRow("diff-different") << "diff themes default night" << 1;
     QTest::newRow("no-such-theme") << "values themes day" << 2;
