@@ -13,6 +13,9 @@ function(hvtheme_set_defaults target)
         QT_STRICT_ITERATORS QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         -Wnon-virtual-dtor -Woverloaded-virtual -Wsuggest-override $<$<BOOL:${HVTHEME_WERROR}>:-Werror>)
+    if(UNIX AND NOT APPLE) # everything is bound before a program runs, and read-only from then on
+        target_link_options(${target} PRIVATE LINKER:-z,relro LINKER:-z,now)
+    endif()
     if(HVTHEME_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${HVTHEME_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
         target_link_options(${target} PRIVATE -fsanitize=${HVTHEME_SANITIZE})

@@ -47,8 +47,8 @@ int urlPathFault(const QString &path)
     for (int i = 0; i < path.size(); ++i) {
         const QChar character = path.at(i);
         if (character == QLatin1Char('"') || character == QLatin1Char('\'')) {
-            const int end = path.indexOf(character, i + 1);
-            const int escape = path.indexOf(QLatin1Char('\\'), i + 1);
+            const int end = int(path.indexOf(character, i + 1));
+            const int escape = int(path.indexOf(QLatin1Char('\\'), i + 1));
             if (end < 0)
                 return i;
             if (escape >= 0 && escape < end)

@@ -66,8 +66,10 @@ inline bool readLatin1IniFile(QIODevice &device, QSettings::SettingsMap &values)
         return false;
     const QSettings settings(copy.fileName(), QSettings::IniFormat);
     const QStringList keys = settings.allKeys();
-    for (const QString &key : keys)
-        values.insert(key, settings.value(key));
+    for (const QString &key : keys) {
+        if (key.count(u'/') < key.size()) // QSettings warns of keys without a name
+            values.insert(key, settings.value(key));
+    }
     return true;
 }
 

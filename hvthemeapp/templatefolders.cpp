@@ -35,12 +35,12 @@ bool isClosed(const QString &text)
     for (int i = 0; i < text.size(); ++i) {
         const QChar c = text.at(i);
         if (c == u'/' && text.mid(i + 1, 1) == QLatin1String("*")) {
-            i = text.indexOf(QLatin1String("*/"), i + 2);
+            i = int(text.indexOf(QLatin1String("*/"), i + 2));
             if (i < 0)
                 return false;
             ++i;
         } else if (c == u'"' || c == u'\'') {
-            i = text.indexOf(c, i + 1);
+            i = int(text.indexOf(c, i + 1));
             if (i < 0)
                 return false;
         } else if (c == u'{' || c == u'}') {

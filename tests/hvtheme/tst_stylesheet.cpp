@@ -136,7 +136,7 @@ QStringList statements(const QString &text)
         const QRegularExpressionMatch match = matches.next();
         if (match.capturedStart() != end)
             result.append("stray " + text.mid(end, match.capturedStart() - end));
-        end = match.capturedEnd();
+        end = int(match.capturedEnd());
         const QString selector = match.captured("selector").simplified();
         const QString declarations = canonicalDeclarations(match.captured("declarations"));
         result.append(selector.isEmpty() ? Comment : selector + " { " + declarations + "}");
@@ -227,7 +227,7 @@ void tst_Stylesheet::collectionListsTheFiles()
     QXmlStreamReader reader(contentOf(path));
     QStringList listed;
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == "file")
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("file"))
             listed.append(reader.readElementText());
     }
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));

@@ -195,7 +195,7 @@ void tst_WorkableTheming::enumeration()
     QCOMPARE(keys(enumeration), expected);
     for (int i = 0; i < enumeration.keyCount(); ++i)
         QCOMPARE(enumeration.value(i), i);
-    QVERIFY(!enumeration.key(expected.size()));
+    QVERIFY(!enumeration.key(int(expected.size())));
 }
 
 void tst_WorkableTheming::enumerationsAreInOrder()

@@ -424,9 +424,9 @@ void tst_ApplicationTheme::liveReload()
     theme.setLiveReload(true);
     for (const char *color : {"#102030", "#405060"}) {
         QSignalSpy changes(&theme, &ApplicationTheme::changed);
-        const QByteArray text =
-            fileText(":/hvthemeapp/themes/dark.theme")
-                .replace("BackgroundColor_2=Bg_2", QByteArray("BackgroundColor_2=") + color);
+        const QByteArray text = fileText(":/hvthemeapp/themes/dark.theme")
+                                    .replace("BackgroundColor_2=Bg_2",
+                                             QByteArray(QByteArray("BackgroundColor_2=") + color));
         folder.write(isReplaced ? "new" : "night.theme", text);
         if (isReplaced)
             QVERIFY(rename(qPrintable(folder.filePath("new")),

@@ -4,7 +4,7 @@
 #ifndef HVTHEME_TESTS_QTVERSION_H
 #define HVTHEME_TESTS_QTVERSION_H
 
-#include <QtGlobal>
+#include <QString>
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QTextCodec>
@@ -21,6 +21,18 @@ constexpr bool isQt6 = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
 
 /*! The 8-bit encoding of the locale, as which the texts of some messages pass, is always UTF-8. */
 constexpr bool localeIsAlwaysUtf8 = isQt6;
+
+/*! Of how many pointers a QString consists. */
+constexpr int pointersOfText = isQt6 ? 3 : 1;
+
+/*! What Qt logs when an invalid regular expression is used; Qt 6 tells the pattern too. */
+inline QString badExpression(const QString &pattern)
+{
+    const QString text =
+        QStringLiteral("QRegularExpressionPrivate::doMatch(): called on an invalid "
+                       "QRegularExpression object");
+    return isQt6 ? QString(text + QStringLiteral(" (pattern is '%1')").arg(pattern)) : text;
+}
 
 /*! Makes Latin-1 the encoding of the locale, or what it was; does nothing where it cannot change. */
 inline void setLatin1Locale(bool isLatin1)
