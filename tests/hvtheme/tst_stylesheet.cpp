@@ -227,7 +227,8 @@ void tst_Stylesheet::collectionListsTheFiles()
     QXmlStreamReader reader(contentOf(path));
     QStringList listed;
     while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("file"))
+        if (reader.readNext() == QXmlStreamReader::StartElement
+            && reader.name() == QLatin1String("file"))
             listed.append(reader.readElementText());
     }
     QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
