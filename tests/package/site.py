@@ -114,14 +114,6 @@ def unreachable(pages, site):
     return sorted(str(path.relative_to(site)) for path in set(pages) - seen)
 
 
-def check_list(source):
-    """The list of pages, which readers of the files have, is whole."""
-    text = (source / "docs/README.md").read_text()
-    expect("(docs/README.md)" in (source / "README.md").read_text(), "README.md does not lead to docs/README.md")
-    missing = [path.name for path in sorted((source / "docs").glob("*.md")) if path.name != "README.md" and f"({path.name})" not in text]
-    expect(not missing, f"docs/README.md does not list {missing}")
-
-
 def check_index(site, pages):
     """What the search leads to exists."""
     addresses = re.findall(r'^(?:const searchIndex = \[)?\["(?:[^"\\]|\\.)*","(?:[^"\\]|\\.)*","([^"]*)"', (site / "index.js").read_text(), re.MULTILINE)
@@ -200,7 +192,6 @@ def main(arguments):
         problems += [f"{path.relative_to(site)} loads from elsewhere" for path in site.glob("*.*s")
                      if re.search(r"@import|url\(|fetch\(|XMLHttpRequest|https?://", path.read_text()) and path.name != "index.js"]
         expect(not problems, "\n".join(problems))
-        check_list(pathlib.Path(source))
         check_index(site, pages)
         check_vocabulary(site, pathlib.Path(source))
         check_contrast(site)
