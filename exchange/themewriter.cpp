@@ -3,6 +3,7 @@
 
 #include <exchange/themewriter.h>
 
+#include <format/themepath.h>
 #include <hvtheme/inifile.h>
 
 #include <QFile>
@@ -108,7 +109,7 @@ std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QSt
         return std::nullopt;
     }
     return Maker::MadeThemes{
-        {{QStringLiteral("default.theme"), *base}, {name % QLatin1String(".theme"), *own}}, {}};
+        {{themeFileName(defaultThemeName()), *base}, {themeFileName(name), *own}}, {}};
 }
 
 } // namespace Exchange

@@ -5,6 +5,8 @@
 
 #include "iconcolors.h"
 
+#include <format/token.h>
+
 #include <QBuffer>
 #include <QImageReader>
 #include <QRegularExpression>
@@ -17,6 +19,14 @@ namespace HV
 
 namespace
 {
+
+// A token of any prefix, with the key of its colour captured.
+QString colorTokenPattern()
+{
+    return QLatin1String("\\w+")
+        + QRegularExpression::escape(Tokens::opening(QString(), Kind::Color))
+        + QLatin1String("(\\w+)");
+}
 
 const int maximumBytes = 1 << 20;
 const int maximumDepth = 100;
@@ -198,8 +208,7 @@ void Tinter::characters()
 
 void Tinter::attribute(const QXmlStreamAttribute &attribute, QXmlStreamAttributes &attributes)
 {
-    static const QRegularExpression whole(
-        QStringLiteral("^\\s*\\w+\\.theme\\.color\\.(\\w+)\\s*$"));
+    static const QRegularExpression whole(QStringLiteral("^\\s*%1\\s*$").arg(colorTokenPattern()));
     const QString name = attribute.name().toString();
     const QString value = attribute.value().toString();
     if (isReference(attribute)) {
@@ -268,7 +277,7 @@ void Tinter::checkWork()
 QString Tinter::tinted(const QString &text)
 {
     static const QRegularExpression token(
-        QStringLiteral("(?:([\\w-]+)(\\s*:\\s*))?\\b\\w+\\.theme\\.color\\.(\\w+)"));
+        QStringLiteral("(?:([\\w-]+)(\\s*:\\s*))?\\b%1").arg(colorTokenPattern()));
     QString result;
     int end = 0;
     for (auto matches = token.globalMatch(text); matches.hasNext();) {

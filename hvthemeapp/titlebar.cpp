@@ -63,6 +63,26 @@ void drawIcon(QPainter &painter, const QIcon &icon, const QRect &area, bool isAc
     icon.paint(&painter, target, Qt::AlignCenter, isActive ? QIcon::Normal : QIcon::Disabled);
 }
 
+void drawButtons(const QStyle &style, const QStyleOptionTitleBar &option, QPainter &painter,
+                 const QWidget *widget, const QColor &ink)
+{
+    const bool isActive = (option.titleBarState & QStyle::State_Active) != 0;
+    for (const Button &button : buttons) {
+        if (!isShown(button, option))
+            continue;
+        const QRect area = style.subControlRect(QStyle::CC_TitleBar, &option, button.part, widget);
+        if (!area.isValid())
+            continue;
+        if (option.activeSubControls & button.part
+            && option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) {
+            QColor veil = ink;
+            veil.setAlphaF(option.state & QStyle::State_Sunken ? 0.25F : 0.12F);
+            painter.fillRect(area, veil);
+        }
+        drawIcon(painter, style.standardIcon(button.icon, &option, widget), area, isActive);
+    }
+}
+
 } // namespace
 
 void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPainter &painter,
@@ -98,20 +118,7 @@ void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPain
             style.subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarSysMenu, widget),
             isActive);
     }
-    for (const Button &button : buttons) {
-        if (!isShown(button, option))
-            continue;
-        const QRect area = style.subControlRect(QStyle::CC_TitleBar, &option, button.part, widget);
-        if (!area.isValid())
-            continue;
-        if (option.activeSubControls & button.part
-            && option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) {
-            QColor veil = ink;
-            veil.setAlphaF(option.state & QStyle::State_Sunken ? 0.25F : 0.12F);
-            painter.fillRect(area, veil);
-        }
-        drawIcon(painter, style.standardIcon(button.icon, &option, widget), area, isActive);
-    }
+    drawButtons(style, option, painter, widget, ink);
     painter.restore();
 }
 

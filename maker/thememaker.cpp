@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <colormath/oklch.h>
+#include <format/themepath.h>
 #include <maker/lookcolors.h>
 #include <maker/thememaker.h>
 #include <maker/themetext.h>
@@ -31,7 +32,7 @@ const QString generalSection = QStringLiteral("General");
 QByteArray sample(const QString &name)
 {
     initSamples();
-    QFile file(QLatin1String(":/maker/") % name % QLatin1String(".theme"));
+    QFile file(themeFilePath(QStringLiteral(":/maker"), name));
     const bool isOpen = file.open(QIODevice::ReadOnly);
     Q_ASSERT(isOpen);
     Q_UNUSED(isOpen)
@@ -88,7 +89,7 @@ MadeFile defaultFile(const Order &order, const QVector<PaletteEntry> &palette)
         content.replace(QByteArray('"' + lookName(look).toLatin1() + '"'),
                         QByteArray('"' + own + '"'));
     }
-    return {QStringLiteral("default.theme"), content};
+    return {themeFileName(defaultThemeName()), content};
 }
 
 MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &palette,
@@ -105,7 +106,7 @@ MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &pa
                       withCapital(order.name) % QLatin1Char(' ') % lookName(look));
     QByteArray content = text.text();
     content.replace(", 85 images and its flags", " and its flags");
-    return {fileBaseName(order.name, look) % QLatin1String(".theme"), content};
+    return {themeFileName(fileBaseName(order.name, look)), content};
 }
 
 } // namespace

@@ -87,6 +87,20 @@ std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens, 
     return std::nullopt;
 }
 
+std::optional<Maker::MadeThemes> themesOfFile(const QString &path, const QString &name,
+                                              QString *error)
+{
+    const auto input = InputFile::read(path, largestFile, error);
+    if (!input)
+        return std::nullopt;
+    std::optional<Maker::MadeThemes> made;
+    if (const auto tokens = Exchange::readDesignTokens(input->content(), error))
+        made = themesOf(*tokens, name, error);
+    if (!made)
+        *error = path % QLatin1String(": ") % *error;
+    return made;
+}
+
 } // namespace
 
 int runImport(const QStringList &arguments)
@@ -120,15 +134,7 @@ int runImport(const QStringList &arguments)
                               % QLatin1String("\" cannot name files"));
 
     QString error;
-    const auto input = InputFile::read(positional.at(0), largestFile, &error);
-    std::optional<Maker::MadeThemes> made;
-    if (input) {
-        const auto tokens = Exchange::readDesignTokens(input->content(), &error);
-        if (tokens)
-            made = themesOf(*tokens, name, &error);
-        if (!made)
-            error = positional.at(0) % QLatin1String(": ") % error;
-    }
+    const auto made = themesOfFile(positional.at(0), name, &error);
     if (!made
         || !Maker::writeThemeFiles(positional.at(1), made->files, parser.isSet(forceOption),
                                    &error)) {
