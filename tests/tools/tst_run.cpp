@@ -16,7 +16,7 @@ private Q_SLOTS:
     void environment_data();
     void environment();
     void restOfTheEnvironment();
-    void specification_data();
+    void pluginRequest_data();
     void pluginRequest();
     void arguments_data();
     void arguments();
@@ -138,7 +138,7 @@ void tst_Run::restOfTheEnvironment()
     QCOMPARE(seen, expected);
 }
 
-void tst_Run::specification_data()
+void tst_Run::pluginRequest_data()
 {
     QTest::addColumn<QStringList>("options");
     QTest::addColumn<QString>("expected");
