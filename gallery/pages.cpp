@@ -5,6 +5,7 @@
 #include "applicationpage.h"
 #include "colorspage.h"
 #include "makerpage.h"
+#include "plainpage.h"
 #include "specimenpage.h"
 #include "specimentable.h"
 
@@ -24,6 +25,8 @@ QVector<Page> pages()
 {
     return {
         {"application", "Application"},
+        {"plain", "Plain widgets"},
+        {"dialogs", "Dialogs"},
         {"buttons", "Buttons"},
         {"image-buttons", "Image buttons"},
         {"inputs", "Inputs"},
@@ -85,6 +88,10 @@ QWidget *createPage(const QString &name, HV::Theme &theme)
     QWidget *page = nullptr;
     if (name == QLatin1String("application"))
         page = createApplicationPage();
+    else if (name == QLatin1String("plain"))
+        page = createPlainPage();
+    else if (name == QLatin1String("dialogs"))
+        page = createDialogsPage();
     else if (name == QLatin1String("colours"))
         page = createColorsPage(theme);
     else if (!specimenSections(name).isEmpty())

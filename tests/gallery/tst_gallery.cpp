@@ -354,7 +354,7 @@ void tst_Gallery::options_data()
     // clang-format off
     QTest::newRow("none") << QStringList() << "";
     QTest::newRow("unknown-option") << QStringList{"--colour"} << "Unknown option 'colour'.";
-    QTest::newRow("unknown-page") << QStringList{"--page", "knobs"} << "No page named \"knobs\".*application, buttons";
+    QTest::newRow("unknown-page") << QStringList{"--page", "knobs"} << "No page named \"knobs\".*application, plain";
     QTest::newRow("form-page-without-form") << QStringList{"--page", "form"} << "No page named \"form\"";
     QTest::newRow("form-page") << QStringList{"--page", "form", "--ui", "a.ui"} << "";
     QTest::newRow("scale-too-large") << QStringList{"--scale", "9"} << "--scale takes a number from 1 to 4";
