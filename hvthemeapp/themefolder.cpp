@@ -5,7 +5,9 @@
 
 #include "applicationtheme.h"
 
+#include <format/kind.h>
 #include <format/themepath.h>
+#include <format/token.h>
 #include <hvtheme/inifile.h>
 
 #include <QCoreApplication>
@@ -38,6 +40,26 @@ QString problemOfFile(const QString &path, bool isTheme)
         return ApplicationTheme::tr("\"%1\" is no text").arg(path);
     if (isTheme && !text.contains('='))
         return ApplicationTheme::tr("\"%1\" has no key").arg(path);
+    return {};
+}
+
+// Qt reads the images of a style sheet by itself and would wait for a pipe; the library looks for tokens
+// in the paths that it has put in, and one that holds an image's token may come back for ever.
+QString problemOfImages(const QString &themeFile)
+{
+    QSettings settings(themeFile, iniFormat(themeFile));
+    settings.beginGroup(sectionName(Kind::ImageFile));
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        const QString path =
+            imageFilePath(QCoreApplication::applicationDirPath(), settings.value(key).toString());
+        if (path.contains(Tokens::opening(QString(), Kind::ImageFile)))
+            return ApplicationTheme::tr("the path of its image \"%1\" holds the token of an image")
+                .arg(key);
+        const QFileInfo info(path);
+        if (info.exists() && !info.isFile() && !info.isDir())
+            return ApplicationTheme::tr("its image \"%1\" is no file").arg(key);
+    }
     return {};
 }
 
@@ -97,8 +119,12 @@ QString ThemeFolder::problemOf(const QString &name) const
         return ofFolder;
     // A name is no path: themes of other folders have another default file.
     const bool isName = !name.isEmpty() && QFileInfo(name).fileName() == name;
-    const QString fault = isName ? problemOfFile(file(name), true)
-                                 : ApplicationTheme::tr("\"%1\" is no name").arg(name);
+    QString fault = isName ? problemOfFile(file(name), true)
+                           : ApplicationTheme::tr("\"%1\" is no name").arg(name);
+    for (const QString &path : {defaultFile(), file(name)}) {
+        if (fault.isEmpty())
+            fault = problemOfImages(path);
+    }
     if (fault.isEmpty())
         return {};
     return ApplicationTheme::tr("The theme \"%1\" cannot be read: %2; choose one of: %3.")

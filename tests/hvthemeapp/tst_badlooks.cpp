@@ -94,6 +94,8 @@ private Q_SLOTS:
     void cleanup();
     void damagedTheme_data();
     void damagedTheme();
+    void badImages_data();
+    void badImages();
     void damagedTemplates_data();
     void damagedTemplates();
     void missingFolders();
@@ -194,6 +196,43 @@ void tst_BadLooks::damagedTheme()
                        ".");
     QCOMPARE(m_theme->name(), "dark");
     QCOMPARE(m_theme->theme()->displayName(), "Dark");
+}
+
+void tst_BadLooks::badImages_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("image");
+    QTest::addColumn<QString>("fault");
+
+    for (const char *file : {"default", "night"}) {
+        QTest::addRow("%s-own-token", file)
+            << file << "x/global.theme.image.up"
+            << "the path of its image \"up\" holds the token of an image";
+        QTest::addRow("%s-pipe", file) << file << "PIPE"
+                                       << "its image \"up\" is no file";
+    }
+}
+
+// Neither would come to an end.
+void tst_BadLooks::badImages()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, image);
+    QFETCH(QString, fault);
+    TemporaryFolder folder;
+    damage(folder, "pipe", "pipe");
+    image.replace(
+        "PIPE",
+        QDir(QCoreApplication::applicationDirPath()).relativeFilePath(folder.filePath("pipe")));
+    folder.write("default.theme", sample("default"));
+    folder.write("night.theme", sample("dark"));
+    folder.write(file + ".theme",
+                 QByteArray(sample(file == "default" ? file : "dark"))
+                     + "\n[ImageFiles]\nup=" + image.toUtf8() + "\n");
+    QVERIFY(m_theme->setFolder(folder.path()));
+    QVERIFY(!m_theme->setName("night"));
+    compareProblem(*m_theme,
+                   "The theme \"night\" cannot be read: " + fault + "; choose one of: night", ".");
 }
 
 void tst_BadLooks::damagedTemplates_data()
