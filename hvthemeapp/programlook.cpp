@@ -6,6 +6,7 @@
 #include "calendarweekends.h"
 #include "iconcolors.h"
 #include "placeholders.h"
+#include "themedstyle.h"
 
 #include <colormath/oklch.h>
 #include <hvtheme/restyling.h>
@@ -136,6 +137,7 @@ void setProgramLook(const QPalette &palette, const QVariantMap &values, const QS
         QToolTip::setPalette(palette);
         IconColors::setValues(values);
     });
+    ThemedStyle::keepName();
     renewKeptColors(before, palette);
 }
 

@@ -231,12 +231,22 @@ void ThemedStyle::install()
     // A program may choose another of Qt's styles at any time, an option of its command line as well.
     connect(installed, &QObject::destroyed, qApp, [] {
         if (!QCoreApplication::closingDown())
-            QTimer::singleShot(0, qApp, &ThemedStyle::install);
+            QTimer::singleShot(0, qApp, [] {
+                install();
+                keepName();
+            });
     });
     QApplication::setStyle(installed);
     // One that was chosen before there was an application belongs to nobody.
     if (former && !former->parent())
         former->setParent(qApp);
+}
+
+void ThemedStyle::keepName()
+{
+    QStyle *style = QApplication::style();
+    if (style->objectName().isEmpty())
+        style->setObjectName(plainStyle()->objectName());
 }
 
 void ThemedStyle::polish(QWidget *widget)

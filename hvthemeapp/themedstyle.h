@@ -30,6 +30,13 @@ public:
      */
     static void install();
 
+    /*!
+     * \brief Gives the application's style the name of the one behind it, if it has none.
+     *
+     * Qt's style for style sheets has none, and programs make styles of the name that they find.
+     */
+    static void keepName();
+
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;
     /*! \brief Prepares \a widget; the ground of an area of inner windows, which else stays that of the

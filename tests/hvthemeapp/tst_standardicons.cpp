@@ -217,6 +217,8 @@ void tst_StandardIcons::innerWindowsArea()
 // Programs and Qt tell styles apart by this name.
 void tst_StandardIcons::styleKeepsItsName()
 {
+    QVERIFY(m_theme.setName("dark"));
+    QCOMPARE(QApplication::style()->objectName(), QString("fusion"));
     qApp->setStyleSheet(QString());
     QCOMPARE(QApplication::style()->objectName(), QString("fusion"));
 }
