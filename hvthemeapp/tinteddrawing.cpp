@@ -7,6 +7,7 @@
 #include "tintedsvg.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QMutex>
 #include <QMutexLocker>
@@ -43,7 +44,10 @@ void load(QSvgRenderer &renderer, const QString &path, QIcon::Mode mode)
 {
     TintedSvg svg;
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) // a pipe would be waited for
+        svg.error = QStringLiteral("it is no file");
+    else if (file.open(QIODevice::ReadOnly))
         svg = tintedSvg(file.read((1 << 20) + 1), mode); // one byte more than is allowed tells
     else
         svg.error = file.errorString();

@@ -112,6 +112,7 @@ private Q_SLOTS:
     void repeatedUseTakesNoTime();
     void tooMuchWork_data();
     void tooMuchWork();
+    void pipe();
     void hugeDeclaredSize();
     void changedFile();
     void byPath();
@@ -544,6 +545,16 @@ void tst_ThemedIcon::repeatedUseTakesNoTime()
     timer.start();
     QVERIFY(!isEmpty(themedIcon(path).pixmap(20, 20)));
     QVERIFY(timer.elapsed() < 1000);
+}
+
+// Nobody waits for what is written to it.
+void tst_ThemedIcon::pipe()
+{
+    const QString path = m_folder.filePath("pipe.svg");
+    QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+    QTest::ignoreMessage(QtWarningMsg,
+                         qPrintable('"' + path + "\" is not drawn as an icon: it is no file"));
+    QVERIFY(!isEmpty(themedIcon(path).pixmap(20, 20))); // the dashed square
 }
 
 void tst_ThemedIcon::hugeDeclaredSize()
