@@ -101,7 +101,7 @@ bool ApplicationTheme::apply(const QString &folder, const QString &name)
         return true;
     }
 
-    const QStringList derived = readTheme(*d->theme, themes, name, d->accent);
+    const QStringList derived = readTheme(*d->theme, themes, name, d->accent, d->unsavedTexts);
     const QString lacks = derived.isEmpty()
         ? QString()
         : QStringLiteral("The theme \"%1\" lacks %2 of the colours that a look is made of (%3); "

@@ -180,6 +180,17 @@ bool ApplicationTheme::setAccent(const QColor &accent)
     return isApplied;
 }
 
+bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
+{
+    QHash<QString, QByteArray> byPath;
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it)
+        byPath.insert(QFileInfo(it.key()).absoluteFilePath(), it.value());
+    if (byPath == d->unsavedTexts)
+        return true;
+    d->unsavedTexts = byPath;
+    return d->name.isNull() || apply(d->nameFolder, d->name);
+}
+
 bool ApplicationTheme::followsAccent() const
 {
     return d->followsAccent;

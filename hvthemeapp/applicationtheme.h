@@ -7,6 +7,7 @@
 #include <hvthemeapp/hvthemeapp_export.h>
 
 #include <QColor>
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 
@@ -183,6 +184,17 @@ public:
      */
     bool isLiveReload() const;
     void setLiveReload(bool reload);
+
+    /*!
+     * \brief Shows theme files as an editor has them: the look is what it will be once they are saved.
+     *
+     * Nothing is written. Files keep these texts in every look until the next call.
+     *
+     * \param texts  by path, which may be one in the program's resources; files that are not named, all
+     *               of them if it is empty, have their own text. What it names must be there.
+     * \return whether the look is in force; if not there is a problem().
+     */
+    bool setUnsavedTexts(const QHash<QString, QByteArray> &texts);
 
     /*! \brief Returns the theme in force, empty before the first look; never null, and always the
      *         same object. */

@@ -49,6 +49,7 @@ public:
     QString name; // of the look in force,
     QString nameFolder; // which comes from here
     QColor accent; // invalid for the brand of the theme itself
+    QHash<QString, QByteArray> unsavedTexts; // by absolute path
     bool followsAccent = false;
     TemplateFolders templates;
     bool keepsFonts = false;

@@ -157,24 +157,29 @@ private:
     std::optional<QSettings> m_second;
 };
 
-QByteArray contentOf(const QString &path)
+QByteArray contentOf(const QString &path, const QHash<QString, QByteArray> &contents)
 {
+    const auto unsaved = contents.constFind(path);
+    if (unsaved != contents.cend())
+        return *unsaved;
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// A theme takes values from files only, so those of another brand go through files as well.
-class RebrandedFiles
+// A theme takes values from files only, so texts that stand in none go through files as well.
+class OtherFiles
 {
 public:
-    RebrandedFiles(const ThemeFolder &folder, const QString &name, const QColor &accent)
+    OtherFiles(const ThemeFolder &folder, const QString &name, const QColor &accent,
+               const QHash<QString, QByteArray> &contents)
     {
         const bool isDefault = folder.file(name) == folder.defaultFile();
-        const Maker::ThemeTexts texts{contentOf(folder.defaultFile()),
-                                      isDefault ? QByteArray() : contentOf(folder.file(name))};
+        Maker::ThemeTexts texts{contentOf(folder.defaultFile(), contents),
+                                isDefault ? QByteArray() : contentOf(folder.file(name), contents)};
         QStringList notes; // what cannot be had is a tone that comes near
-        const Maker::ThemeTexts rebranded = Maker::withBrand(texts, accent, &notes);
-        m_isWritten = write(&m_first, rebranded.base) && write(&m_second, rebranded.own);
+        if (accent.isValid())
+            texts = Maker::withBrand(texts, accent, &notes);
+        m_isWritten = write(&m_first, texts.base) && write(&m_second, texts.own);
     }
 
     QString first() const { return m_isWritten ? m_first.fileName() : QString(); }
@@ -198,11 +203,11 @@ private:
 } // namespace
 
 QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
-                      const QColor &accent)
+                      const QColor &accent, const QHash<QString, QByteArray> &contents)
 {
-    if (!accent.isValid())
+    if (!accent.isValid() && contents.isEmpty())
         return Reading(theme, folder, name, QString(), QString()).run();
-    const RebrandedFiles files(folder, name, accent);
+    const OtherFiles files(folder, name, accent, contents);
     return Reading(theme, folder, name, files.first(), files.second()).run();
 }
 

@@ -5,6 +5,7 @@
 #define HVTHEMEAPP_THEMEREADING_H
 
 #include <QColor>
+#include <QHash>
 #include <QStringList>
 
 namespace HV
@@ -26,12 +27,15 @@ class ThemeFolder;
  * \param accent  if valid, takes the place of the theme's brand: its tones are derived anew, and the
  *                colours that call for it, see ApplicationTheme::setAccent().
  *
+ * \param contents  by path: what stands in place of files' own texts.
+ *
  * \return the colours that had to be derived, sorted.
  *
  * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
  */
 QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
-                      const QColor &accent = QColor());
+                      const QColor &accent = QColor(),
+                      const QHash<QString, QByteArray> &contents = {});
 
 } // namespace HV
 
