@@ -71,6 +71,13 @@ QByteArray madeFrom(const Order &order)
 {
     QString options = QLatin1String("--brand ") % hexadecimal(order.parameters.brand)
         % QLatin1String(" --neutral ") % neutralText(order.parameters.neutral);
+    const Parameters usual;
+    const auto add = [&options](const char *option, double value, double usualValue) {
+        if (!qFuzzyCompare(value, usualValue))
+            options += QLatin1String(option) % QString::number(value);
+    };
+    add(" --text-contrast ", order.parameters.textContrast, usual.textContrast);
+    add(" --depth ", order.parameters.surfaceStep, usual.surfaceStep);
     if (!order.name.isEmpty())
         options += QLatin1String(" --name \"") % order.name % QLatin1Char('"');
     return options.toLatin1();

@@ -31,6 +31,11 @@ struct KnownOptions {
     const QCommandLineOption neutral{
         "neutral", "What tinges the surfaces: cool, warm or a colour (default: cool).", "tinge",
         "cool"};
+    const QCommandLineOption textContrast{
+        "text-contrast", "Least contrast of text in dark and light, 4.5 to 10 (default: 4.5).",
+        "ratio", "4.5"};
+    const QCommandLineOption depth{
+        "depth", "Lightness between neighbouring dark surfaces, 1 to 4 (default: 3).", "step", "3"};
     const QCommandLineOption looks{
         "looks", "Which of dark, light and contrast to make, with commas (default: all).", "names",
         "dark,light,contrast"};
@@ -69,6 +74,20 @@ bool readNeutral(const QString &text, Maker::Neutral *neutral, QString *mistake)
     else
         return false;
     return true;
+}
+
+bool readNumber(const QCommandLineParser &parser, const QCommandLineOption &option, double least,
+                double most, double *number, QString *mistake)
+{
+    bool isNumber = false;
+    const QString text = parser.value(option);
+    *number = text.toDouble(&isNumber);
+    if (isNumber && *number >= least && *number <= most) // which no NaN is
+        return true;
+    *mistake =
+        QStringLiteral("--%1: \"%2\" is no number from %3 to %4")
+            .arg(option.names().constFirst(), text, QString::number(least), QString::number(most));
+    return false;
 }
 
 bool readLooks(const QString &text, QVector<Maker::Look> *looks, QString *mistake)
@@ -155,8 +174,12 @@ QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, M
         return QStringLiteral("FOLDER is empty");
     if (!parser.isSet(known.brand) && !isCopy)
         return QStringLiteral("--brand is missing: the colour that the themes are made of");
-    if (isCopy && (parser.isSet(known.neutral) || parser.isSet(known.looks)))
-        return QStringLiteral("--neutral and --looks make a theme anew and do not go with --from");
+    const bool isNew = parser.isSet(known.neutral) || parser.isSet(known.looks)
+        || parser.isSet(known.textContrast) || parser.isSet(known.depth);
+    if (isCopy && isNew)
+        return QStringLiteral(
+            "--neutral, --looks, --text-contrast and --depth make a theme anew and "
+            "do not go with --from");
     if (parser.isSet(known.brand)) {
         *brand = opaqueColor(QStringLiteral("brand"), parser.value(known.brand), &mistake);
         if (!*brand)
@@ -169,7 +192,10 @@ QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, M
         return QLatin1String("--name: \"") % order->name
             % QLatin1String("\" cannot name files; take letters, digits, \"-\", \"_\" and single "
                             "spaces, and not \"default\"");
-    if (readNeutral(parser.value(known.neutral), &order->parameters.neutral, &mistake))
+    Maker::Parameters &parameters = order->parameters;
+    if (readNeutral(parser.value(known.neutral), &parameters.neutral, &mistake)
+        && readNumber(parser, known.textContrast, 4.5, 10, &parameters.textContrast, &mistake)
+        && readNumber(parser, known.depth, 1, 4, &parameters.surfaceStep, &mistake))
         readLooks(parser.value(known.looks), &order->looks, &mistake);
     return mistake;
 }
@@ -187,8 +213,8 @@ int runNew(const QStringList &arguments)
         "Exit code: 0 done, 2 wrong usage or nothing written."));
     parser.addPositionalArgument(QStringLiteral("FOLDER"),
                                  QStringLiteral("Folder to write; made if it is not there."));
-    parser.addOptions(
-        {known.brand, known.neutral, known.looks, known.name, known.from, known.force});
+    parser.addOptions({known.brand, known.neutral, known.textContrast, known.depth, known.looks,
+                       known.name, known.from, known.force});
     if (const std::optional<int> code = parseArguments(parser, commandName, arguments))
         return *code;
 

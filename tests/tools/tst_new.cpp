@@ -14,6 +14,7 @@ class tst_New : public QObject
 private Q_SLOTS:
     void passesTheCheck_data();
     void passesTheCheck();
+    void contrastHasItsPrice();
     void files_data();
     void files();
     void displayNames();
@@ -51,6 +52,7 @@ void tst_New::passesTheCheck_data()
         QTest::newRow(brand) << QStringList{"--brand", brand};
     QTest::newRow("warm") << QStringList{"--brand", "#8a3324", "--neutral", "warm"};
     QTest::newRow("own-neutral") << QStringList{"--brand", "#8a3324", "--neutral", "#30ff60"};
+    QTest::newRow("flat") << QStringList{"--brand", "#8a3324", "--depth", "1"};
 }
 
 // Neither errors nor warnings, for the built-in templates as for all further ones.
@@ -67,6 +69,18 @@ void tst_New::passesTheCheck()
     QVERIFY2(!check.output.contains(" error: ") && !check.output.contains(" warning: "),
              check.output.constData());
     QCOMPARE(check.exitCode, 0);
+}
+
+// Meanings that all carry much contrast have no room to differ in lightness; that is said.
+void tst_New::contrastHasItsPrice()
+{
+    const QTemporaryDir folder;
+    const QStringList order{"new", folder.filePath("themes"), "--brand", "#8a3324"};
+    const QByteArray note = "note: dark: error, warning, success and highlight cannot all be told";
+    QVERIFY(!CommandRun(order).output.contains(note));
+    const CommandRun run(order + QStringList{"--force", "--text-contrast", "7"});
+    QVERIFY2(run.output.contains(note), run.output.constData());
+    QCOMPARE(run.exitCode, 0);
 }
 
 void tst_New::files_data()
@@ -113,10 +127,13 @@ void tst_New::displayNames()
 void tst_New::recordsItsParameters()
 {
     const QTemporaryDir folder;
-    const QStringList options{"--brand", "#8A3324", "--neutral", "warm", "--name", "Rust"};
+    const QStringList options{"--brand", "#8A3324",         "--neutral", "warm",    "--name",
+                              "Rust",    "--text-contrast", "6.5",       "--depth", "2"};
     QCOMPARE(CommandRun(QStringList{"new", folder.filePath("a")} + options).exitCode, 0);
     const QByteArray text = contentOf(folder.filePath("a/default.theme"));
-    QVERIFY2(text.contains("hvtheme new FOLDER --brand #8A3324 --neutral warm --name \"Rust\"\n"),
+    QVERIFY2(text.contains(
+                 "hvtheme new FOLDER --brand #8A3324 --neutral warm --text-contrast 6.5 --depth 2 "
+                 "--name \"Rust\"\n"),
              text.constData());
     QCOMPARE(CommandRun(QStringList{"new", folder.filePath("b")} + options).exitCode, 0);
     for (const QString &file : filesIn(folder.filePath("a")))
@@ -163,6 +180,10 @@ void tst_New::refused_data()
                                  << QByteArray("--brand: \"transparent\" is no colour");
     QTest::newRow("neutral") << QStringList{"OUT", "--brand", "red", "--neutral", "tepid"}
                              << QByteArray("--neutral: \"tepid\" is no colour");
+    QTest::newRow("contrast") << QStringList{"OUT", "--brand", "red", "--text-contrast", "11"}
+                              << QByteArray("--text-contrast: \"11\" is no number from 4.5 to 10");
+    QTest::newRow("depth") << QStringList{"OUT", "--brand", "red", "--depth", "nan"}
+                           << QByteArray("--depth: \"nan\" is no number from 1 to 4");
     QTest::newRow("look") << QStringList{"OUT", "--brand", "red", "--looks", "dark,dim"}
                           << QByteArray("--looks: no look is called \"dim\"");
     QTest::newRow("name-with-slash") << QStringList{"OUT", "--brand", "red", "--name", "../x"}
