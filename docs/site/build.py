@@ -169,7 +169,8 @@ class Site:
         if len(headings) < 3:
             return ""
         items = "".join(f'<li><a href="#{heading.anchor}">{html.escape(heading.text)}</a></li>' for heading in headings)
-        return f'<nav class="contents" aria-label="On this page"><h2>On this page</h2><ul>{items}</ul></nav>'
+        return (f'<details id="contents" open>\n<summary>On this page</summary>\n'
+                f'<nav aria-label="On this page"><ul>{items}</ul></nav>\n</details>')
 
     def write(self):
         template = (pathlib.Path(__file__).parent / "page.html").read_text()

@@ -11,8 +11,23 @@ import re
 import pygments
 from markdown_it import MarkdownIt
 from pygments.formatters import HtmlFormatter
+from pygments.lexer import RegexLexer
 from pygments.lexers import get_lexer_by_name
+from pygments.token import Comment, Keyword, Number, Text
 from pygments.util import ClassNotFound
+
+
+class ThemeFileLexer(RegexLexer):
+    """INI as Qt reads it: only a semicolon begins a comment, a colour may have a number sign."""
+
+    tokens = {"root": [
+        (r";.*$", Comment), (r"^\s*\[.*?\]", Keyword), (r"^[^=;\n]+(?==)", Text),
+        (r"#[0-9A-Fa-f]+", Number), (r"[^;#\n]+|#|\n", Text),
+    ]}
+
+
+def lexer_for(language):
+    return ThemeFileLexer() if language == "ini" else get_lexer_by_name(language)
 
 
 def slug(text):
@@ -27,7 +42,7 @@ def plain(markup):
 def highlighted(text, language):
     """A block of code that the keyboard can scroll, in colours if the language is known."""
     try:
-        code = pygments.highlight(text, get_lexer_by_name(language), HtmlFormatter(nowrap=True)) if language else None
+        code = pygments.highlight(text, lexer_for(language), HtmlFormatter(nowrap=True)) if language else None
     except ClassNotFound:
         code = None
     return f'<pre tabindex="0"><code>{code or html.escape(text)}</code></pre>\n'
@@ -196,4 +211,5 @@ class Renderer:
             raise ValueError(f"{self.source} shows {token.attrs['src']}, which does not exist")
         place, size = self.reader.picture(pathlib.Path(posixpath.normpath(path)))
         measures = f' width="{size[0]}" height="{size[1]}"' if size else ""
-        return f'<img src="{"../" * self.name.count("/")}{place}"{measures} alt="{html.escape(token.content)}">'
+        address = "../" * self.name.count("/") + place # a phone shows it small
+        return f'<a class="picture" href="{address}"><img src="{address}"{measures} alt="{html.escape(token.content)}"></a>'

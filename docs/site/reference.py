@@ -3,6 +3,7 @@
 """The pages of the public interface, made of Doxygen's XML."""
 
 import html
+import re
 import xml.etree.ElementTree as ElementTree
 
 from pages import Page, highlighted
@@ -37,7 +38,7 @@ class Interface:
             name = page_name(compound)
             self.places[compound.get("id")] = (name, "")
             anchors = set()
-            for member in members(compound):
+            for _, member in members(compound):
                 anchor = base = member.findtext("name").lower()
                 number = 0
                 while anchor in anchors:
@@ -61,6 +62,8 @@ class Interface:
         if tag == "para":
             return self.paragraph(child, here)
         inner = self.text(child, here)
+        if tag == "computeroutput" and re.search(r"\w \w", "".join(child.itertext())): # words, of which none means a class
+            return f"<code>{html.escape(''.join(child.itertext()), quote=False)}</code>"
         if tag == "ref":
             return self.link(child.get("refid"), inner, here)
         if tag == "ulink":
@@ -127,15 +130,17 @@ class Interface:
             page.add(highlighted(f"#include <{header}>\n", "cpp"))
         page.add(self.description(compound, page))
         page.summary = self.blocks(compound.find("briefdescription"), page)
-        section = None
-        for member in members(compound):
-            title = SECTIONS[member.get("section")]
-            if title != section:
-                section = title
-                page.add_heading(2, title, "all-" + title)
+        shown = None
+        for section, member in members(compound):
+            if section is not shown:
+                shown = section
+                title = section.findtext("header") or SECTIONS[section.get("kind")]
+                page.add_heading(2, html.escape(title), "all-" + title)
+                if section.find("description") is not None:
+                    page.add(self.blocks(section.find("description"), page))
             anchor = self.places[member.get("id")][1]
             page.add_heading(3, f"<code>{html.escape(member.findtext('name'))}</code>", anchor)
-            page.add(highlighted(declaration(member), "cpp"))
+            page.add(highlighted(declaration(member, compound), "cpp").replace("<pre", '<pre class="declaration"', 1))
             page.add(self.description(member, page))
             values = [value for value in member.findall("enumvalue") if has_text(value)]
             if values:
@@ -150,11 +155,16 @@ def members(compound):
     for section in sorted(sections, key=lambda section: order.index(section.get("kind"))):
         for member in section.findall("memberdef"):
             if member.get("prot") in ("public", "protected") and not member.findtext("name").startswith("~"):
-                member.set("section", section.get("kind"))
-                yield member
+                yield section, member
 
 
-def declaration(member):
+def declaration(member, compound):
+    """As in the header, which a function of a namespace names as well."""
+    text = plain_declaration(member)
+    return f"#include <{member.find('location').get('file')}>\n{text}" if compound.get("kind") == "namespace" else text
+
+
+def plain_declaration(member):
     kind = member.get("kind")
     if kind == "enum":
         values = ", ".join(value.findtext("name") + " " + (value.findtext("initializer") or "") for value in member.findall("enumvalue"))

@@ -10,12 +10,14 @@ const hits = document.getElementById("hits");
 const count = document.getElementById("count");
 const most = 30;
 
-// On a phone the list of pages would stand before every text.
-const pages = document.getElementById("pages");
-const narrow = matchMedia("(max-width: 56rem)");
-const fold = () => { pages.open = !narrow.matches; };
-narrow.addEventListener("change", fold);
-fold();
+// Where there is no room beside the text, lists would stand before it.
+for (const [id, width] of [["pages", "56rem"], ["contents", "80rem"]]) {
+    const list = document.getElementById(id);
+    const room = matchMedia(`(min-width: ${width})`);
+    const fold = () => { if (list) list.open = room.matches; };
+    room.addEventListener("change", fold);
+    fold();
+}
 
 // An entry is [title of the page, heading, address, text]. All words must occur; where they do counts.
 function score([title, heading, , text], words) {
@@ -35,8 +37,10 @@ function score([title, heading, , text], words) {
 }
 
 function excerpt(text, words) {
-    const at = Math.max(0, text.toLowerCase().indexOf(words[0]) - 60);
-    return (at ? "…" : "") + text.slice(at, at + 180) + (text.length > at + 180 ? "…" : "");
+    const found = text.toLowerCase().indexOf(words[0]);
+    const start = found > 60 ? text.indexOf(" ", found - 60) + 1 : 0;
+    const end = text.lastIndexOf(" ", start + 180);
+    return text.length - start <= 180 ? text.slice(start) : `${start ? "… " : ""}${text.slice(start, end)} …`;
 }
 
 function search() {

@@ -38,7 +38,7 @@ void noteMessage(QtMsgType severity, const QMessageLogContext &, const QString &
 }
 
 constexpr int margin = 12;
-constexpr int statesPerLine = 6;
+constexpr int statesPerLine = 3;
 
 QWidget *createStrip(const Gallery::SpecimenRow &row)
 {
