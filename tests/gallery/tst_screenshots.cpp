@@ -34,7 +34,7 @@ Outcome runGallery(const QStringList &arguments)
     QProcess gallery;
     gallery.setProcessEnvironment(environment);
     gallery.start(QStringLiteral(HVTHEME_GALLERY), arguments);
-    if (!gallery.waitForFinished(60000))
+    if (!gallery.waitForFinished(240000))
         qFatal("the gallery does not finish");
     return {gallery.exitStatus() == QProcess::NormalExit ? gallery.exitCode() : -1,
             QString::fromUtf8(gallery.readAllStandardOutput()),
