@@ -48,7 +48,7 @@ QString percentage(const QColor &color)
 // The distance of colours as if they were opaque, and apart from it what their alpha says.
 QString distanceText(const QVariant &first, const QVariant &second)
 {
-    if (first.type() != QVariant::Color || second.type() != QVariant::Color)
+    if (first.userType() != QMetaType::QColor || second.userType() != QMetaType::QColor)
         return {};
     const auto from = first.value<QColor>();
     const auto to = second.value<QColor>();

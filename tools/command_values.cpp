@@ -60,7 +60,8 @@ QString asCsv(const QVector<StoredValue> &values)
 QJsonValue jsonValue(const QVariant &value)
 {
     if (value.userType() != qMetaTypeId<QGradientStops>())
-        return value.type() == QVariant::Color ? valueText(value) : QJsonValue::fromVariant(value);
+        return value.userType() == QMetaType::QColor ? valueText(value)
+                                                     : QJsonValue::fromVariant(value);
     QJsonArray stops;
     const auto gradient = value.value<QGradientStops>();
     for (const QGradientStop &stop : gradient)

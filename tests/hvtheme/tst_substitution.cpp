@@ -188,7 +188,7 @@ Case withHiddenSurrogates(Case shown)
 {
     shown.text = Plain::hiddenSurrogates(shown.text);
     for (QVariant &value : shown.values) {
-        if (value.type() == QVariant::String)
+        if (value.userType() == QMetaType::QString)
             value = Plain::hiddenSurrogates(value.toString());
     }
     return shown;
