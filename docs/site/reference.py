@@ -61,6 +61,8 @@ class Interface:
             return "<dl>" + "".join(self.parameter(item, here) for item in child) + "</dl>"
         if tag == "para":
             return self.paragraph(child, here)
+        if tag == "programlisting":
+            return highlighted("\n".join(code_text(line) for line in child) + "\n", "cpp")
         inner = self.text(child, here)
         if tag == "computeroutput" and re.search(r"\w \w", "".join(child.itertext())): # words, of which none means a class
             return f"<code>{html.escape(''.join(child.itertext()), quote=False)}</code>"
@@ -70,18 +72,14 @@ class Interface:
             return inner
         if tag == "linebreak":
             return "<br>"
-        if tag == "sp":
-            return " "
         if tag == "ndash":
             return "–"
         if tag == "mdash":
             return "—"
         if tag == "nonbreakablespace":
             return "&nbsp;"
-        if tag in ("programlisting", "verbatim", "preformatted"):
+        if tag in ("verbatim", "preformatted"):
             return f'<pre tabindex="0"><code>{inner}</code></pre>'
-        if tag in ("codeline", "highlight"):
-            return inner + ("\n" if tag == "codeline" else "")
         if tag == "simplesect":
             title = REMARKS[child.get("kind")]
             return f'<div class="remark"><strong>{title}</strong> {inner}</div>'
@@ -149,6 +147,11 @@ class Interface:
         return page
 
 
+def code_text(line):
+    """The text of a line of code, in which Doxygen makes elements of blanks."""
+    return (line.text or "") + "".join((" " if child.tag == "sp" else code_text(child)) + (child.tail or "") for child in line)
+
+
 def members(compound):
     order = list(SECTIONS)
     sections = [section for section in compound.findall("sectiondef") if section.get("kind") in SECTIONS]
@@ -174,6 +177,9 @@ def plain_declaration(member):
     text = f"{definition} {member.findtext('name')}{member.findtext('argsstring') or ''}".strip()
     if member.get("static") == "yes":
         text = "static " + text
+    if kind == "property":
+        access = [f"{verb} by {function}()" for verb, function in (("read", member.findtext("read")), ("set", member.findtext("write"))) if function]
+        return f"{text}; // {', '.join(access)}\n"
     return text.replace("< ", "<").replace(" >", ">") + ";\n"
 
 
