@@ -22,7 +22,7 @@ namespace
 {
 
 // Far more than a theme needs, and far less than a program can read without being noticed.
-constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
 
 // Nothing but a file is opened: a pipe would never end.
 QString problemOfFile(const QString &path, bool isTheme)
@@ -114,7 +114,7 @@ QString ThemeFolder::problem() const
 
 QString ThemeFolder::problemOf(const QString &name) const
 {
-    const QString ofFolder = problem();
+    QString ofFolder = problem();
     if (!ofFolder.isEmpty())
         return ofFolder;
     // A name is no path: themes of other folders have another default file.

@@ -91,7 +91,7 @@ void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPain
     const bool isActive = (option.titleBarState & QStyle::State_Active) != 0;
     // A window keeps the palette of its title bar for itself, from one look to the next.
     const QPalette palette = widget ? widget->palette() : option.palette;
-    const QColor ink =
+    const QColor &ink =
         palette.color(isActive ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
     painter.save();
     painter.fillRect(option.rect, palette.color(QPalette::Window));
