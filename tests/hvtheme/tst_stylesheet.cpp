@@ -265,7 +265,7 @@ void tst_Stylesheet::entry()
              compressed ? QResource::ZlibCompression : QResource::NoCompression);
 
     const QByteArray content = contentOf(resource.fileName());
-    QTEST(content.size(), "size");
+    QTEST(int(content.size()), "size");
     QCOMPARE(content.startsWith("\xef\xbb\xbf"), byteOrderMark);
     QCOMPARE(content.count("\xef\xbb\xbf"), byteOrderMark ? 1 : 0);
     QTEST(content.endsWith('\n'), "lineEnd");
