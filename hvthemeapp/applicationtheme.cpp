@@ -288,6 +288,16 @@ QPalette ApplicationTheme::palette() const
     return d->palette;
 }
 
+ApplicationTheme *ApplicationTheme::inForce()
+{
+    return lookInForce().owner;
+}
+
+QVector<QPair<QString, QString>> ApplicationTheme::templates() const
+{
+    return d->templates.sources(d->keepsFonts);
+}
+
 QString ApplicationTheme::problem() const
 {
     return d->problem;

@@ -9,7 +9,9 @@
 #include <QColor>
 #include <QHash>
 #include <QObject>
+#include <QPair>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -202,6 +204,13 @@ public:
 
     /*! \brief Returns the palette of the look in force, as the application has it. */
     QPalette palette() const;
+
+    /*! \brief Returns the object whose look the application has, or null. */
+    static ApplicationTheme *inForce();
+
+    /*! \brief Returns the templates of the style sheet in their order: the file, and what its tokens
+     *         begin with. */
+    QVector<QPair<QString, QString>> templates() const;
 
     /*! \brief Returns what kept the last change from coming into force: what, where, what to do. Empty
      *         if it is in force. */

@@ -25,7 +25,7 @@ namespace HV
 
 // An application has one look: who set it last, and the style sheet without what is not ours.
 struct LookInForce {
-    const ApplicationTheme *owner = nullptr;
+    ApplicationTheme *owner = nullptr;
     QString styleSheet;
 };
 

@@ -65,6 +65,19 @@ QString problemOfTemplate(const QString &file)
         .arg(file);
 }
 
+QString builtInPrefix()
+{
+    return QStringLiteral("global");
+}
+
+QStringList builtInFiles(bool keepsFonts)
+{
+    QStringList files = templateFiles(QStringLiteral(":/stylesheet"));
+    if (keepsFonts)
+        files.removeOne(QStringLiteral(":/stylesheet/global.qss")); // its rules begin with `*`
+    return files + templateFiles(QStringLiteral(":/hvthemeapp/stylesheet"));
+}
+
 } // namespace
 
 void TemplateFolders::add(const QString &folder, const QString &prefix)
@@ -88,6 +101,20 @@ QStringList TemplateFolders::files() const
     return files;
 }
 
+QVector<QPair<QString, QString>> TemplateFolders::sources(bool keepsFonts) const
+{
+    QVector<QPair<QString, QString>> sources;
+    const QStringList builtIn = builtInFiles(keepsFonts);
+    for (const QString &file : builtIn)
+        sources.append({file, builtInPrefix()});
+    for (const Folder &folder : m_folders) {
+        const QStringList files = templateFiles(folder.path);
+        for (const QString &file : files)
+            sources.append({file, folder.prefix});
+    }
+    return sources;
+}
+
 QString TemplateFolders::problem() const
 {
     for (const Folder &folder : m_folders) {
@@ -108,13 +135,9 @@ QString TemplateFolders::problem() const
 
 QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
 {
-    const QString prefix = QStringLiteral("global");
-    QStringList builtIn = templateFiles(QStringLiteral(":/stylesheet"));
-    if (keepsFonts)
-        builtIn.removeOne(QStringLiteral(":/stylesheet/global.qss")); // its rules begin with `*`
-    builtIn += templateFiles(QStringLiteral(":/hvthemeapp/stylesheet"));
     // A template may end in an open comment or without a line's end.
-    QString sheet = findStyleSheet(theme, builtIn, prefix) + QLatin1Char('\n');
+    QString sheet =
+        findStyleSheet(theme, builtInFiles(keepsFonts), builtInPrefix()) + QLatin1Char('\n');
     for (const Folder &folder : m_folders)
         sheet += findStyleSheet(theme, folder.path, folder.prefix) + QLatin1Char('\n');
     return withQuotedUrls(sheet, theme);

@@ -4,6 +4,7 @@
 #ifndef HVTHEMEAPP_TEMPLATEFOLDERS_H
 #define HVTHEMEAPP_TEMPLATEFOLDERS_H
 
+#include <QPair>
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -25,6 +26,9 @@ public:
 
     /*! \brief The files that these have now. */
     QStringList files() const;
+
+    /*! \brief The files that styleSheet() reads, in their order, and what their tokens begin with. */
+    QVector<QPair<QString, QString>> sources(bool keepsFonts) const;
 
     /*! \brief What keeps one of these from being read, in a sentence; empty if nothing does. */
     QString problem() const;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <inspector/inspector.h>
 #include <plugin/foreignprogram.h>
 #include <plugin/leavealone.h>
 
@@ -42,7 +43,7 @@ ForeignProgram::Options optionsOf(const QUrlQuery &query)
  *
  * What stands behind the key is the query of a URL: `theme` the name of the theme, without one the desktop is
  * followed; `themes` a folder of theme files; `lift=no` leaves the program's own colours of text as
- * they are; `program` is the file name of one that is not left alone, whatever the lists say.
+ * they are; `inspect=yes` opens the inspector; `program` is the file name of one that is not left alone, whatever the lists say.
  */
 class HVThemePlugin : public QGenericPlugin
 {
@@ -61,12 +62,22 @@ QObject *HVThemePlugin::create(const QString &, const QString &request)
     // Qt warns of a plugin that makes nothing, and a program without widgets deserves no warning.
     const auto nothing = [] { return new QObject; };
 
+    // A program with a theme of its own is inspected as well. The inspector opens once there are
+    // windows, and its key opens it again.
+    const QUrlQuery query(request);
+    const auto inspect = [] {
+        HV::Inspector::installShortcut();
+        HV::Inspector::open();
+    };
+    if (!m_isDone && qobject_cast<QApplication *>(QCoreApplication::instance())
+        && query.queryItemValue(QStringLiteral("inspect")) == QLatin1String("yes"))
+        QMetaObject::invokeMethod(qApp, inspect, Qt::QueuedConnection);
+
     // The application is under construction; as far as here it has got to be what it is.
     if (m_isDone || !qobject_cast<QApplication *>(QCoreApplication::instance())
         || hasThemeOfItsOwn())
         return nothing();
     m_isDone = true; // the first of several requests counts
-    const QUrlQuery query(request);
     const QStringList names = programNames();
     if (!names.contains(query.queryItemValue(QStringLiteral("program"), QUrl::FullyDecoded))
         && isLeftAlone(names, leaveAloneLines()))

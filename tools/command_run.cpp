@@ -75,7 +75,7 @@ QString mistake(const QCommandLineParser &parser)
 
 // The text for the plugin. Commas separate plugins and Qt reads the list as Latin-1, so all that is
 // neither a letter nor a digit is encoded.
-QByteArray pluginRequest(const QCommandLineParser &parser)
+QByteArray pluginRequest(const QCommandLineParser &parser, bool inspects)
 {
     const auto encoded = [](const QString &text) { return QUrl::toPercentEncoding(text); };
     QByteArray text("hvtheme:program=");
@@ -86,6 +86,8 @@ QByteArray pluginRequest(const QCommandLineParser &parser)
         text += "&themes=" + encoded(QDir(parser.value(QStringLiteral("themes"))).absolutePath());
     if (parser.isSet(QStringLiteral("no-lift")))
         text += "&lift=no";
+    if (inspects)
+        text += "&inspect=yes";
     return text;
 }
 
@@ -99,35 +101,33 @@ void addToEnvironment(const char *variable, const QByteArray &entry, char separa
         qputenv(variable, first ? entry + separator + list : list + separator + entry);
 }
 
-int execute(char **arguments)
+int execute(const QString &name, char **arguments)
 {
     ::execvp(arguments[0], arguments);
     const int error = errno;
     const QString program = QString::fromLocal8Bit(arguments[0]);
     if (error == ENOENT && !QFile::exists(program)) {
-        printError(QLatin1String("run: ") % program % QLatin1String(": no such program"));
+        printError(name % QLatin1String(": ") % program % QLatin1String(": no such program"));
         return ExitNotFound;
     }
-    printError(QLatin1String("run: ") % program % QLatin1String(": cannot be executed: ")
+    printError(name % QLatin1String(": ") % program % QLatin1String(": cannot be executed: ")
                % QString::fromLocal8Bit(std::strerror(error)));
     return error == ENOENT ? ExitNotFound : ExitNotExecutable;
 }
 
-} // namespace
-
-int runProgram(int argc, char **argv)
+int run(const QString &name, const QString &description, int argc, char **argv)
 {
-    const QString name = QStringLiteral("run");
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Runs a program that uses Qt Widgets in a theme; the program need not know of it.\n"
-        "Programs that it starts in turn have the theme as well.\n\n"
-        "Exit code: that of the program; 127 no such program, 126 it cannot be executed, 2 wrong\n"
-        "usage, or the plugin that does the work is missing."));
+    parser.setApplicationDescription(
+        description
+        % QStringLiteral("\n\n"
+                         "Exit code: that of the program; 127 no such program, 126 it cannot be "
+                         "executed, 2 wrong\n"
+                         "usage, or the plugin that does the work is missing."));
     addOptions(&parser);
     if (const std::optional<int> code = parseArguments(parser, name, arguments))
         return *code;
@@ -139,13 +139,36 @@ int runProgram(int argc, char **argv)
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(HVTHEME_PLUGINS_DIR)));
     const QString plugin = QStringLiteral("generic/" HVTHEME_PLUGIN_FILE);
     if (!folder.exists(plugin)) {
-        printError(QLatin1String("run: ") % QDir::cleanPath(folder.filePath(plugin))
+        printError(name % QLatin1String(": ") % QDir::cleanPath(folder.filePath(plugin))
                    % QLatin1String(": the plugin that themes programs is missing"));
         return ExitUnusable;
     }
     addToEnvironment(pluginPathVariable, QFile::encodeName(QDir::cleanPath(folder.path())), ':',
                      false);
     // Of several entries of this plugin the first counts.
-    addToEnvironment(pluginVariable, pluginRequest(parser), ',', true);
-    return execute(argv + (argc - parser.positionalArguments().size()));
+    addToEnvironment(pluginVariable, pluginRequest(parser, name == QLatin1String("inspect")), ',',
+                     true);
+    return execute(name, argv + (argc - parser.positionalArguments().size()));
+}
+
+} // namespace
+
+int runProgram(int argc, char **argv)
+{
+    return run(
+        QStringLiteral("run"),
+        QStringLiteral(
+            "Runs a program that uses Qt Widgets in a theme; the program need not know of it.\n"
+            "Programs that it starts in turn have the theme as well."),
+        argc, argv);
+}
+
+int inspectProgram(int argc, char **argv)
+{
+    return run(
+        QStringLiteral("inspect"),
+        QStringLiteral(
+            "Runs a program that uses Qt Widgets, as hvtheme run does, and opens the inspector:\n"
+            "point at a widget and see why it looks as it does."),
+        argc, argv);
 }

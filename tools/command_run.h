@@ -15,4 +15,7 @@
  */
 int runProgram(int argc, char **argv);
 
+/*! \brief Carries out `hvtheme inspect`: runProgram() with the inspector open. */
+int inspectProgram(int argc, char **argv);
+
 #endif

@@ -46,6 +46,8 @@ const Command commands[] = {
     {"new", "Make a folder of themes of one colour.", Needs::Core, runNew},
     {"export", "Write a theme in a format of others.", Needs::Widgets, runExport},
     {"import", "Make a folder of themes of design tokens.", Needs::Core, runImport},
+    {"inspect", "Run a program and see why its widgets look as they do.", Needs::Program, nullptr,
+     inspectProgram},
     {"run", "Run an unmodified program in a theme.", Needs::Program, nullptr, runProgram},
     {"sheet", "Draw themes side by side, as a picture or a page.", Needs::Widgets, runSheet},
 };

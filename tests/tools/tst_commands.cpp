@@ -237,7 +237,7 @@ void tst_Commands::fullDevice_data()
          {"--help", "--version", "check --help", "check --rules", "check themes",
           "check themes --format json", "check themes --format sarif", "render themes night",
           "values themes night", "explain themes night Veil", "diff themes default night",
-          "new --help", "run --help"})
+          "new --help", "run --help", "inspect --help"})
         QTest::newRow(arguments) << arguments;
 }
 

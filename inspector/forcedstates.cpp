@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <inspector/forcedstates.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QSignalBlocker>
+#include <QWidget>
+
+namespace
+{
+
+// A combo or spin box may be disabled by its program, but is under the mouse by an attribute.
+void setHovered(QWidget *widget, bool on)
+{
+    widget->setAttribute(Qt::WA_UnderMouse, on);
+}
+
+} // namespace
+
+ForcedStates::ForcedStates(QObject *parent)
+    : QObject(parent)
+{
+    connect(qApp, &QApplication::focusChanged, this, &ForcedStates::followFocus);
+}
+
+ForcedStates::~ForcedStates()
+{
+    setWidget(nullptr);
+}
+
+QStringList ForcedStates::names()
+{
+    return {QStringLiteral("hover"),    QStringLiteral("pressed"), QStringLiteral("checked"),
+            QStringLiteral("disabled"), QStringLiteral("focus"),   QStringLiteral("selected")};
+}
+
+bool ForcedStates::isPossible(const QWidget *widget, const QString &state)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    if (state == QLatin1String("pressed"))
+        return button != nullptr;
+    if (state == QLatin1String("checked"))
+        return button && button->isCheckable();
+    if (state == QLatin1String("selected")) {
+        const auto *view = qobject_cast<const QAbstractItemView *>(widget);
+        return view && view->selectionModel();
+    }
+    return true;
+}
+
+void ForcedStates::setWidget(QWidget *widget)
+{
+    if (widget == m_widget)
+        return;
+    const QStringList forced = m_before.keys();
+    for (const QString &state : forced)
+        setForced(state, false);
+    m_before.clear();
+    m_widget = widget;
+}
+
+void ForcedStates::setForced(const QString &state, bool forced)
+{
+    if (!m_widget || forced == isForced(state) || !isPossible(m_widget, state))
+        return;
+    if (forced) {
+        QVariant before;
+        if (state == QLatin1String("hover"))
+            before = m_widget->testAttribute(Qt::WA_UnderMouse);
+        else if (state == QLatin1String("pressed"))
+            before = qobject_cast<QAbstractButton *>(m_widget)->isDown();
+        else if (state == QLatin1String("checked"))
+            before = qobject_cast<QAbstractButton *>(m_widget)->isChecked();
+        else if (state == QLatin1String("disabled"))
+            before = m_widget->testAttribute(Qt::WA_ForceDisabled);
+        else if (state == QLatin1String("focus"))
+            before = QVariant::fromValue(QPointer<QWidget>(m_widget->focusProxy()));
+        else
+            before = QVariant::fromValue(QPersistentModelIndex());
+        m_before.insert(state, before);
+        apply(state, true, before);
+    } else {
+        apply(state, false, m_before.take(state));
+    }
+    m_widget->update();
+}
+
+void ForcedStates::apply(const QString &state, bool on, const QVariant &before)
+{
+    const QSignalBlocker blocker(m_widget.data());
+    auto *button = qobject_cast<QAbstractButton *>(m_widget);
+    if (state == QLatin1String("hover")) {
+        setHovered(m_widget, on || before.toBool());
+    } else if (state == QLatin1String("pressed")) {
+        button->setDown(on || before.toBool());
+    } else if (state == QLatin1String("checked")) {
+        button->setChecked(on || before.toBool());
+    } else if (state == QLatin1String("disabled")) {
+        m_widget->setEnabled(!(on || before.toBool()));
+    } else if (state == QLatin1String("focus")) {
+        if (on)
+            followFocus();
+        else
+            m_widget->setFocusProxy(before.value<QPointer<QWidget>>());
+    } else {
+        auto *view = qobject_cast<QAbstractItemView *>(m_widget);
+        const QSignalBlocker quiet(view->selectionModel());
+        if (on) {
+            const QModelIndex first = view->model()->index(0, 0, view->rootIndex());
+            const QModelIndex index = view->currentIndex().isValid() ? view->currentIndex() : first;
+            if (view->selectionModel()->isSelected(index))
+                return;
+            m_before[state] = QVariant::fromValue(QPersistentModelIndex(index));
+            view->selectionModel()->select(index, QItemSelectionModel::Select);
+        } else if (before.value<QPersistentModelIndex>().isValid()) {
+            view->selectionModel()->select(before.value<QPersistentModelIndex>(),
+                                           QItemSelectionModel::Deselect);
+        }
+        view->viewport()->update();
+    }
+}
+
+// A widget whose proxy has the focus looks as if it had it; the user has it in the inspector.
+void ForcedStates::followFocus()
+{
+    QWidget *focus = QApplication::focusWidget();
+    if (!m_widget || !isForced(QStringLiteral("focus")) || !focus || focus == m_widget)
+        return;
+    for (const QWidget *proxy = focus; proxy; proxy = proxy->focusProxy()) {
+        if (proxy == m_widget)
+            return;
+    }
+    m_widget->setFocusProxy(focus);
+    m_widget->update();
+}

@@ -1,0 +1,276 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <inspector/inspectedsheet.h>
+
+#include <analysis/messagelog.h>
+
+#include <QApplication>
+
+#include <algorithm>
+
+namespace
+{
+
+Place placeIn(const QString &text, int offset)
+{
+    return {QString(), textPosition(text, offset)};
+}
+
+int ruleIndexAt(const QVector<StyleRule> &rules, int offset)
+{
+    const auto after =
+        std::upper_bound(rules.cbegin(), rules.cend(), offset,
+                         [](int wanted, const StyleRule &rule) { return wanted < rule.start; });
+    return int(after - rules.cbegin()) - 1;
+}
+
+} // namespace
+
+// A part of the style sheet that one template was made into. Values have no braces and
+// no semicolons, so the rules of both correspond one by one.
+struct InspectedSheet::Section {
+    TemplateText templates;
+    StyleRules rules; // of the templates
+    QVector<StyleRule> finished; // the same as they stand in the style sheet
+    int start = 0;
+    int end = 0;
+};
+
+InspectedSheet::InspectedSheet(const QString &styleSheet, const InspectedTheme &theme)
+    : m_text(styleSheet)
+    , m_theme(theme)
+    , m_cascade(styleSheet)
+    , m_rules(styleSheet)
+{
+    for (const InspectedTheme::Template &source : theme.templates)
+        addSection(source);
+}
+
+InspectedSheet::~InspectedSheet() = default;
+
+std::unique_ptr<InspectedSheet> InspectedSheet::inForce()
+{
+    return std::make_unique<InspectedSheet>(qApp->styleSheet(), InspectedTheme::inForce());
+}
+
+void InspectedSheet::addSection(const InspectedTheme::Template &source)
+{
+    QString error;
+    const std::optional<TemplateText> templates =
+        TemplateText::read({source.file}, source.prefix, &error);
+    if (!templates) {
+        m_problem = error;
+        return;
+    }
+    const FinishedStyleSheet finished =
+        finishedStyleSheet(source.prefix, m_theme.values, templates->text());
+    const int from = m_sections.empty() ? 0 : m_sections.back()->end;
+    const int start = finished.text.isEmpty() ? -1 : int(m_text.indexOf(finished.text, from));
+    if (start < 0)
+        return; // the program has replaced it, or a file has changed since
+    auto section = std::make_unique<Section>(Section{
+        *templates, StyleRules(templates->text()), {}, start, start + int(finished.text.size())});
+    for (const StyleRule &rule : m_rules.rules()) {
+        if (rule.start >= section->start && rule.end <= section->end)
+            section->finished.append(rule);
+    }
+    const QVector<StyleRule> &written = section->rules.rules();
+    const bool isSame =
+        std::equal(written.cbegin(), written.cend(), section->finished.cbegin(),
+                   section->finished.cend(), [](const StyleRule &one, const StyleRule &other) {
+                       return one.declarations.size() == other.declarations.size();
+                   });
+    if (isSame)
+        m_sections.push_back(std::move(section));
+}
+
+const InspectedSheet::Section *InspectedSheet::sectionAt(int offset) const
+{
+    for (const auto &section : m_sections) {
+        if (offset >= section->start && offset < section->end)
+            return section.get();
+    }
+    return nullptr;
+}
+
+const ThemeProject *InspectedSheet::project() const
+{
+    if (m_isProjectRead || m_theme.folder.isNull())
+        return m_project.get();
+    m_isProjectRead = true;
+    ThemeProjectOptions options;
+    options.folder = m_theme.folder;
+    options.themes = QStringList(m_theme.name);
+    options.applicationFolder = QCoreApplication::applicationDirPath();
+    options.templates.clear();
+    for (const InspectedTheme::Template &source : m_theme.templates) {
+        if (source.prefix == m_theme.templates.constFirst().prefix)
+            options.templates << source.file;
+    }
+    if (!m_theme.templates.isEmpty())
+        options.prefix = m_theme.templates.constFirst().prefix;
+    const MessageLog silence; // what the theme lacks was said when it came into force
+    m_project = ThemeProject::read(options, &m_problem);
+    return m_project.get();
+}
+
+QString InspectedSheet::problem() const
+{
+    project();
+    return m_problem;
+}
+
+DeclarationOrigin InspectedSheet::originOf(int offset) const
+{
+    DeclarationOrigin origin{placeIn(m_text, offset), {}, {}};
+    const StyleRule *rule = m_rules.ruleAt(offset);
+    const StyleDeclaration *declaration = rule ? rule->declarationAt(offset) : nullptr;
+    if (!declaration)
+        return origin;
+    origin.value = declaration->value;
+    const Section *section = sectionAt(offset);
+    if (!section)
+        return origin;
+    const int number = ruleIndexAt(section->finished, offset);
+    const StyleRule &finished = section->finished.at(number);
+    int index = 0;
+    while (finished.declarations.at(index).start != declaration->start)
+        ++index;
+    const StyleDeclaration &written = section->rules.rules().at(number).declarations.at(index);
+    origin.place = section->templates.placeAt(written.start);
+    origin.value = written.value;
+    origin.tokens = Tokens::find(written.value, section->templates.prefix());
+    return origin;
+}
+
+Place InspectedSheet::placeOfRule(int offset) const
+{
+    const Section *section = sectionAt(offset);
+    if (!section)
+        return placeIn(m_text, offset);
+    const int number = ruleIndexAt(section->finished, offset);
+    return section->templates.placeAt(section->rules.rules().at(number).start);
+}
+
+// The same few keys come again and again.
+ValueChain InspectedSheet::chain(const TemplateToken &token, const QString &prefix) const
+{
+    const QString name = Tokens::opening(prefix, token.kind) % token.key;
+    auto known = m_chains.find(name);
+    if (known == m_chains.end())
+        known = m_chains.insert(name, madeChain(token, prefix));
+    known->token = token;
+    return *known;
+}
+
+ValueChain InspectedSheet::madeChain(const TemplateToken &token, const QString &prefix) const
+{
+    ValueChain chain{token, prefix, m_theme.values.value(token.key).toString(), {}, {}};
+    const QVariant value = m_theme.values.value(token.key);
+    if (value.userType() == QMetaType::QColor)
+        chain.value = valueText(value);
+    const ThemeProject *files = project();
+    if (!files)
+        return chain;
+    const ThemeStack &stack = files->theme(m_theme.name);
+    const Explanation explanation(*files, stack, token.key);
+    using Topic = ExplanationStep::Topic;
+    bool isOurs = false;
+    for (const ExplanationStep &step : explanation.steps()) {
+        if (step.topic != Topic::Note)
+            isOurs = step.topic == Topic::Origin || step.topic == Topic::Ineffective;
+        if (isOurs)
+            chain.steps.append(step);
+    }
+    if (!explanation.isDefined())
+        chain.steps.prepend({Topic::Statement,
+                             {},
+                             QStringLiteral("The theme's files do not have it: the application "
+                                            "library completes the look.")});
+    const Definition *definition = stack.find(token.kind, token.key);
+    while (definition && definition->palette >= 0) {
+        definition = &stack.definitions().at(definition->palette);
+        chain.palette << definition->key();
+    }
+    return chain;
+}
+
+QVector<ValueChain> InspectedSheet::chains(const DeclarationOrigin &origin) const
+{
+    QVector<ValueChain> chains;
+    if (!origin.isTemplate())
+        return chains;
+    QString prefix;
+    for (const InspectedTheme::Template &source : m_theme.templates) {
+        if (source.file == origin.place.file)
+            prefix = source.prefix;
+    }
+    for (const TemplateToken &token : origin.tokens)
+        chains.append(chain(token, prefix));
+    return chains;
+}
+
+QSet<int> InspectedSheet::declarationsOfKey(const QString &key) const
+{
+    QSet<int> offsets;
+    for (const auto &section : m_sections) {
+        for (int i = 0; i < section->finished.size(); ++i) {
+            const auto &written = section->rules.rules().at(i).declarations;
+            for (int j = 0; j < written.size(); ++j) {
+                const auto tokens = Tokens::find(written.at(j).value, section->templates.prefix());
+                const bool isUser =
+                    std::any_of(tokens.cbegin(), tokens.cend(),
+                                [&](const TemplateToken &token) { return token.key == key; });
+                if (isUser)
+                    offsets << section->finished.at(i).declarations.at(j).start;
+            }
+        }
+    }
+    return offsets;
+}
+
+QSet<int> InspectedSheet::declarationsOfPalette(const QString &entry) const
+{
+    QSet<int> offsets;
+    const ThemeProject *files = project();
+    if (!files)
+        return offsets;
+    const ThemeStack &stack = files->theme(m_theme.name);
+    const QHash<QString, int> &colors = stack.stored(Kind::Color);
+    for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
+        const Definition *definition = &stack.definitions().at(*it);
+        bool isUser = false;
+        while (definition->palette >= 0) {
+            definition = &stack.definitions().at(definition->palette);
+            isUser = isUser || definition->key() == entry;
+        }
+        if (isUser)
+            offsets += declarationsOfKey(it.key());
+    }
+    return offsets;
+}
+
+QSet<int> InspectedSheet::declarationsOfRule(int offset) const
+{
+    QSet<int> offsets;
+    const StyleRule *rule = m_rules.ruleAt(offset);
+    if (!rule)
+        return offsets;
+    for (const StyleDeclaration &declaration : rule->declarations)
+        offsets << declaration.start;
+    return offsets;
+}
+
+QVector<QPair<QString, QColor>> InspectedSheet::palette() const
+{
+    QVector<QPair<QString, QColor>> entries;
+    const ThemeProject *files = project();
+    if (!files)
+        return entries;
+    const auto values =
+        storedValues(files->theme(m_theme.name), files->options().applicationFolder, Kind::Palette);
+    for (const StoredValue &value : values)
+        entries.append({value.key(), value.value.value<QColor>()});
+    return entries;
+}

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef INSPECTOR_INSPECTEDTHEME_H
+#define INSPECTOR_INSPECTEDTHEME_H
+
+#include <QString>
+#include <QVariantMap>
+#include <QVector>
+
+/*! \brief The theme and the templates that a program's style sheet was made of. */
+struct InspectedTheme {
+    struct Template {
+        QString file;
+        QString prefix; //!< what its tokens begin with
+    };
+
+    QString folder; //!< of theme files; null if no theme is in force
+    QString name;
+    QVector<Template> templates; //!< in the order of the style sheet
+    QVariantMap values; //!< as style sheets have them
+
+    /*! \brief Returns what HV::ApplicationTheme gave the application, or an empty one. */
+    static InspectedTheme inForce();
+};
+
+#endif

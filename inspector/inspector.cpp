@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <inspector/inspector.h>
+
+#include <inspector/inspectorwindow.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+
+namespace HV
+{
+namespace
+{
+
+QPointer<InspectorWindow> &window()
+{
+    static QPointer<InspectorWindow> theWindow;
+    return theWindow;
+}
+
+// Shortcuts of Qt need a widget to live in, and do not reach past modal dialogs.
+class Shortcut final : public QObject
+{
+public:
+    Shortcut(const QKeySequence &keys, QObject *parent)
+        : QObject(parent)
+        , m_key(keys[0])
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !object->isWidgetType())
+            return false;
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (QKeySequence(key->key() | int(key->modifiers())) != QKeySequence(m_key))
+            return false;
+        if (Inspector::isOpen())
+            Inspector::close();
+        else
+            Inspector::open();
+        return true;
+    }
+
+private:
+    const QKeySequence m_key;
+};
+
+} // namespace
+
+void Inspector::open(QWidget *widget)
+{
+    if (!window()) {
+        window() = new InspectorWindow;
+        window()->show();
+    } else {
+        window()->raise();
+        window()->activateWindow();
+    }
+    if (widget)
+        window()->pane()->pick(widget);
+}
+
+void Inspector::close()
+{
+    delete window().data();
+}
+
+bool Inspector::isOpen()
+{
+    return window() != nullptr;
+}
+
+void Inspector::installShortcut(const QKeySequence &keys)
+{
+    static QPointer<Shortcut> shortcut;
+    delete shortcut.data();
+    if (!keys.isEmpty())
+        shortcut = new Shortcut(keys, qApp);
+}
+
+} // namespace HV

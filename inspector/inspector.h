@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef INSPECTOR_INSPECTOR_H
+#define INSPECTOR_INSPECTOR_H
+
+#include <inspector/hvthemeinspector_export.h>
+
+#include <QKeySequence>
+
+class QWidget;
+
+namespace HV
+{
+
+/*!
+ * \brief Shows why the widgets of the running program look as they do.
+ *
+ * ```cpp
+ * HV::Inspector::installShortcut(); // Ctrl+Shift+F12 opens it, and closes it again
+ * ```
+ *
+ * A program has one inspector, in a window that no theme reaches. While it is closed nothing of it
+ * exists but the key. It keeps no widget alive, and no program running that has closed its windows.
+ * Use it on the GUI thread, with a QApplication.
+ */
+class HVTHEMEINSPECTOR_EXPORT Inspector
+{
+public:
+    /*! \brief Opens the inspector, or raises it; \a widget, if not null, is picked. */
+    static void open(QWidget *widget = nullptr);
+
+    static void close();
+    static bool isOpen();
+
+    /*! \brief Lets \a keys open and close the inspector in all windows of the program, modal dialogs too. An empty
+     *         sequence takes the key away again; only the first combination of several counts. */
+    static void installShortcut(const QKeySequence &keys = QKeySequence(Qt::CTRL | Qt::SHIFT
+                                                                        | Qt::Key_F12));
+};
+
+} // namespace HV
+
+#endif // INSPECTOR_INSPECTOR_H

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef INSPECTOR_INSPECTORPANE_H
+#define INSPECTOR_INSPECTORPANE_H
+
+#include <inspector/forcedstates.h>
+#include <inspector/inspection.h>
+#include <inspector/outline.h>
+#include <inspector/picker.h>
+#include <inspector/widgettree.h>
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QTabWidget;
+class QToolButton;
+class QTreeView;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+/*!
+ * \brief The inspector as a pane: the program's widgets, and why the picked one looks as it does.
+ *
+ * It has a look of its own that no theme reaches, and is none of the widgets that it tells of. All
+ * that it does to the program, frames and forced states, is gone when it dies.
+ */
+class InspectorPane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /*! \brief Returns the style sheet in force and where it came from; never null. */
+    using Source = std::function<std::unique_ptr<InspectedSheet>()>;
+
+    explicit InspectorPane(QWidget *parent = nullptr);
+    InspectorPane(Source source, QWidget *parent);
+    ~InspectorPane() override;
+
+    /*! \brief Shows \a part of \a widget; a part without states means the widget itself. */
+    void pick(QWidget *widget, const WidgetPart &part = {});
+    QWidget *pickedWidget() const { return m_widget; }
+    const Inspection &inspection() const { return m_inspection; }
+
+    /*! \brief Outlines all that has a property from one of \a declarations, and says how many. */
+    void showUsers(const QSet<int> &declarations, const QString &what);
+
+    /*! \brief Reads the widgets, and looks at the picked one anew. */
+    void refresh();
+
+    static bool isOwn(const QWidget *widget);
+
+Q_SIGNALS:
+    void picked(QWidget *widget);
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    QWidget *makeTools();
+    QWidget *makeDetails();
+    QTreeWidget *makeList(const QString &title, const QStringList &columns);
+    void look();
+    void showParts();
+    void showRules();
+    void showValues();
+    void showBox();
+    void showContrast();
+    void showPalette();
+    void showVerdict();
+    void showStates();
+    void showUsersOf(const QTreeWidgetItem *item);
+    void force(const QString &state, bool on);
+
+    const Source m_source;
+    std::unique_ptr<InspectedSheet> m_sheet;
+    WidgetTree m_tree;
+    Picker m_picker;
+    ForcedStates m_forced;
+    Outline m_outline;
+    Outline m_users;
+    QTimer m_later;
+
+    QPointer<QWidget> m_widget;
+    WidgetPart m_part;
+    QVector<WidgetPart> m_parts;
+    Inspection m_inspection;
+
+    QToolButton *m_pick = nullptr;
+    QLineEdit *m_filter = nullptr;
+    QTreeView *m_widgets = nullptr;
+    QLabel *m_name = nullptr;
+    QLabel *m_contrast = nullptr;
+    QComboBox *m_partBox = nullptr;
+    QHash<QString, QCheckBox *> m_states;
+    QTabWidget *m_tabs = nullptr;
+    QTreeWidget *m_rules = nullptr;
+    QTreeWidget *m_values = nullptr;
+    QTreeWidget *m_boxes = nullptr;
+    QTreeWidget *m_palette = nullptr;
+    QLineEdit *m_selector = nullptr;
+    QTreeWidget *m_verdict = nullptr;
+    QLabel *m_status = nullptr;
+};
+
+#endif

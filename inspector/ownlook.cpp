@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <inspector/ownlook.h>
+
+QString inspectorStyleSheet()
+{
+    return QStringLiteral(R"(
+* {
+    background: none; background-color: #f7f7f8; color: #1c1c22; border: none; border-radius: 0;
+    margin: 0; padding: 0; min-width: 0; min-height: 0; max-width: 16000px; max-height: 16000px;
+    font-family: sans-serif; font-size: 12px; font-weight: normal; font-style: normal; image: none;
+    selection-color: #ffffff; selection-background-color: #1f5fbf; text-decoration: none;
+    alternate-background-color: #eeeef1; gridline-color: #d0d0d6; outline: none;
+}
+QLineEdit, QComboBox {background-color: #ffffff; border: 1px solid #767680; padding: 3px 5px; min-height: 16px;}
+QLineEdit:focus, QComboBox:focus, QTreeView:focus {border: 2px solid #1f5fbf;}
+QLineEdit:focus, QComboBox:focus {padding: 2px 4px;}
+QComboBox::drop-down {border: none; background-color: #e4e4ea; width: 16px; image: none;}
+QComboBox::down-arrow {image: none; width: 6px; height: 6px; background-color: #1c1c22;}
+QComboBox QAbstractItemView {background-color: #ffffff; color: #1c1c22; border: 1px solid #767680;}
+QPushButton, QToolButton {
+    background-color: #e4e4ea; color: #1c1c22; border: 1px solid #767680; padding: 3px 8px; image: none; min-height: 16px;
+}
+QPushButton:hover, QToolButton:hover {background-color: #d4d4de;}
+QPushButton:pressed, QToolButton:pressed, QToolButton:checked {background-color: #1f5fbf; color: #ffffff;}
+QPushButton:focus, QToolButton:focus {border: 2px solid #1f5fbf; padding: 2px 7px;}
+QToolButton::menu-indicator {image: none;}
+QCheckBox {spacing: 4px; padding: 2px; border: 1px solid transparent;}
+QCheckBox:focus {border: 1px solid #1f5fbf;}
+QCheckBox:disabled, QLabel:disabled {color: #86868e;}
+QCheckBox::indicator {width: 11px; height: 11px; border: 1px solid #55555f; background-color: #ffffff; image: none;}
+QCheckBox::indicator:checked {background-color: #1f5fbf; image: none;}
+QCheckBox::indicator:disabled {background-color: #dcdce2; border-color: #a8a8b0; image: none;}
+QTreeView {background-color: #ffffff; border: 2px solid #c4c4cc;}
+QTreeView::item {background-color: transparent; color: #1c1c22; border: none; padding: 1px; min-height: 17px;}
+QTreeView::item:hover {background-color: #e6eefb; color: #1c1c22;}
+QTreeView::item:selected {background-color: #1f5fbf; color: #ffffff;}
+QHeaderView {background-color: #e4e4ea; border: none;}
+QHeaderView::section {background-color: #e4e4ea; color: #1c1c22; border: none; border-right: 1px solid #c4c4cc; padding: 3px;}
+QTabWidget::pane {border: 1px solid #c4c4cc; background-color: #f7f7f8; top: 0; padding: 0;}
+QTabBar::tab {
+    background-color: #e4e4ea; color: #1c1c22; border: 1px solid #c4c4cc; padding: 4px 10px; margin: 0; min-width: 20px;
+    min-height: 14px; image: none;
+}
+QTabBar::tab:selected {background-color: #ffffff; border-bottom: 3px solid #1f5fbf; color: #1c1c22;}
+QTabBar::tab:focus {border: 2px solid #1f5fbf;}
+QScrollBar {background-color: #ececf0; border: none; margin: 0; image: none;}
+QScrollBar:vertical {width: 11px;}
+QScrollBar:horizontal {height: 11px;}
+QScrollBar::handle {background-color: #a0a0aa; border: none; border-radius: 0; margin: 2px; min-width: 20px; min-height: 20px; image: none;}
+QScrollBar::handle:hover, QScrollBar::handle:pressed {background-color: #70707a;}
+QScrollBar::add-line, QScrollBar::sub-line {width: 0; height: 0; border: none; background: none; image: none;}
+QScrollBar::add-page, QScrollBar::sub-page {background: none; image: none;}
+QSplitter::handle {background-color: #c4c4cc; image: none;}
+)");
+}
+
+QPalette inspectorPalette()
+{
+    const QColor ink(0x1c, 0x1c, 0x22);
+    const QColor faint(0x86, 0x86, 0x8e);
+    const QColor paper(Qt::white);
+    const QColor face(0xe4, 0xe4, 0xea);
+    QPalette palette(ink, face, paper, face.darker(), faint, ink, paper, paper,
+                     QColor(0xf7, 0xf7, 0xf8));
+    palette.setColor(QPalette::Highlight, QColor(0x1f, 0x5f, 0xbf));
+    palette.setColor(QPalette::HighlightedText, paper);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x66, 0x66, 0x70));
+    return palette;
+}

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#ifndef INSPECTOR_PICKER_H
+#define INSPECTOR_PICKER_H
+
+#include <inspector/outline.h>
+#include <inspector/widgetparts.h>
+
+#include <QObject>
+
+#include <functional>
+
+/*!
+ * \brief Lets the user point at a widget of the program.
+ *
+ * For as long as it lives, Ctrl+Shift+click picks what is under the pointer, in menus, tool tips and
+ * beside modal dialogs too. While it is picking, any click does, the part under the pointer is
+ * outlined, and Escape ends it. The program sees nothing of such clicks.
+ */
+class Picker : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! \brief Leaves those widgets alone that \a isOwn says yes to. */
+    explicit Picker(std::function<bool(const QWidget *)> isOwn, QObject *parent = nullptr);
+
+    bool isPicking() const { return m_isPicking; }
+    void setPicking(bool picking);
+
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+Q_SIGNALS:
+    /*! \brief \a part is one of paintedAs(\a widget). */
+    void picked(QWidget *widget, const WidgetPart &part);
+    void pickingChanged(bool picking);
+
+private:
+    QWidget *widgetAt(const QPoint &position) const;
+    bool filterMouse(QEvent *event);
+
+    const std::function<bool(const QWidget *)> m_isOwn;
+    Outline m_outline;
+    bool m_isPicking = false;
+    bool m_isRelease = false; // the one that belongs to a click that was taken
+};
+
+#endif

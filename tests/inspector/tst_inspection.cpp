@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "quietplatform.h"
+
+#include <inspector/inspection.h>
+#include <inspector/mismatch.h>
+#include <inspector/usage.h>
+
+#include <hvthemeapp/applicationtheme.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+namespace
+{
+
+// A window with one of what the tests look at.
+class Window : public QWidget
+{
+public:
+    Window()
+        : button(new QPushButton("Push", this))
+        , label(new QLabel("Label", this))
+        , spin(new QSpinBox(this))
+        , list(new QListWidget(this))
+    {
+        button->setObjectName("ok");
+        button->setProperty("style", "general");
+        list->addItems({"one", "two", "three"});
+        auto *column = new QVBoxLayout(this);
+        for (QWidget *widget : QList<QWidget *>{button, label, spin, list})
+            column->addWidget(widget);
+        setAttribute(Qt::WA_DontShowOnScreen);
+        show();
+    }
+
+    QPushButton *button;
+    QLabel *label;
+    QSpinBox *spin;
+    QListWidget *list;
+};
+
+WidgetPart itself(const QWidget *widget)
+{
+    return widgetParts(widget).constFirst();
+}
+
+const InspectedRule *ruleOf(const Inspection &inspection, const QString &selector)
+{
+    for (const InspectedRule &rule : inspection.rules) {
+        if (rule.selector == selector)
+            return &rule;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_Inspection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void rulesInOrder();
+    void chainOfAValue();
+    void plainValues();
+    void ownStyleSheet();
+    void replacedStyleSheet();
+    void containers();
+    void parts();
+    void whyNot_data();
+    void whyNot();
+    void users();
+    void contrast();
+    void dyingWidget();
+
+private:
+    std::unique_ptr<QuietPlatform> m_quiet;
+    HV::ApplicationTheme m_theme;
+};
+
+void tst_Inspection::initTestCase()
+{
+    m_quiet = std::make_unique<QuietPlatform>();
+    QVERIFY(m_theme.setName("dark"));
+}
+
+void tst_Inspection::rulesInOrder()
+{
+    Window window;
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.button, itself(window.button), *sheet);
+    const InspectedRule *strong = ruleOf(inspection, "QPushButton[style=\"general\"]");
+    if (!strong)
+        strong = ruleOf(inspection, "QPushButton[style=general]");
+    QVERIFY(strong);
+    QCOMPARE(strong->specificity, 17);
+    QVERIFY(strong->place.file.endsWith(".qss"));
+    QVERIFY(strong->place.position.line > 0);
+    // The general rule for all widgets loses its colour to the one of this variant.
+    int overridden = 0;
+    for (const InspectedRule &rule : inspection.rules) {
+        for (const InspectedDeclaration &declaration : rule.declarations) {
+            if (!declaration.isOverridden())
+                continue;
+            ++overridden;
+            QVERIFY(!declaration.overriddenBy.isEmpty());
+        }
+    }
+    QVERIFY(overridden > 0);
+}
+
+void tst_Inspection::chainOfAValue()
+{
+    Window window;
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.button, itself(window.button), *sheet);
+    const InspectedValue *value = inspection.value("background-color");
+    QVERIFY(value && value->isOfRule());
+    QVERIFY2(value->origin.value.contains("global.theme.color."), qPrintable(value->origin.value));
+    QCOMPARE(value->chains.size(), 1);
+    const ValueChain &chain = value->chains.constFirst();
+    QVERIFY(value->value.contains(chain.value));
+    QVERIFY(!chain.palette.isEmpty());
+    QVERIFY(chain.steps.size() >= 2);
+    // Each step stands where it says it does.
+    for (const ExplanationStep &step : chain.steps) {
+        if (step.topic != ExplanationStep::Topic::Origin)
+            continue;
+        QFile file(step.place.file);
+        QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(step.place.file));
+        const QByteArray line = file.readAll().split('\n').value(step.place.position.line - 1);
+        const QString name = step.text.section("] ", 1).section('=', 0, 0);
+        QCOMPARE(QString::fromUtf8(line).mid(step.place.position.column - 1, name.size()), name);
+    }
+}
+
+void tst_Inspection::plainValues()
+{
+    Window window;
+    const auto sheet = std::make_unique<InspectedSheet>(QString(), InspectedTheme());
+    QPalette palette = window.palette();
+    palette.setColor(QPalette::WindowText, Qt::red);
+    window.setPalette(palette);
+    const Inspection inspection = Inspection::of(window.label, itself(window.label), *sheet);
+    const InspectedValue *color = inspection.value("color");
+    QVERIFY(color);
+    QVERIFY(!color->isOfRule());
+    QVERIFY2(color->source.startsWith("WindowText of "), qPrintable(color->source));
+    QVERIFY(inspection.value("padding-top")->source.startsWith("as the style draws it"));
+}
+
+void tst_Inspection::ownStyleSheet()
+{
+    Window window;
+    window.label->setStyleSheet("color: #010203");
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.label, itself(window.label), *sheet);
+    QCOMPARE(inspection.value("color")->value, QString("#010203"));
+    QCOMPARE(inspection.rules.constFirst().source, QString("QLabel"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^Could not parse stylesheet of object"));
+    window.label->setStyleSheet("QLabel { color: ");
+    const Inspection broken = Inspection::of(window.label, itself(window.label), *sheet);
+    QVERIFY(broken.value("color"));
+}
+
+void tst_Inspection::replacedStyleSheet()
+{
+    Window window;
+    const QString own("QLabel { color: #112233 }");
+    InspectedSheet sheet(own, InspectedTheme::inForce());
+    const Inspection inspection = Inspection::of(window.label, itself(window.label), sheet);
+    QCOMPARE(inspection.value("color")->value, QString("#112233"));
+    QVERIFY(!inspection.value("color")->origin.isTemplate());
+    QCOMPARE(inspection.value("color")->origin.place.position.column, 10);
+    // What the program adds behind the theme leaves the theme's places what they are.
+    InspectedSheet both(qApp->styleSheet() + own, InspectedTheme::inForce());
+    const Inspection added = Inspection::of(window.button, itself(window.button), both);
+    QVERIFY(added.value("background-color")->origin.isTemplate());
+}
+
+void tst_Inspection::containers()
+{
+    Window window;
+    const auto sheet = InspectedSheet::inForce();
+    auto *edit = window.spin->findChild<QLineEdit *>();
+    QVERIFY(edit);
+    const Inspection inner = Inspection::of(edit, WidgetPart(), *sheet);
+    QCOMPARE(inner.styledWidget.data(), window.spin);
+    QWidget *viewport = window.list->viewport();
+    QCOMPARE(Inspection::of(viewport, WidgetPart(), *sheet).styledWidget.data(), window.list);
+}
+
+void tst_Inspection::parts()
+{
+    Window window;
+    window.list->setCurrentRow(1);
+    const QVector<WidgetPart> parts = widgetParts(window.list);
+    QStringList selected;
+    for (const WidgetPart &part : parts) {
+        if (part.subControl == "item" && part.states.contains("selected"))
+            selected << part.label;
+    }
+    QCOMPARE(selected, QStringList("two"));
+    const QRect second = window.list->visualItemRect(window.list->item(1));
+    QCOMPARE(widgetPartAt(window.list, second.center()).label, QString("two"));
+    QCOMPARE(widgetPartAt(window.label, QPoint(1, 1)).subControl, QString());
+}
+
+void tst_Inspection::whyNot_data()
+{
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<QString>("reason");
+
+    QTest::newRow("matches") << "QPushButton#ok[style=\"general\"]:enabled"
+                             << "";
+    QTest::newRow("class") << "QLabel"
+                           << "QLabel: the class is QPushButton and not derived from QLabel";
+    QTest::newRow("name") << "QPushButton#no"
+                          << "#no: the object is called \"ok\"";
+    QTest::newRow("property") << "*[style=\"other\"]"
+                              << "[style=\"other\"]: its property \"style\" is \"general\"";
+    QTest::newRow("no-property") << "*[kind]"
+                                 << "[kind]: it has no property \"kind\"";
+    QTest::newRow("state") << "QPushButton:hover"
+                           << ":hover: it is not in the state :hover";
+    QTest::newRow("not-state") << "QPushButton:!enabled"
+                               << ":!enabled: it is in the state :enabled";
+    QTest::newRow("part")
+        << "QPushButton::menu-indicator"
+        << "::menu-indicator: it is for the part ::menu-indicator, not for the widget itself";
+    QTest::newRow("ancestor") << "QDialog QPushButton"
+                              << "QDialog: no ancestor is such a QDialog";
+    QTest::newRow("parent") << "QFrame > QPushButton"
+                            << "QFrame: the parent is QWidget";
+    QTest::newRow("sibling") << "QLabel + QPushButton"
+                             << "QLabel: widgets have no siblings in style sheets";
+    QTest::newRow("unreadable") << "QPushButton["
+                                << "Qt cannot read this selector";
+}
+
+void tst_Inspection::whyNot()
+{
+    QFETCH(QString, selector);
+    QFETCH(QString, reason);
+    Window window;
+    const StyleElement element = StyleElement::of(window.button, {"kind", "style"});
+    const SelectorVerdict verdict = ::whyNot(selector, element);
+    QCOMPARE(verdict.reason, reason);
+    QCOMPARE(verdict.matches, reason.isEmpty());
+}
+
+void tst_Inspection::users()
+{
+    Window window;
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.button, itself(window.button), *sheet);
+    const InspectedValue *value = inspection.value("background-color");
+    const QList<QWidget *> all{window.button, window.label, window.spin, window.list};
+    const QString key = value->chains.constFirst().token.key;
+    const auto isButton = [&](const QVector<StyleUser> &users) {
+        return std::any_of(users.cbegin(), users.cend(),
+                           [&](const StyleUser &user) { return user.widget == window.button; });
+    };
+    QVERIFY(isButton(usersOf(sheet->declarationsOfKey(key), all, *sheet)));
+    QVERIFY(isButton(
+        usersOf(sheet->declarationsOfPalette(value->chains.constFirst().palette.constFirst()), all,
+                *sheet)));
+    const auto ofRule = usersOf(sheet->declarationsOfRule(value->match.offset), all, *sheet);
+    QVERIFY(isButton(ofRule));
+    for (const StyleUser &user : ofRule)
+        QVERIFY(user.widget != window.label);
+    QVERIFY(usersOf(sheet->declarationsOfKey("NoSuchKey"), all, *sheet).isEmpty());
+}
+
+void tst_Inspection::contrast()
+{
+    Window window;
+    window.label->setStyleSheet("color: #777777; background: #707070");
+    window.label->resize(200, 40);
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.label, itself(window.label), *sheet);
+    const auto contrast = textContrast(inspection, {}, *sheet);
+    QVERIFY(contrast);
+    QCOMPARE(contrast->ground.name(), QString("#707070"));
+    QVERIFY(!contrast->passes());
+    QVERIFY(!contrast->passingEntry.isEmpty());
+}
+
+void tst_Inspection::dyingWidget()
+{
+    auto window = std::make_unique<Window>();
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window->button, itself(window->button), *sheet);
+    window.reset();
+    QVERIFY(!inspection.widget);
+    QVERIFY(!textContrast(inspection, {}, *sheet));
+    QVERIFY(!inspection.values.isEmpty());
+}
+
+QTEST_MAIN(tst_Inspection)
+
+#include "tst_inspection.moc"

@@ -1,0 +1,316 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "quietplatform.h"
+
+#include <inspector/inspectorpane.h>
+#include <inspector/inspectorwindow.h>
+
+#include <hvthemeapp/applicationtheme.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+// The inspector as a user has it, on a program with one window.
+class tst_InspectorWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void picksByClick();
+    void picksDirectly();
+    void escapeEndsPicking();
+    void picksInMenus();
+    void worksBesideModalDialogs();
+    void doesNotListItself();
+    void filter_data();
+    void filter();
+    void overriddenIsStruckThrough();
+    void forcedStates_data();
+    void forcedStates();
+    void showsUsers();
+    void survivesDeath();
+    void hasOneLook();
+    void accessibleNames();
+
+private:
+    QTreeWidget *list(const char *name) const;
+
+    std::unique_ptr<QuietPlatform> m_quiet;
+    HV::ApplicationTheme m_theme;
+    std::unique_ptr<QWidget> m_program;
+    QPushButton *m_button = nullptr;
+    QLabel *m_label = nullptr;
+    std::unique_ptr<InspectorWindow> m_window;
+};
+
+void tst_InspectorWindow::initTestCase()
+{
+    m_quiet = std::make_unique<QuietPlatform>();
+    QVERIFY(m_theme.setName("dark"));
+}
+
+void tst_InspectorWindow::init()
+{
+    m_program = std::make_unique<QWidget>();
+    auto *column = new QVBoxLayout(m_program.get());
+    m_button = new QPushButton("Push");
+    m_button->setObjectName("ok");
+    m_button->setProperty("style", "general");
+    m_button->setCheckable(true);
+    m_label = new QLabel("Words");
+    column->addWidget(m_button);
+    column->addWidget(m_label);
+    m_program->setGeometry(0, 0, 200, 120);
+    m_program->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_program.get()));
+    m_window = std::make_unique<InspectorWindow>();
+    m_window->setAttribute(Qt::WA_DeleteOnClose, false);
+    m_window->move(220, 0);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_InspectorWindow::cleanup()
+{
+    m_window.reset();
+    m_program.reset();
+}
+
+QTreeWidget *tst_InspectorWindow::list(const char *name) const
+{
+    const auto lists = m_window->findChildren<QTreeWidget *>();
+    for (QTreeWidget *list : lists) {
+        if (list->accessibleName() == name)
+            return list;
+    }
+    return nullptr;
+}
+
+void tst_InspectorWindow::picksByClick()
+{
+    QSignalSpy clicked(m_button, &QPushButton::clicked);
+    auto *pick = m_window->findChild<QToolButton *>();
+    QTest::keyClick(m_window.get(), Qt::Key_P, Qt::AltModifier);
+    if (!pick->isChecked())
+        pick->click();
+    QVERIFY(pick->isChecked());
+    QTest::mouseMove(m_button);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QCOMPARE(m_window->pane()->pickedWidget(), m_button);
+    QVERIFY(!pick->isChecked());
+    QCOMPARE(clicked.size(), 0); // the program saw nothing of it
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void tst_InspectorWindow::picksDirectly()
+{
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->pane()->pickedWidget(), m_label);
+}
+
+void tst_InspectorWindow::escapeEndsPicking()
+{
+    auto *pick = m_window->findChild<QToolButton *>();
+    pick->click();
+    QTest::keyClick(m_button, Qt::Key_Escape);
+    QVERIFY(!pick->isChecked());
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(!m_window->pane()->pickedWidget());
+}
+
+void tst_InspectorWindow::picksInMenus()
+{
+    QMenu menu;
+    QAction *first = menu.addAction("First");
+    menu.popup(QPoint(10, 10));
+    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QTest::mouseClick(&menu, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier,
+                      menu.actionGeometry(first).center());
+    QCOMPARE(m_window->pane()->pickedWidget(), &menu);
+    QCOMPARE(m_window->pane()->inspection().subControl, QString("item"));
+    QVERIFY(menu.isVisible());
+}
+
+void tst_InspectorWindow::worksBesideModalDialogs()
+{
+    QDialog dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTRY_COMPARE(m_window->windowHandle()->transientParent(), dialog.windowHandle());
+    auto *edit = m_window->findChild<QLineEdit *>();
+    QTest::mouseClick(edit, Qt::LeftButton);
+    QTest::keyClicks(edit, "x");
+    QCOMPARE(edit->text(), QString("x"));
+    dialog.close();
+    QTRY_VERIFY(!m_window->windowHandle()->transientParent());
+}
+
+void tst_InspectorWindow::doesNotListItself()
+{
+    const auto *tree = m_window->findChild<QTreeView *>();
+    const auto *model = static_cast<const WidgetTree *>(tree->model());
+    QVERIFY(model->indexOf(m_button).isValid());
+    const QList<QWidget *> all = model->widgets();
+    for (const QWidget *widget : all)
+        QVERIFY(widget->window() != m_window.get());
+}
+
+void tst_InspectorWindow::filter_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("hasButton");
+    QTest::addColumn<bool>("hasLabel");
+
+    QTest::newRow("class") << "QPushButton" << true << false;
+    QTest::newRow("base-class") << "qabstractbutton" << true << false;
+    QTest::newRow("name") << "#ok" << true << false;
+    QTest::newRow("property") << "style=general" << true << false;
+    QTest::newRow("text") << "Words" << false << true;
+    QTest::newRow("nothing") << "no such thing" << false << false;
+}
+
+void tst_InspectorWindow::filter()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, hasButton);
+    QFETCH(bool, hasLabel);
+    auto *edit = m_window->findChild<QLineEdit *>();
+    edit->setText(text);
+    const auto *model =
+        static_cast<const WidgetTree *>(m_window->findChild<QTreeView *>()->model());
+    QCOMPARE(model->indexOf(m_button).isValid(), hasButton);
+    QCOMPARE(model->indexOf(m_label).isValid(), hasLabel);
+}
+
+void tst_InspectorWindow::overriddenIsStruckThrough()
+{
+    m_window->pane()->pick(m_button);
+    const QTreeWidget *rules = list("Rules");
+    QVERIFY(rules);
+    QVERIFY(rules->topLevelItemCount() > 1);
+    int struck = 0;
+    for (int i = 0; i < rules->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem *rule = rules->topLevelItem(i);
+        for (int j = 0; j < rule->childCount(); ++j) {
+            if (!rule->child(j)->font(0).strikeOut())
+                continue;
+            ++struck;
+            QVERIFY(!rule->child(j)->text(4).isEmpty()); // by whom
+        }
+    }
+    QVERIFY(struck > 0);
+}
+
+void tst_InspectorWindow::forcedStates_data()
+{
+    QTest::addColumn<QString>("state");
+
+    for (const char *state : {"hover", "pressed", "checked", "disabled", "focus"})
+        QTest::newRow(state) << state;
+}
+
+void tst_InspectorWindow::forcedStates()
+{
+    QFETCH(QString, state);
+    m_window->pane()->pick(m_button);
+    QSignalSpy toggled(m_button, &QPushButton::toggled);
+    QCheckBox *box = nullptr;
+    const auto boxes = m_window->findChildren<QCheckBox *>();
+    for (QCheckBox *one : boxes) {
+        if (one->text() == ':' + state)
+            box = one;
+    }
+    QVERIFY(box);
+    m_window->activateWindow();
+    box->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(!m_window->pane()->inspection().element.states.contains(state));
+    box->click();
+    QVERIFY(m_window->pane()->inspection().element.states.contains(state));
+    box->click();
+    QVERIFY(!m_window->pane()->inspection().element.states.contains(state));
+    QCOMPARE(toggled.size(), 0);
+    box->click();
+    m_window.reset(); // all is put back
+    QVERIFY(m_button->isEnabled());
+    QVERIFY(!m_button->isDown() && !m_button->isChecked() && !m_button->focusProxy());
+}
+
+void tst_InspectorWindow::showsUsers()
+{
+    m_window->pane()->pick(m_button);
+    const InspectedValue *value = m_window->pane()->inspection().value("background-color");
+    QVERIFY(value);
+    m_window->pane()->showUsers({value->match.offset}, "the rule");
+    int frames = 0;
+    const auto children = m_program->findChildren<QWidget *>();
+    for (const QWidget *child : children)
+        frames += Outline::isFrame(child) ? 1 : 0;
+    QVERIFY(frames >= 2); // of the picked one, and of the user
+    m_window.reset();
+    const auto later = m_program->findChildren<QWidget *>();
+    for (const QWidget *child : later)
+        QVERIFY(!Outline::isFrame(child));
+}
+
+void tst_InspectorWindow::survivesDeath()
+{
+    m_window->pane()->pick(m_button);
+    delete m_button;
+    QCoreApplication::processEvents();
+    m_window->pane()->refresh();
+    QVERIFY(!m_window->pane()->pickedWidget());
+    m_window->pane()->pick(m_label);
+    m_program.reset();
+    QCoreApplication::processEvents();
+    m_window->pane()->refresh();
+}
+
+void tst_InspectorWindow::hasOneLook()
+{
+    m_window->pane()->pick(m_label);
+    m_program->hide();
+    const auto picture = [this](const char *name) {
+        m_theme.setName(name);
+        QCoreApplication::processEvents();
+        // The figures differ; the look of what shows them may not.
+        const auto lists = m_window->findChildren<QTreeWidget *>();
+        for (QTreeWidget *list : lists)
+            list->clear();
+        const auto labels = m_window->findChildren<QLabel *>();
+        for (QLabel *label : labels)
+            label->clear();
+        m_window->setFocus();
+        QCoreApplication::processEvents(); // a label without text is lower
+        return m_window->grab().toImage();
+    };
+    const QImage dark = picture("dark");
+    for (const char *name : {"light", "contrast"}) {
+        const QImage other = picture(name);
+        QVERIFY2(other == dark, name);
+    }
+    m_theme.setName("dark");
+}
+
+void tst_InspectorWindow::accessibleNames()
+{
+    const auto widgets = m_window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isInner = widget->objectName().startsWith("qt_")
+            || qobject_cast<QTabBar *>(widget) || qobject_cast<QAbstractButton *>(widget);
+        if (widget->focusPolicy() == Qt::NoFocus || isInner || !widget->isVisible()
+            || qobject_cast<QTabWidget *>(widget) || qobject_cast<QHeaderView *>(widget))
+            continue;
+        QVERIFY2(!widget->accessibleName().isEmpty(), widget->metaObject()->className());
+    }
+}
+
+QTEST_MAIN(tst_InspectorWindow)
+
+#include "tst_inspectorwindow.moc"
