@@ -272,7 +272,7 @@ void tst_ThemedIcon::disabled()
     const QString path = m_folder.write("full.svg", filled("global.theme.color.Color_Red_6"));
     QColor expected = m_theme.theme()->color("Color_Red_6");
     COMPARE_COLOR(middle(themedIcon(path)), expected);
-    expected.setAlphaF(0.45);
+    expected.setAlphaF(0.45F);
     COMPARE_COLOR(middle(themedIcon(path), QIcon::Disabled), expected);
     // A drawing for it goes before.
     QVERIFY(themedIcon("checkbox_on").pixmap(20, 20, QIcon::Disabled).toImage()
@@ -410,7 +410,7 @@ void tst_ThemedIcon::ownDrawing()
     QColor expected = color.startsWith('#') ? QColor(color)
         : color == "WindowText"             ? QApplication::palette().color(QPalette::WindowText)
                                             : m_theme.theme()->color(color);
-    expected.setAlphaF(expected.alphaF() * opacity);
+    expected.setAlphaF(decltype(expected.alphaF())(expected.alphaF() * opacity));
     COMPARE_COLOR(middle(themedIcon(path)), expected);
     middle(themedIcon(path)); // told once
 }
@@ -459,7 +459,9 @@ void tst_ThemedIcon::nothingFromOutside()
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
     text.replace("%1", QUrl::fromLocalFile(m_folder.filePath("red.png")).toEncoded());
-    text.replace("%2", "http://127.0.0.1:" + QByteArray::number(server.serverPort()) + "/red.png");
+    text.replace(
+        "%2",
+        QByteArray("http://127.0.0.1:" + QByteArray::number(server.serverPort()) + "/red.png"));
     text.replace("%3", m_folder.filePath("red.png").toUtf8());
     const QString path = m_folder.write(QString("out-%1.svg").arg(QTest::currentDataTag()), text);
     if (isTold)
