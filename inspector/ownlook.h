@@ -11,7 +11,7 @@
  * \brief Returns the style sheet of the inspector itself.
  *
  * The style sheet of a widget beats the application's, so what is set here no theme can change; it sets
- * whatever themes are wont to.
+ * whatever themes otherwise do.
  */
 QString inspectorStyleSheet();
 
