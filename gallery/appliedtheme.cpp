@@ -13,6 +13,7 @@
 #include <QImageReader>
 #include <QRegularExpression>
 #include <QSettings>
+#include <QTemporaryFile>
 
 #include <algorithm>
 
@@ -174,23 +175,29 @@ QStringList templateFiles(const QStringList &folders)
 }
 
 // Themes name images relative to the program that they are for. The library looks beside this one,
-// so it gets copies that name the same images from here.
-void copyWithImagesFrom(const QString &applicationFolder, const QString &theme, const QString &copy)
+// so it gets a text that names the same images from here.
+QByteArray textWithImagesFrom(const QString &applicationFolder, const QString &theme)
 {
-    QFile::remove(copy);
-    QFile::copy(theme, copy);
-    QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
-    QSettings settings(copy, QSettings::IniFormat);
-    settings.beginGroup(QStringLiteral("ImageFiles"));
-    const QDir ownFolder(QCoreApplication::applicationDirPath());
-    const QStringList keys = settings.childKeys();
-    for (const QString &key : keys) {
-        const QString path = settings.value(key).toString();
-        if (path.isEmpty() || path.startsWith(QLatin1String(":/")))
-            continue;
-        const QString file = QDir::cleanPath(applicationFolder + QLatin1Char('/') + path);
-        settings.setValue(key, ownFolder.relativeFilePath(file));
+    QFile file(theme);
+    QTemporaryFile copy;
+    if (!file.open(QIODevice::ReadOnly) || !copy.open()
+        || copy.write(HV::iniText(file.readAll())) < 0 || !copy.flush())
+        return {};
+    {
+        QSettings settings(copy.fileName(), QSettings::IniFormat);
+        settings.beginGroup(QStringLiteral("ImageFiles"));
+        const QDir ownFolder(QCoreApplication::applicationDirPath());
+        const QStringList keys = settings.childKeys();
+        for (const QString &key : keys) {
+            const QString path = settings.value(key).toString();
+            if (path.isEmpty() || path.startsWith(QLatin1String(":/")))
+                continue;
+            const QString image = QDir::cleanPath(applicationFolder + QLatin1Char('/') + path);
+            settings.setValue(key, ownFolder.relativeFilePath(image));
+        }
     }
+    QFile written(copy.fileName()); // a new file of that name
+    return written.open(QIODevice::ReadOnly) ? HV::asciiIniText(written.readAll()) : QByteArray();
 }
 
 } // namespace
@@ -277,12 +284,13 @@ Problem AppliedTheme::readProject(const ThemeSource &source)
 
 Problem AppliedTheme::apply(const ThemeSource &source)
 {
-    QString folder = source.themesFolder;
+    const QString folder = source.themesFolder;
+    QHash<QString, QByteArray> texts;
     if (!source.applicationFolder.isEmpty()) {
-        for (const QString &name : {defaultThemeName(), m_name})
-            copyWithImagesFrom(source.applicationFolder, themeFilePath(folder, name),
-                               themeFilePath(m_copies.path(), name));
-        folder = m_copies.path();
+        for (const QString &name : {defaultThemeName(), m_name}) {
+            const QString file = themeFilePath(folder, name);
+            texts.insert(file, textWithImagesFrom(source.applicationFolder, file));
+        }
     }
     const QStringList templateFolders =
         QStringList{":/gallery/stylesheet"} + source.templateFolders;
@@ -295,6 +303,10 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     }
     if (m_look.folder() != QFileInfo(folder).absoluteFilePath() && !m_look.setFolder(folder))
         return Problem::ThemesFolder;
+    if (texts != m_texts) { // else they are whoever's who changes themes in this program
+        m_texts = texts;
+        m_look.setUnsavedTexts(texts); // what is wrong with the look before is not asked
+    }
     const bool isApplied = m_look.setName(m_name);
     m_isLoaded = m_isLoaded || isApplied;
     if (isApplied)

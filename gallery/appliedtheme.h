@@ -5,8 +5,8 @@
 
 #include <hvthemeapp/applicationtheme.h>
 
+#include <QHash>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -83,7 +83,7 @@ private:
 
     HV::ApplicationTheme m_look;
     QStringList m_templateFolders; //!< that m_look has already
-    QTemporaryDir m_copies; //!< of themes of another application
+    QHash<QString, QByteArray> m_texts; //!< of theme files of another application, by path
     std::unique_ptr<ThemeProject> m_project; //!< of the last load(), good or not; may be null
     QString m_name; //!< in m_project
     QStringList m_files;

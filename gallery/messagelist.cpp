@@ -37,22 +37,18 @@ bool isPlatformRemark(const QString &text)
 
 } // namespace
 
-// Messages come in the middle of painting and polishing, where a model must not change under its
-// view; hence queued.
 MessageList::MessageList(QObject *parent)
     : QAbstractListModel(parent)
     , m_log([this](const LoggedMessage &message) {
         if (isPlatformRemark(message.text))
             return false;
-        QMetaObject::invokeMethod(
-            this,
-            [this, generation = m_generation, heard = Message{message.type, message.text}] {
-                append(generation, heard);
-            },
-            Qt::QueuedConnection);
+        Q_EMIT heard(m_generation, message.type, message.text, {});
         return true;
     })
 {
+    // Messages come in the middle of painting and polishing, where a model must not change under its
+    // view.
+    connect(this, &MessageList::heard, this, &MessageList::append, Qt::QueuedConnection);
 }
 
 MessageList::~MessageList() = default;
@@ -78,8 +74,9 @@ QVariant MessageList::data(const QModelIndex &index, int role) const
     return QString(severityName(message.severity) + QLatin1String(": ") + printable(message.text));
 }
 
-void MessageList::append(int generation, Message message)
+void MessageList::append(int generation, int severity, const QString &text)
 {
+    Message message{QtMsgType(severity), text};
     const QString places = m_findPlaces ? m_findPlaces(message.text) : QString();
     if (!places.isEmpty() && !message.text.contains(places))
         message.text += QLatin1String(" (") + places + QLatin1Char(')');

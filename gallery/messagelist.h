@@ -52,8 +52,12 @@ public:
     /*! \brief `Qt::DisplayRole`: severity, printable text and places, `critical: … (a.theme:3)`. */
     QVariant data(const QModelIndex &index, int role) const override;
 
+Q_SIGNALS:
+    /*! \brief A message came, on the thread that it came from; for append(). */
+    void heard(int generation, int severity, const QString &text, QPrivateSignal);
+
 private:
-    void append(int generation, Message message);
+    void append(int generation, int severity, const QString &text);
 
     PlaceFinder m_findPlaces;
     QVector<Message> m_messages;

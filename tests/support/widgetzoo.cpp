@@ -3,15 +3,19 @@
 
 #include "widgetzoo.h"
 
+#include <gallery/heldstate.h>
+
 #include <QtWidgets>
 
 namespace Zoo
 {
 
+using Gallery::holdFocus;
+using Gallery::holdHover;
+
 namespace
 {
 
-const char *const focusProperty = "zooFocus";
 const char *const openProperty = "zooOpen";
 
 template<typename Widget>
@@ -977,8 +981,7 @@ void settle(QWidget *window)
     window->setAttribute(Qt::WA_DontShowOnScreen);
     window->show();
     QApplication::setActiveWindow(window);
-    // Only one widget can have the focus; a widget whose proxy has it looks focused through Qt's
-    // own code.
+    // What is to look focused follows it.
     auto *anchor = new QWidget(window);
     anchor->setFocusPolicy(Qt::StrongFocus);
     anchor->resize(0, 0);
@@ -986,8 +989,6 @@ void settle(QWidget *window)
     anchor->setFocus();
     const auto all = window->findChildren<QWidget *>();
     for (QWidget *widget : all) {
-        if (widget->property(focusProperty).toBool())
-            widget->setFocusProxy(anchor);
         if (widget->property(openProperty).toBool())
             open(widget);
     }
@@ -1011,23 +1012,6 @@ QList<QWidget *> windows(QWidget *window)
             all.append(popup);
     }
     return all;
-}
-
-void holdHover(QWidget *widget)
-{
-    widget->setAttribute(Qt::WA_Hover);
-    widget->setAttribute(Qt::WA_UnderMouse);
-    // A button believes in the mouse only once it has moved within the part that can be clicked.
-    widget->setMouseTracking(true);
-    widget->adjustSize();
-    const QPointF position(6, widget->height() / 2.0);
-    QMouseEvent move(QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &move);
-}
-
-void holdFocus(QWidget *widget)
-{
-    widget->setProperty(focusProperty, true);
 }
 
 } // namespace Zoo

@@ -31,12 +31,6 @@ void settle(QWidget *window);
 /*! \a window after settle(), and the pop-ups that it has open. */
 QList<QWidget *> windows(QWidget *window);
 
-/*! Makes \a widget look as if the mouse were over it. */
-void holdHover(QWidget *widget);
-
-/*! Makes \a widget look as if it had the focus, from settle() on. */
-void holdFocus(QWidget *widget);
-
 } // namespace Zoo
 
 #endif
