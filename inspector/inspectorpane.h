@@ -56,6 +56,9 @@ public:
 
     static bool isOwn(const QWidget *widget);
 
+    /*! \brief Lets \a finder say what the user points at, see Picker::setFinder(). */
+    void setFinder(Picker::Finder finder) { m_picker.setFinder(std::move(finder)); }
+
 Q_SIGNALS:
     void picked(QWidget *widget);
 

@@ -18,19 +18,26 @@ class Frame final : public QWidget
     Q_OBJECT
 
 public:
-    explicit Frame(QWidget *window)
+    Frame(QWidget *window, QWidget *framed, const QRect &rect)
         : QWidget(window)
+        , m_framed(framed)
+        , m_rect(rect)
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
         setFocusPolicy(Qt::NoFocus);
+        for (QWidget *each = framed; each && each != window; each = each->parentWidget())
+            each->installEventFilter(this);
+        follow();
     }
 
-    void setRect(const QRect &rect)
+    bool eventFilter(QObject *object, QEvent *event) override
     {
-        setGeometry(rect);
-        const int t = qMin(thickness, qMin(rect.width(), rect.height()) / 2);
-        setMask(QRegion(this->rect()) - QRegion(this->rect().adjusted(t, t, -t, -t)));
+        const auto type = event->type();
+        if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::Show
+            || type == QEvent::Hide)
+            follow();
+        return QWidget::eventFilter(object, event);
     }
 
 protected:
@@ -42,6 +49,29 @@ protected:
         painter.setPen(QPen(QColor(220, 0, 120), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
+
+private:
+    // What scrolls in a view is seen only as far as the view goes.
+    void follow()
+    {
+        if (!m_framed)
+            return;
+        QWidget *window = parentWidget();
+        const QRect place(m_framed->mapTo(window, m_rect.topLeft()), m_rect.size());
+        QRect seen = window->rect();
+        for (const QWidget *each = m_framed->parentWidget(); each && each != window;
+             each = each->parentWidget())
+            seen &= QRect(each->mapTo(window, QPoint()), each->size());
+        setGeometry(place);
+        const int t = qMin(thickness, qMin(place.width(), place.height()) / 2);
+        const QRegion ring = QRegion(rect()) - QRegion(rect().adjusted(t, t, -t, -t));
+        const QRegion seenRing = ring & seen.translated(-place.topLeft());
+        setMask(seenRing);
+        setVisible(m_framed->isVisible() && !seenRing.isEmpty()); // an empty mask would be none
+    }
+
+    QPointer<QWidget> m_framed;
+    const QRect m_rect;
 };
 
 } // namespace
@@ -57,10 +87,8 @@ void Outline::add(QWidget *widget, const QRect &rect)
     // A splitter takes every child for one of its panes.
     if (!widget->isVisible() || qobject_cast<QSplitter *>(window))
         return;
-    auto *frame = new Frame(window);
     const QRect area = rect.isEmpty() ? widget->rect() : rect & widget->rect();
-    frame->setRect(QRect(widget->mapTo(window, area.topLeft()), area.size()));
-    frame->show();
+    auto *frame = new Frame(window, widget, area);
     frame->raise();
     m_frames.append(frame);
 }

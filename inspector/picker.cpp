@@ -26,7 +26,7 @@ void Picker::setPicking(bool picking)
 
 QWidget *Picker::widgetAt(const QPoint &position) const
 {
-    QWidget *widget = QApplication::widgetAt(position);
+    QWidget *widget = m_find ? m_find(position) : QApplication::widgetAt(position);
     return widget && !m_isOwn(widget) ? widget : nullptr;
 }
 

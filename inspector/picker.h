@@ -26,6 +26,15 @@ public:
     /*! \brief Leaves those widgets alone that \a isOwn says yes to. */
     explicit Picker(std::function<bool(const QWidget *)> isOwn, QObject *parent = nullptr);
 
+    /*! \brief Returns the widget that is seen at a place of the screen, or null. */
+    using Finder = std::function<QWidget *(const QPoint &place)>;
+
+    /*!
+     * \brief Lets \a finder say what is seen, where Qt does not: in a view that is zoomed, or of widgets
+     *        that let the mouse through.
+     */
+    void setFinder(Finder finder) { m_find = std::move(finder); }
+
     bool isPicking() const { return m_isPicking; }
     void setPicking(bool picking);
 
@@ -41,6 +50,7 @@ private:
     bool filterMouse(QEvent *event);
 
     const std::function<bool(const QWidget *)> m_isOwn;
+    Finder m_find;
     Outline m_outline;
     bool m_isPicking = false;
     bool m_isRelease = false; // the one that belongs to a click that was taken

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void picksByClick();
     void picksDirectly();
     void escapeEndsPicking();
+    void picksWhatIsFound();
+    void frameFollows();
     void picksInMenus();
     void worksBesideModalDialogs();
     void doesNotListItself();
@@ -121,6 +123,53 @@ void tst_InspectorWindow::escapeEndsPicking()
     QVERIFY(!pick->isChecked());
     QTest::mouseClick(m_button, Qt::LeftButton);
     QVERIFY(!m_window->pane()->pickedWidget());
+}
+
+// The program knows better than Qt what is seen where.
+void tst_InspectorWindow::picksWhatIsFound()
+{
+    m_window->pane()->setFinder([this](const QPoint &place) -> QWidget * {
+        return QApplication::widgetAt(place) == m_label ? m_button : nullptr;
+    });
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->pane()->pickedWidget(), m_button);
+    m_window->pane()->setFinder({});
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->pane()->pickedWidget(), m_label);
+}
+
+void tst_InspectorWindow::frameFollows()
+{
+    QScrollArea area;
+    auto *contents = new QWidget;
+    contents->setFixedSize(300, 600);
+    auto *button = new QPushButton(contents);
+    button->setGeometry(10, 40, 80, 30);
+    area.setWidget(contents);
+    area.resize(200, 150);
+    area.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&area));
+    m_window->pane()->pick(button);
+    QWidget *frame = nullptr;
+    const auto children = area.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children)
+        frame = Outline::isFrame(child) ? child : frame;
+    QVERIFY(frame);
+    const auto place = [&] { return QRect(button->mapTo(&area, QPoint()), button->size()); };
+    QCOMPARE(frame->geometry(), place());
+    area.verticalScrollBar()->setValue(25);
+    QCOMPARE(frame->geometry(), place());
+    QVERIFY(frame->isVisible());
+    area.verticalScrollBar()->setValue(60); // half of it is out of sight
+    QVERIFY(frame->isVisible());
+    const int edge = area.viewport()->y() - frame->y(); // of the view, in the frame
+    QVERIFY(edge > 0 && edge < frame->height());
+    QVERIFY(!frame->mask().contains(QPoint(1, edge - 1)));
+    QVERIFY(frame->mask().contains(QPoint(1, edge)));
+    area.verticalScrollBar()->setValue(200);
+    QVERIFY(!frame->isVisible());
+    area.verticalScrollBar()->setValue(0);
+    QVERIFY(frame->isVisible());
 }
 
 void tst_InspectorWindow::picksInMenus()
