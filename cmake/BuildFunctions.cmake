@@ -3,6 +3,8 @@
 
 # What the folders of this project have in common; none of it is installed.
 
+include(GenerateExportHeader)
+
 # Language level, warnings, visibility and sanitizers of every target.
 function(hvtheme_set_defaults target)
     set_target_properties(${target} PROPERTIES AUTOMOC ON CXX_STANDARD 17 CXX_STANDARD_REQUIRED ON CXX_EXTENSIONS OFF
@@ -53,6 +55,47 @@ function(hvtheme_install_program target)
         set(export EXPORT ${arg_EXPORT})
     endif()
     install(TARGETS ${target} ${export} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${arg_COMPONENT})
+endfunction()
+
+# hvtheme_set_up_public_library(<target> EXPORT <export> HEADERS <file>... [STATIC_LIBS <flag>...])
+#
+# What all libraries for others share: the export header, include folders, version and name, what a
+# static build needs, and the installation. Headers go to a folder named after the current one, beside
+# <target>.pc. STATIC_LIBS are flags that pkg-config adds for a static library.
+function(hvtheme_set_up_public_library target)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "EXPORT" "HEADERS;STATIC_LIBS")
+    hvtheme_set_defaults(${target})
+    generate_export_header(${target} EXPORT_FILE_NAME ${target}_export.h)
+    target_include_directories(${target} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
+        $<BUILD_INTERFACE:${PROJECT_BINARY_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_compile_definitions(${target} PRIVATE QT_NO_CAST_FROM_ASCII)
+    set_target_properties(${target} PROPERTIES
+        OUTPUT_NAME ${target}${HVTHEME_SUFFIX}
+        VERSION ${PROJECT_VERSION}
+        SOVERSION ${PROJECT_VERSION_MAJOR})
+
+    set(static_flags "")
+    set(static_libs "")
+    get_target_property(library_type ${target} TYPE)
+    if(library_type STREQUAL "STATIC_LIBRARY")
+        string(TOUPPER ${target} macro)
+        target_compile_definitions(${target} PUBLIC ${macro}_STATIC_DEFINE)
+        set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+        set(static_flags "-D${macro}_STATIC_DEFINE")
+        list(JOIN arg_STATIC_LIBS " " static_libs)
+    endif()
+
+    install(TARGETS ${target} EXPORT ${arg_EXPORT}
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Runtime
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Runtime NAMELINK_COMPONENT Development
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT Development)
+    # The same for every Qt.
+    get_filename_component(folder ${CMAKE_CURRENT_SOURCE_DIR} NAME)
+    install(FILES ${arg_HEADERS} ${CMAKE_CURRENT_BINARY_DIR}/${target}_export.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder} COMPONENT Development)
+    hvtheme_install_pkg_config(${target})
 endfunction()
 
 # hvtheme_install_pkg_config(<name>)

@@ -32,7 +32,7 @@ struct LookInForce {
 LookInForce &lookInForce();
 
 /*! What an application theme knows. Internal. */
-class ApplicationTheme::Private
+class HVTHEMEAPP_NO_EXPORT ApplicationTheme::Private
 {
 public:
     explicit Private(std::unique_ptr<Theme> ownTheme)

@@ -55,7 +55,7 @@ std::optional<DesktopSettings::ColorScheme> platformScheme()
 
 } // namespace
 
-class DesktopSettings::Private
+class HVTHEMEAPP_NO_EXPORT DesktopSettings::Private
 {
 public:
     explicit Private(const QPalette &startPalette)

@@ -22,8 +22,8 @@ OWN = re.compile(
     r"|qt_plugin_(instance|query_metadata)(_v2)?$"
     r"|(__bss_start|_edata|_end|_init|_fini)$"
 )
-# Inline functions and types of Qt and of the standard library.
-OTHERS = re.compile(r"_Z(T[VIS]|NK?|ZNK?|eq|ls)?N?K?(\d+(Q|q)\w|St|S[abs]|9__gnu_cxx)")
+# Inline functions and types of Qt and of the standard library, and types of functions.
+OTHERS = re.compile(r"_Z(T[VIS]|NK?|ZNK?|eq|ls)?N?K?(\d+(Q|q)\w|St|S[abs]|9__gnu_cxx)|_ZT[IS]P?F")
 
 
 def output_of(*command):

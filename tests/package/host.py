@@ -8,12 +8,15 @@
 Exit codes: 0 all is well, 1 something is not, 2 wrong usage.
 """
 
+import os
 import pathlib
 import shutil
 import sys
 
 from steps import Failure, expect, run
 
+# What the programs print that use the application library and the inspector, which are there with all of Qt.
+USES = {"application": "dark, dark, styled, icons\n", "inspected": "closed, open, closed\n"}
 HERE = pathlib.Path(__file__).resolve().parent
 
 
@@ -28,6 +31,13 @@ def check(work, sources, options):
     templates = "".join(path.read_text() for path in (sources / "hvtheme/stylesheet").glob("*.qss"))
     output, _ = run(build / "host")
     expect(output == f"{templates.count('{')}\n", f"the host printed {output!r} rules")
+    environment = {**os.environ, "QT_QPA_PLATFORM": "offscreen"}
+    has_all = not any("DISABLE_FIND_PACKAGE" in option for option in options)
+    for program, expected in USES.items() if has_all else ():
+        output, _ = run(build / program, env=environment)
+        expect(output == expected, f"{program} printed {output!r}")
+        libraries, _ = run("ldd", build / program)
+        expect("libhvtheme" not in libraries, f"{program} is not static:\n{libraries}")
     expect(len(list((build / "icons/dark").glob("*.svg"))) == 85, "the host has not got its icons")
     expect(not list(build.glob("hvtheme/share/**/*.svg")), "the host built the sample icons")
     expect(not list(build.glob("hvtheme/**/hvtheme-gallery")), "the host built the gallery")
