@@ -474,44 +474,56 @@ void tst_WidgetLook::disabled()
 void tst_WidgetLook::sizeHint_data()
 {
     QTest::addColumn<Make>("make");
+    QTest::addColumn<int>("fontSize");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
 
+    const auto add = [](const char *name, Make make) {
+        QTest::addRow("%s", name) << make << 0 << Qt::LeftToRight;
+        QTest::addRow("%s-right-to-left", name) << make << 0 << Qt::RightToLeft;
+        QTest::addRow("%s-24-px", name) << make << 24 << Qt::LeftToRight;
+    };
     for (const Control &control : bordered)
-        QTest::newRow(control.name) << control.make;
+        add(control.name, control.make);
     for (const Control &control : boxes)
-        QTest::newRow(control.name) << control.make;
+        add(control.name, control.make);
     for (const Control &control : others)
-        QTest::newRow(control.name) << control.make;
-    QTest::newRow("QProgressBar") << Make([]() -> QWidget * { return new QProgressBar; });
-    QTest::newRow("QScrollBar") << Make(range<Qt::Vertical, QScrollBar>);
-    QTest::newRow("QSlider-upright") << Make(range<Qt::Vertical, QSlider>);
-    QTest::newRow("QLabel") << Make(textual<QLabel>);
-    QTest::newRow("QDial") << Make(filled<QDial>);
-    QTest::newRow("QLCDNumber") << Make([]() -> QWidget * { return new QLCDNumber; });
-    QTest::newRow("QTreeView") << Make(viewOfRows<QTreeView>);
-    QTest::newRow("QTableView") << Make(viewOfRows<QTableView>);
-    QTest::newRow("QCalendarWidget") << Make(filled<QCalendarWidget>);
-    QTest::newRow("QDialogButtonBox") << Make([]() -> QWidget * {
+        add(control.name, control.make);
+    add("QPushButton-short", []() -> QWidget * { return new QPushButton("OK"); });
+    add("QPushButton-longer", []() -> QWidget * { return new QPushButton("Settings..."); });
+    add("QPushButton-icon", []() -> QWidget * {
+        return new QPushButton(QApplication::style()->standardIcon(QStyle::SP_FileIcon), QString());
+    });
+    add("QProgressBar", Make([]() -> QWidget * { return new QProgressBar; }));
+    add("QScrollBar", range<Qt::Vertical, QScrollBar>);
+    add("QSlider-upright", range<Qt::Vertical, QSlider>);
+    add("QLabel", textual<QLabel>);
+    add("QDial", filled<QDial>);
+    add("QLCDNumber", Make([]() -> QWidget * { return new QLCDNumber; }));
+    add("QTreeView", viewOfRows<QTreeView>);
+    add("QTableView", viewOfRows<QTableView>);
+    add("QCalendarWidget", filled<QCalendarWidget>);
+    add("QDialogButtonBox", []() -> QWidget * {
         return new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     });
-    QTest::newRow("QMenuBar") << Make([]() -> QWidget * {
+    add("QMenuBar", []() -> QWidget * {
         auto *bar = new QMenuBar;
         bar->addMenu("File");
         bar->addMenu("Edit");
         return bar;
     });
-    QTest::newRow("QToolBar") << Make([]() -> QWidget * {
+    add("QToolBar", []() -> QWidget * {
         auto *bar = new QToolBar;
         bar->addAction(QApplication::style()->standardIcon(QStyle::SP_FileIcon), "Open");
         bar->addAction("Text");
         return bar;
     });
-    QTest::newRow("QTabWidget") << Make([]() -> QWidget * {
+    add("QTabWidget", []() -> QWidget * {
         auto *tabs = new QTabWidget;
         tabs->addTab(new QLabel("Some contents of a page"), "First");
         tabs->addTab(new QLabel("Second"), "Second");
         return tabs;
     });
-    QTest::newRow("QHeaderView") << Make([]() -> QWidget * {
+    add("QHeaderView", []() -> QWidget * {
         auto *header = new QHeaderView(Qt::Horizontal);
         auto *model = new QStandardItemModel(1, 2, header);
         model->setHorizontalHeaderLabels({"Name", "Size"});
@@ -523,22 +535,33 @@ void tst_WidgetLook::sizeHint_data()
 void tst_WidgetLook::sizeHint()
 {
     QFETCH(Make, make);
+    QFETCH(int, fontSize);
+    QFETCH(Qt::LayoutDirection, direction);
 
+    const QFont font = QApplication::font();
+    const auto setFont = [&font](int size) {
+        QFont same = font;
+        same.setPixelSize(size);
+        QApplication::setFont(same);
+    };
+    if (fontSize)
+        setFont(fontSize);
+    QGuiApplication::setLayoutDirection(direction);
     const auto hint = [&] {
         Stage stage(make);
         return QSizeF(stage.control()->sizeHint());
     };
     HV::ApplicationTheme theme;
+    theme.setKeepsFonts(fontSize != 0);
     QVERIFY(theme.setName("dark"));
     const QSizeF themed = hint();
     // The same font, and nothing else.
     qApp->setStyleSheet(QString());
-    const QFont font = QApplication::font();
-    QFont same = font;
-    same.setPixelSize(int(theme.theme()->integer("FontSize_L")));
-    QApplication::setFont(same);
+    if (!fontSize)
+        setFont(int(theme.theme()->integer("FontSize_L")));
     const QSizeF plain = hint();
     QApplication::setFont(font);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     const QString sizes = QString("%1 x %2 for %3 x %4")
                               .arg(themed.width())
                               .arg(themed.height())

@@ -109,14 +109,16 @@ private:
 class TextRecorder::Engine final : public QPaintEngine
 {
 public:
-    explicit Engine(const QSize &size)
+    Engine(const QSize &size, qreal pixels)
         : QPaintEngine(AllFeatures)
-        , image(size, QImage::Format_RGB32)
+        , image(size * pixels, QImage::Format_RGB32)
+        , ratio(pixels)
     {
         image.fill(Qt::black);
     }
 
-    QImage image;
+    QImage image; // of the screen's pixels: whoever paints is told of the ratio, and scales
+    const qreal ratio;
     QVector<RecordedText> texts;
     const PaintWatcher *watcher = nullptr;
 
@@ -232,13 +234,13 @@ private:
         const QString text = item.text().trimmed();
         const QRectF own(position.x(), position.y() - item.ascent(), item.width(),
                          item.ascent() + item.descent());
-        QRect rect = m_painter.transform().mapRect(own).toAlignedRect() & image.rect();
+        QRectF clip = image.rect();
         if (!systemClip().isEmpty())
-            rect &= systemClip().boundingRect();
-        if (m_painter.hasClipping()) {
-            const QRectF clip = m_painter.clipBoundingRect();
-            rect &= m_painter.transform().mapRect(clip).toAlignedRect();
-        }
+            clip &= systemClip().boundingRect();
+        if (m_painter.hasClipping())
+            clip &= m_painter.transform().mapRect(m_painter.clipBoundingRect());
+        const QRect rect =
+            m_painter.transform().mapRect(own).toAlignedRect() & clip.toAlignedRect();
         if (text.isEmpty() || rect.width() < 2 || rect.height() < 2)
             return;
         QColor pen = m_painter.pen().color();
@@ -252,13 +254,17 @@ private:
             kept.contrast = contrast;
             kept.ground = ground;
         }
+        const QTransform toWindow = QTransform::fromScale(1 / ratio, 1 / ratio);
+        QPainterPath glyphs;
+        glyphs.addText(position, item.font(), item.text());
         kept.text = text;
-        kept.rect = rect;
+        kept.rect = toWindow.mapRect(rect);
+        kept.ink = toWindow.mapRect(m_painter.transform().mapRect(glyphs.boundingRect()));
+        kept.clip = toWindow.mapRect(clip);
         kept.pen = ColorMath::over(pen, kept.ground);
         if (const QWidget *widget = watcher ? watcher->widget() : nullptr) {
-            const QPoint place = widget->mapFrom(widget->window(), rect.center());
-            kept.enabled = widget->isEnabled() && !isDisabledPart(widget, place)
-                && !isPenOfDisabledText(asked, widget->palette());
+            kept.drawnBy = widget;
+            kept.enabled = widget->isEnabled() && !isPenOfDisabledText(asked, widget->palette());
             kept.widget = nameOf(widget);
             if (const QWidget *parent = widget->parentWidget())
                 kept.widget += QLatin1String(" in ") + nameOf(parent);
@@ -285,8 +291,8 @@ private:
     QPainter m_painter;
 };
 
-TextRecorder::TextRecorder(const QSize &size)
-    : TextRecorder(std::make_unique<Engine>(size))
+TextRecorder::TextRecorder(const QSize &size, qreal ratio)
+    : TextRecorder(std::make_unique<Engine>(size, ratio))
 {
 }
 
@@ -303,8 +309,16 @@ void TextRecorder::record(QWidget *window)
 {
     const PaintWatcher watcher;
     m_engine->watcher = &watcher;
+    const int first = int(m_engine->texts.size());
     window->render(this);
     m_engine->watcher = nullptr;
+    // Asked while it paints, a view may lay its items out anew, and its delegate the text at hand.
+    for (int i = first; i < m_engine->texts.size(); ++i) {
+        RecordedText &text = m_engine->texts[i];
+        const QWidget *widget = text.drawnBy;
+        if (widget && isDisabledPart(widget, widget->mapFrom(window, text.rect.center())))
+            text.enabled = false;
+    }
 }
 
 const QVector<RecordedText> &TextRecorder::texts() const
@@ -345,7 +359,9 @@ int TextRecorder::metric(PaintDeviceMetric metric) const
     case PdmPhysicalDpiY:
         return image.logicalDpiY();
     case PdmDevicePixelRatio:
-        return 1;
+        return int(m_engine->ratio);
+    case PdmDevicePixelRatioScaled:
+        return qRound(m_engine->ratio * devicePixelRatioFScale());
     default:
         return QPaintDevice::metric(metric);
     }

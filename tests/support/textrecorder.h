@@ -6,12 +6,12 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPointer>
 #include <QRect>
 #include <QVector>
+#include <QWidget>
 
 #include <memory>
-
-class QWidget;
 
 /*! One run of text as it was drawn. */
 struct RecordedText {
@@ -22,6 +22,9 @@ struct RecordedText {
     double contrast = 21;
     QString widget; /*!< class and object name of who drew it, and of its window */
     bool enabled = true; /*!< the widget, the part of it and, by its colour, the text */
+    QRectF ink; /*!< in the window, of all its glyphs, seen or not */
+    QRectF clip; /*!< in the window, where they can be seen */
+    QPointer<const QWidget> drawnBy;
 };
 
 /*!
@@ -32,10 +35,11 @@ struct RecordedText {
 class TextRecorder final : public QImage
 {
 public:
-    explicit TextRecorder(const QSize &size);
+    /*! For a window of \a size, on a screen of \a ratio pixels for each of its. */
+    explicit TextRecorder(const QSize &size, qreal ratio = 1);
     ~TextRecorder() override;
 
-    /*! Draws \a window with everything in it. */
+    /*! Draws \a window with everything in it; all places are in the window's own pixels. */
     void record(QWidget *window);
 
     const QVector<RecordedText> &texts() const;

@@ -91,6 +91,9 @@ QWidget *pushButtons()
     auto *link = new QCommandLinkButton("Command link", "What it does, in a sentence.");
     form->addRow("Link", link);
     form->addRow("Link, off", disabled(new QCommandLinkButton("Off", "Not at this time.")));
+    row(form, "No wider",
+        {new QCommandLinkButton("A title longer than others"),
+         new QCommandLinkButton("Title", "What it does, in a sentence longer than its title.")});
     form->addRow(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel
                                       | QDialogButtonBox::Apply | QDialogButtonBox::Help));
     return window;
