@@ -6,6 +6,7 @@
 #include "widgetzoo.h"
 
 #include <colormath/contrast.h>
+#include <gallery/heldstate.h>
 #include <hvtheme/theme.h>
 #include <hvtheme/theming.h>
 #include <hvthemeapp/applicationtheme.h>
@@ -342,7 +343,7 @@ void tst_WidgetLook::focus()
     HV::ApplicationTheme theme;
     QVERIFY(theme.setName(look));
     Stage without(make);
-    Stage with(make, Zoo::holdFocus);
+    Stage with(make, Gallery::holdFocus);
     const QImage before = without.picture();
     const QImage after = with.picture();
     QCOMPARE(before.size(), after.size()); // the focus moves nothing
@@ -746,7 +747,7 @@ void tst_WidgetLook::templateProperty()
             button->setChecked(state == "checked");
             button->setDown(state == "pressed");
             if (state == "hovered")
-                Zoo::holdHover(button);
+                Gallery::holdHover(button);
         });
         return stage.picture();
     };
