@@ -185,9 +185,11 @@ QColor Reader::colorOfObject(const QString &name, const QJsonObject &value)
         const QJsonArray components = value.value(QStringLiteral("components")).toArray();
         if (components.size() != 3)
             fail(name, QStringLiteral("an sRGB colour has three components"));
-        const auto channel = [&](int i) { return qBound(0.0, components.at(i).toDouble(0), 1.0); };
-        color = QColor::fromRgbF(channel(0), channel(1), channel(2)).toRgb();
-        color = QColor(color.rgb());
+        // From integers, for the fractions of colours have fewer digits from Qt 6 on.
+        const auto channel = [&](int i) {
+            return quint16(qRound(qBound(0.0, components.at(i).toDouble(0), 1.0) * 0xffff));
+        };
+        color = QColor(QColor::fromRgba64(channel(0), channel(1), channel(2)).rgb());
     } else {
         fail(name, QStringLiteral("of colour spaces other than srgb only \"hex\" is read"));
     }

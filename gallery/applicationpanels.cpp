@@ -101,7 +101,7 @@ QTableWidget *createPatchTable()
 {
     constexpr int outputs = 8;
     const QStringList fixtures{"Spot 1", "Spot 2", "Wash 1", "Wash 2", "Strobe", "Haze"};
-    auto *table = new QTableWidget(fixtures.size(), outputs);
+    auto *table = new QTableWidget(int(fixtures.size()), outputs);
     table->setProperty("style", QStringLiteral("audioMappingTableWidget"));
     table->setVerticalHeaderLabels(fixtures);
     QStringList titles;

@@ -82,7 +82,8 @@ void MessageList::append(int generation, int severity, const QString &text)
         message.text += QLatin1String(" (") + places + QLatin1Char(')');
     if (generation != m_generation || m_messages.contains(message))
         return;
-    beginInsertRows({}, m_messages.size(), m_messages.size());
+    const int row = int(m_messages.size());
+    beginInsertRows({}, row, row);
     m_messages.append(message);
     endInsertRows();
 }

@@ -47,7 +47,7 @@ void ReportModel::setRows(const QVector<ReportRow> &rows)
     if (rows.size() == m_rows.size()) { // so that a view stays where it is scrolled to
         m_rows = rows;
         if (!rows.isEmpty())
-            Q_EMIT dataChanged(index(0, 0), index(rows.size() - 1, columnCount() - 1));
+            Q_EMIT dataChanged(index(0, 0), index(int(rows.size()) - 1, columnCount() - 1));
         return;
     }
     beginResetModel();

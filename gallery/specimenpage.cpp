@@ -38,7 +38,7 @@ QString wrapped(const QString &text)
         if (column > 0)
             lines += QLatin1Char(breaks ? '\n' : ' ');
         lines += word;
-        column = (breaks ? 0 : column) + word.size() + 1;
+        column = (breaks ? 0 : column) + int(word.size()) + 1;
     }
     return lines;
 }

@@ -131,7 +131,7 @@ SelectorVerdict whyNot(const QString &text, const StyleElement &element)
     verdict.pieces = objectPieces(selector.subject(), element.path.constFirst())
         + statePieces(selector, element);
     int node = 0;
-    for (int i = selector.steps.size() - 2; i >= 0; --i) {
+    for (int i = int(selector.steps.size()) - 2; i >= 0; --i) {
         const StyleSelector::Step &step = selector.steps.at(i);
         const Combinator joint = selector.steps.at(i + 1).combinator;
         SelectorPiece piece{step.type, true, {}};

@@ -32,7 +32,7 @@ const QColor textColor(0x14, 0x18, 0x1f);
 const QColor quietColor(0x54, 0x5c, 0x69);
 const QColor edgeColor(128, 128, 128, 90);
 
-QFont font(int pixelSize, int weight = QFont::Normal)
+QFont font(int pixelSize, QFont::Weight weight = QFont::Normal)
 {
     QFont result(QStringLiteral("sans-serif"));
     result.setPixelSize(pixelSize);
@@ -71,7 +71,7 @@ public:
     Picture(const SheetModel &model, QPainter *painter)
         : m_model(model)
         , m_painter(*painter)
-        , m_themeCount(model.themes().size())
+        , m_themeCount(int(model.themes().size()))
     {
     }
 
@@ -113,7 +113,7 @@ int Picture::runWidth() const
     int longest = 0;
     const QVector<SheetRun> runs = m_model.runs();
     for (const SheetRun &run : runs)
-        longest = qMax(longest, run.keys.size());
+        longest = qMax(longest, int(run.keys.size()));
     return runNameWidth + longest * swatchWidth;
 }
 
@@ -318,7 +318,7 @@ void Picture::drawImages()
         text(QRect(card.left(), card.bottom() + 4, cardWidth, 18), font(11), quietColor,
              keys.at(i));
     }
-    m_y += (keys.size() + perLine - 1) / perLine * 84;
+    m_y += (int(keys.size()) + perLine - 1) / perLine * 84;
 }
 
 int Picture::draw()

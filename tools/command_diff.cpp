@@ -111,7 +111,7 @@ int runDiff(const QStringList &arguments)
     const QString summary =
         countText(differing, QLatin1String("value differs"), QLatin1String("values differ"))
         % QLatin1String(", ")
-        % countText(pairs.size() - differing, QLatin1String("is the same\n"),
+        % countText(int(pairs.size()) - differing, QLatin1String("is the same\n"),
                     QLatin1String("are the same\n"));
     const QString text = differing == 0 ? summary : table.text() % QLatin1Char('\n') % summary;
     if (!writeStandardOutput(text))

@@ -23,7 +23,7 @@ QString TextTable::text() const
     QVector<int> widths(m_rows.constFirst().size());
     for (const QStringList &row : m_rows) {
         for (int column = 0; column < row.size(); ++column)
-            widths[column] = qMax(widths.at(column), row.at(column).size());
+            widths[column] = qMax(widths.at(column), int(row.at(column).size()));
     }
 
     QString text;

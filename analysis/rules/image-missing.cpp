@@ -29,7 +29,7 @@ void check(const ThemeProject &project, Report &report)
     }
     for (const MissingImages &group : qAsConst(missing)) {
         const ThemeImage &first = *group.images.first();
-        const int count = group.images.size();
+        const int count = int(group.images.size());
         const QString others =
             count == 1 ? QString() : QStringLiteral(" (and %1 more in its folder)").arg(count - 1);
         report.addAtValue(*first.definition,

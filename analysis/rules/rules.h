@@ -19,7 +19,7 @@ struct ColorText {
     bool isResolved = false; //!< whether it names a palette entry that is stored by then
 
     QString text() const { return value.toString(); }
-    bool isList() const { return value.type() == QVariant::StringList; }
+    bool isList() const { return value.userType() == QMetaType::QStringList; }
     /*! \brief Tells whether the palette entry that the text names is stored only later. */
     bool isNamedTooEarly(const ThemeStack &stack) const;
 };

@@ -63,7 +63,7 @@ ThemeValues ThemeValues::read(const QByteArray &content)
     }
     const QStringList keys = settings.allKeys();
     for (const QString &key : keys) {
-        if (settings.value(key).type() == QVariant::StringList)
+        if (settings.value(key).userType() == QMetaType::QStringList)
             result.listKeys << key;
     }
     return result;

@@ -29,7 +29,7 @@ struct ThemeValue {
     /*! \brief Returns the value as text; empty for a list, as for the library. */
     QString text() const { return value.toString(); }
     /*! \brief Tells whether commas outside quotation marks made a list of the value. */
-    bool isList() const { return value.type() == QVariant::StringList; }
+    bool isList() const { return value.userType() == QMetaType::QStringList; }
     /*! \brief Tells whether the library stores a gradient of this value. */
     bool isValidGradient() const;
 };

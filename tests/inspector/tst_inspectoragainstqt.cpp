@@ -156,7 +156,7 @@ void tst_InspectorAgainstQt::paintedIsNamed()
 {
     QFETCH(int, page);
     m_row = QTest::currentDataTag();
-    const int dialogs = page - Zoo::pages().size();
+    const int dialogs = page - int(Zoo::pages().size());
     const std::unique_ptr<QWidget> window(dialogs < 0 ? Zoo::pages().at(page).make()
                                                       : Zoo::dialogs().at(dialogs).make());
     Zoo::settle(window.get());

@@ -245,7 +245,7 @@ private:
             return;
         QColor pen = m_painter.pen().color();
         const QColor asked = pen;
-        pen.setAlphaF(pen.alphaF() * m_painter.opacity());
+        pen.setAlpha(qRound(pen.alpha() * m_painter.opacity()));
         RecordedText kept;
         for (const QColor &ground : groundsIn(image, rect)) {
             const double contrast = ColorMath::contrastRatio(pen, ground);
