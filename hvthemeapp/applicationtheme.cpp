@@ -191,6 +191,11 @@ bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
     return d->name.isNull() || apply(d->nameFolder, d->name);
 }
 
+QHash<QString, QByteArray> ApplicationTheme::unsavedTexts() const
+{
+    return d->unsavedTexts;
+}
+
 bool ApplicationTheme::followsAccent() const
 {
     return d->followsAccent;

@@ -198,6 +198,9 @@ public:
      */
     bool setUnsavedTexts(const QHash<QString, QByteArray> &texts);
 
+    /*! \brief Returns what setUnsavedTexts() was given last, by absolute path. */
+    QHash<QString, QByteArray> unsavedTexts() const;
+
     /*! \brief Returns the theme in force, empty before the first look; never null, and always the
      *         same object. */
     Theme *theme() const;

@@ -27,6 +27,18 @@ int ruleIndexAt(const QVector<StyleRule> &rules, int offset)
 
 } // namespace
 
+void sortAsWritten(QVector<StoredValue> *values, const ThemeStack &theme)
+{
+    const auto place = [&](const StoredValue &value) {
+        return std::make_pair(value.definition->layer != &theme.base(),
+                              value.definition->entry()->start);
+    };
+    std::sort(values->begin(), values->end(),
+              [&](const StoredValue &one, const StoredValue &other) {
+                  return place(one) < place(other);
+              });
+}
+
 // A part of the style sheet that one template was made into. Values have no braces and
 // no semicolons, so the rules of both correspond one by one.
 struct InspectedSheet::Section {
@@ -102,6 +114,7 @@ const ThemeProject *InspectedSheet::project() const
     ThemeProjectOptions options;
     options.folder = m_theme.folder;
     options.themes = QStringList(m_theme.name);
+    options.contents = m_theme.unsavedTexts;
     options.applicationFolder = QCoreApplication::applicationDirPath();
     options.templates.clear();
     for (const InspectedTheme::Template &source : m_theme.templates) {
@@ -268,9 +281,10 @@ QVector<QPair<QString, QColor>> InspectedSheet::palette() const
     const ThemeProject *files = project();
     if (!files)
         return entries;
-    const auto values =
-        storedValues(files->theme(m_theme.name), files->options().applicationFolder, Kind::Palette);
-    for (const StoredValue &value : values)
+    const ThemeStack &theme = files->theme(m_theme.name);
+    auto values = storedValues(theme, files->options().applicationFolder, Kind::Palette);
+    sortAsWritten(&values, theme);
+    for (const StoredValue &value : qAsConst(values))
         entries.append({value.key(), value.value.value<QColor>()});
     return entries;
 }

@@ -96,4 +96,7 @@ private:
     mutable bool m_isProjectRead = false;
 };
 
+/*! \brief Puts values of \a theme in the order of its files, the default file first. */
+void sortAsWritten(QVector<StoredValue> *values, const ThemeStack &theme);
+
 #endif

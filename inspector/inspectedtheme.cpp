@@ -19,6 +19,7 @@ InspectedTheme InspectedTheme::inForce()
         theme.folder = look->folder();
     theme.name = look->name();
     theme.values = look->theme()->values();
+    theme.unsavedTexts = look->unsavedTexts();
     const auto templates = look->templates();
     for (const auto &source : templates)
         theme.templates.append({source.first, source.second});

@@ -4,6 +4,7 @@
 #ifndef INSPECTOR_INSPECTEDTHEME_H
 #define INSPECTOR_INSPECTEDTHEME_H
 
+#include <QHash>
 #include <QString>
 #include <QVariantMap>
 #include <QVector>
@@ -19,6 +20,7 @@ struct InspectedTheme {
     QString name;
     QVector<Template> templates; //!< in the order of the style sheet
     QVariantMap values; //!< as style sheets have them
+    QHash<QString, QByteArray> unsavedTexts; //!< of theme files, by path, that the program shows
 
     /*! \brief Returns what HV::ApplicationTheme gave the application, or an empty one. */
     static InspectedTheme inForce();

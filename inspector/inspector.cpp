@@ -38,8 +38,8 @@ public:
         const auto *key = static_cast<QKeyEvent *>(event);
         if (QKeySequence(key->key() | int(key->modifiers())) != QKeySequence(m_key))
             return false;
-        if (Inspector::isOpen())
-            Inspector::close();
+        if (window())
+            window()->close(); // which may ask
         else
             Inspector::open();
         return true;

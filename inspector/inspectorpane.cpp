@@ -4,8 +4,14 @@
 #include <inspector/inspectorpane.h>
 
 #include <colormath/contrast.h>
+#include <inspector/changelist.h>
+#include <inspector/changepanel.h>
+#include <inspector/inspectorlists.h>
 #include <inspector/mismatch.h>
 #include <inspector/ownlook.h>
+#include <inspector/plaintree.h>
+#include <inspector/propertyeditor.h>
+#include <inspector/savebar.h>
 #include <inspector/usage.h>
 
 #include <QtWidgets>
@@ -13,94 +19,8 @@
 namespace
 {
 
-constexpr int usersRole = Qt::UserRole; // offsets of declarations that the item stands for
-constexpr int nameRole = Qt::UserRole + 1; // how to call it
-constexpr int kindRole = Qt::UserRole + 2; // a UserKind: offsets are looked for when asked for
-
-enum UserKind {
-    OfDeclarations,
-    OfKey,
-    OfPalette
-};
 constexpr int refreshDelayMs = 300;
 constexpr int mostFrames = 500;
-
-// Arrows of trees are what themes give pictures to, and no rule takes a picture back to Qt's own.
-template<typename Tree>
-class PlainTree final : public Tree
-{
-protected:
-    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override
-    {
-        if (!this->model()->hasChildren(index))
-            return;
-        const QPointF center(rect.right() - this->indentation() / 2.0, rect.center().y() + 0.5);
-        const bool isOpen = this->isExpanded(index);
-        const QPolygonF arrow = isOpen ? QPolygonF({{-4.0, -2.0}, {4.0, -2.0}, {0.0, 3.0}})
-                                       : QPolygonF({{-2.0, -4.0}, {-2.0, 4.0}, {3.0, 0.0}});
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(inspectorPalette().color(QPalette::Text));
-        painter->drawPolygon(arrow.translated(center));
-        painter->restore();
-    }
-};
-
-QString placeText(const Place &place)
-{
-    return place.file.isEmpty() ? QStringLiteral("own style sheet:%1:%2")
-                                      .arg(place.position.line)
-                                      .arg(place.position.column)
-                                : place.shortText();
-}
-
-QString fullPlace(const Place &place)
-{
-    return place.file.isEmpty() ? placeText(place) : place.text();
-}
-
-QIcon colorIcon(const QString &text)
-{
-    const QColor color(text);
-    if (!color.isValid())
-        return {};
-    QPixmap picture(12, 12);
-    picture.fill(color);
-    return picture;
-}
-
-void setUsers(QTreeWidgetItem *item, const QSet<int> &declarations, const QString &what)
-{
-    QVariantList offsets;
-    for (const int offset : declarations)
-        offsets << offset;
-    item->setData(0, usersRole, offsets);
-    item->setData(0, nameRole, what);
-}
-
-void setUsers(QTreeWidgetItem *item, UserKind kind, const QString &name)
-{
-    item->setData(0, kindRole, kind);
-    item->setData(0, nameRole, name);
-}
-
-QTreeWidgetItem *row(QTreeWidgetItem *parent, const QStringList &texts, const QString &place = {})
-{
-    auto *item = new QTreeWidgetItem(parent, texts);
-    for (int column = 0; column < texts.size(); ++column)
-        item->setToolTip(column, place.isEmpty() ? texts.at(column) : place);
-    return item;
-}
-
-QString marginText(const QMargins &margins)
-{
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(margins.top())
-        .arg(margins.right())
-        .arg(margins.bottom())
-        .arg(margins.left());
-}
 
 } // namespace
 
@@ -115,6 +35,7 @@ InspectorPane::InspectorPane(Source source, QWidget *parent)
     , m_sheet(m_source())
     , m_tree(&InspectorPane::isOwn)
     , m_picker(&InspectorPane::isOwn)
+    , m_changes(ProgramChanges::ofProgram())
 {
     setPalette(inspectorPalette());
     setStyleSheet(inspectorStyleSheet());
@@ -137,6 +58,8 @@ InspectorPane::InspectorPane(Source source, QWidget *parent)
     m_status->setAccessibleName(tr("Status"));
     m_status->setWordWrap(true);
     column->addWidget(m_status);
+    m_save = new SaveBar(m_changes, this);
+    column->addWidget(m_save);
 
     connect(&m_picker, &Picker::picked, this,
             [this](QWidget *widget, const WidgetPart &part) { pick(widget, part); });
@@ -150,9 +73,14 @@ InspectorPane::InspectorPane(Source source, QWidget *parent)
     m_later.setSingleShot(true);
     m_later.setInterval(refreshDelayMs);
     connect(&m_later, &QTimer::timeout, this, &InspectorPane::look);
+    connect(m_changes, &ProgramChanges::changed, this, [this] {
+        m_isSheetOld = true; // also where the text is the same
+        lookSoon();
+    });
     qApp->installEventFilter(this);
+    showChange(nullptr);
     m_tree.refresh(); // now that all of the pane is known as its own
-    showPalette();
+    showTheme();
 }
 
 InspectorPane::~InspectorPane()
@@ -220,8 +148,15 @@ QTreeWidget *InspectorPane::makeList(const QString &title, const QStringList &co
     if (columns.size() > 2)
         list->setColumnWidth(1, 150);
     m_tabs->addTab(list, title);
-    connect(list, &QTreeWidget::itemActivated, this,
-            [this](const QTreeWidgetItem *item) { showUsersOf(item); });
+    connect(list, &QTreeWidget::currentItemChanged, this,
+            [this](const QTreeWidgetItem *item) { showChange(item); });
+    connect(list, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem *item) {
+        showChange(item);
+        if (m_change->isVisible())
+            m_change->setFocus();
+        else
+            showUsersOf(item);
+    });
     return list;
 }
 
@@ -258,11 +193,12 @@ QWidget *InspectorPane::makeDetails()
     m_contrast->setAccessibleName(tr("Contrast of the text"));
     column->addWidget(m_contrast);
     m_tabs = new QTabWidget;
+    m_change = new ChangePanel(m_changes);
+    m_values = makeList(tr("Values"), {tr("Property"), tr("Value"), tr("Where")});
     m_rules = makeList(tr("Rules"),
                        {tr("Rule"), tr("Value"), tr("Where"), tr("Weight"), tr("Overridden by")});
-    m_values = makeList(tr("Values"), {tr("Property"), tr("Value"), tr("Where")});
     m_boxes = makeList(tr("Box, font, palette"), {tr("What"), tr("Value")});
-    m_palette = makeList(tr("Theme"), {tr("Palette entry"), tr("Colour")});
+    m_theme = makeList(tr("Theme"), {tr("Key"), tr("Value")});
     auto *question = new QWidget;
     auto *form = new QVBoxLayout(question);
     m_selector = new QLineEdit;
@@ -278,7 +214,16 @@ QWidget *InspectorPane::makeDetails()
     m_verdict->show();
     m_tabs->addTab(question, tr("Why not"));
     connect(m_selector, &QLineEdit::textChanged, this, &InspectorPane::showVerdict);
-    column->addWidget(m_tabs, 1);
+    m_properties = new PropertyEditor(m_changes);
+    m_tabs->addTab(m_properties, tr("Properties"));
+    m_tabs->addTab(new ChangeList(m_changes), tr("Changes"));
+    auto *halves = new QSplitter(Qt::Vertical);
+    halves->setChildrenCollapsible(false);
+    halves->addWidget(m_tabs);
+    halves->addWidget(m_change);
+    halves->setStretchFactor(0, 1);
+    halves->setSizes({260, 240});
+    column->addWidget(halves, 1);
     auto *users = new QPushButton(tr("&Show everything that uses this"));
     users->setToolTip(tr("Of the rule, value, key or palette entry that is chosen above"));
     connect(users, &QPushButton::clicked, this, [this] {
@@ -297,38 +242,51 @@ void InspectorPane::pick(QWidget *widget, const WidgetPart &part)
     if (!widget || isOwn(widget))
         return;
     m_users.clear();
-    if (widget != m_widget)
+    if (widget != m_widget) {
         m_forced.setWidget(paintedAs(widget));
+        for (QTreeWidget *list : {m_values, m_rules})
+            list->clear(); // what was chosen there was of another widget
+        showChange(nullptr);
+    }
     m_widget = widget;
     m_part = part;
     if (!m_tree.indexOf(widget).isValid())
         m_tree.refresh();
-    const QModelIndex index = m_tree.indexOf(widget);
-    if (index.isValid() && m_widgets->currentIndex() != index) {
-        m_widgets->setCurrentIndex(index);
-        m_widgets->scrollTo(index);
-    }
+    showInTree();
     look();
     Q_EMIT picked(widget);
+}
+
+void InspectorPane::showInTree()
+{
+    const QModelIndex index = m_tree.indexOf(m_widget);
+    if (!index.isValid() || m_widgets->currentIndex() == index)
+        return;
+    m_widgets->setCurrentIndex(index);
+    m_widgets->scrollTo(index);
 }
 
 void InspectorPane::refresh()
 {
     m_tree.refresh();
+    showInTree();
     m_sheet = m_source();
-    showPalette();
+    showTheme();
     look();
 }
 
 void InspectorPane::look()
 {
     m_outline.clear();
-    if (m_sheet->text() != qApp->styleSheet()) {
+    if (m_sheet->text() != qApp->styleSheet() || m_isSheetOld) {
+        m_isSheetOld = false;
         m_sheet = m_source();
-        showPalette();
+        showTheme();
     }
     if (!m_widget) {
         m_name->setText(tr("Nothing is picked."));
+        m_properties->setWidget(nullptr, *m_sheet);
+        refreshChange();
         return;
     }
     QWidget *painted = paintedAs(m_widget);
@@ -343,11 +301,13 @@ void InspectorPane::look()
     m_inspection = Inspection::of(m_widget, m_part, *m_sheet);
     showParts();
     showStates();
-    showRules();
-    showValues();
-    showBox();
+    fill(m_rules, [this] { InspectorLists::showRules(m_rules, m_inspection, *m_sheet); });
+    fill(m_values, [this] { InspectorLists::showValues(m_values, m_inspection, *m_sheet); });
+    fill(m_boxes, [this] { InspectorLists::showBox(m_boxes, m_inspection); });
     showContrast();
     showVerdict();
+    m_properties->setWidget(m_inspection.styledWidget, *m_sheet);
+    refreshChange();
     if (painted->isVisible())
         m_outline.add(painted, m_part.rect);
 }
@@ -383,120 +343,9 @@ void InspectorPane::showStates()
     }
 }
 
-void InspectorPane::showRules()
-{
-    m_rules->clear();
-    for (const InspectedRule &rule : m_inspection.rules) {
-        QString title = rule.selector;
-        if (!rule.source.isEmpty())
-            title += tr("  (of %1 itself)").arg(rule.source);
-        else if (rule.isOfWidget)
-            title += tr("  (of the widget)");
-        auto *item = new QTreeWidgetItem(
-            m_rules, {title, QString(), placeText(rule.place), QString::number(rule.specificity)});
-        item->setToolTip(0, fullPlace(rule.place));
-        item->setToolTip(2, fullPlace(rule.place));
-        if (rule.isApplication)
-            setUsers(item, m_sheet->declarationsOfRule(rule.offset), rule.selector);
-        for (const InspectedDeclaration &declaration : rule.declarations) {
-            QStringList by;
-            for (const StyleMatch &other : declaration.overriddenBy)
-                by << other.selector;
-            auto *line =
-                row(item,
-                    {declaration.match.property, declaration.match.value,
-                     placeText(declaration.origin.place), QString(), by.join(QLatin1String(", "))},
-                    fullPlace(declaration.origin.place));
-            line->setIcon(1, colorIcon(declaration.match.value));
-            if (rule.isApplication)
-                setUsers(line, {declaration.match.offset}, declaration.match.property);
-            if (!declaration.isOverridden())
-                continue;
-            for (int column = 0; column < 2; ++column) {
-                QFont font = m_rules->font();
-                font.setStrikeOut(true);
-                line->setFont(column, font);
-                line->setData(column, Qt::AccessibleTextRole,
-                              tr("overridden: %1").arg(line->text(column)));
-            }
-        }
-        item->setExpanded(true);
-    }
-}
-
-void InspectorPane::showValues()
-{
-    m_values->clear();
-    for (const InspectedValue &value : m_inspection.values) {
-        const QString place = value.isOfRule() ? placeText(value.origin.place) : value.source;
-        auto *item = new QTreeWidgetItem(m_values, {value.property, value.value, place});
-        item->setIcon(1, colorIcon(value.value));
-        item->setToolTip(2, value.isOfRule() ? fullPlace(value.origin.place) : value.source);
-        if (value.isOfRule() && value.match.sheet == StyleMatch::application)
-            setUsers(item, {value.match.offset}, value.property);
-        for (const ValueChain &chain : value.chains) {
-            const QString token = Tokens::opening(chain.prefix, chain.token.kind) % chain.token.key;
-            auto *link = row(item, {token, chain.value, placeText(value.origin.place)},
-                             fullPlace(value.origin.place));
-            setUsers(link, OfKey, chain.token.key);
-            for (const ExplanationStep &step : chain.steps) {
-                using Topic = ExplanationStep::Topic;
-                const QString where = step.place.file.isEmpty() ? QString() : step.place.text();
-                auto *line = row(link, {step.text, QString(), where}, where);
-                if (step.topic == Topic::Ineffective) {
-                    QFont font = m_values->font();
-                    font.setStrikeOut(true);
-                    line->setFont(0, font);
-                }
-                for (const QString &entry : chain.palette) {
-                    if (step.text.contains(QLatin1String("[Palettes] ") % entry % QLatin1Char('=')))
-                        setUsers(line, OfPalette, entry);
-                }
-            }
-            link->setExpanded(true);
-        }
-    }
-    if (!m_sheet->problem().isEmpty())
-        new QTreeWidgetItem(
-            m_values, {tr("The theme's files cannot be read"), QString(), m_sheet->problem()});
-}
-
-void InspectorPane::showBox()
-{
-    m_boxes->clear();
-    const BoxModel &box = m_inspection.box;
-    const auto add = [this](const QString &what, const QString &value) {
-        auto *item = new QTreeWidgetItem(m_boxes, {what, value});
-        item->setIcon(1, colorIcon(value));
-    };
-    add(tr("geometry"),
-        QStringLiteral("%1, %2  %3 × %4")
-            .arg(box.geometry.x())
-            .arg(box.geometry.y())
-            .arg(box.geometry.width())
-            .arg(box.geometry.height()));
-    add(tr("margin"), marginText(box.margin));
-    add(tr("border"), marginText(box.border));
-    add(tr("padding"), marginText(box.padding));
-    add(tr("contents"),
-        QStringLiteral("%1 × %2").arg(box.contents.width()).arg(box.contents.height()));
-    const QFontInfo font(m_inspection.font);
-    add(tr("font"),
-        QStringLiteral("%1, %2 px, weight %3")
-            .arg(font.family())
-            .arg(font.pixelSize())
-            .arg(m_inspection.font.weight()));
-    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
-    for (int role = 0; role < QPalette::NColorRoles; ++role) {
-        if (role != QPalette::NoRole)
-            add(QLatin1String(roles.valueToKey(role)),
-                m_inspection.palette.color(QPalette::ColorRole(role)).name());
-    }
-}
-
 void InspectorPane::showContrast()
 {
-    const auto contrast =
+    const auto &contrast = m_textContrast =
         textContrast(m_inspection, m_part.subControl.isEmpty() ? QRect() : m_part.rect, *m_sheet);
     if (!contrast) {
         m_contrast->setText(tr("No text is drawn here."));
@@ -511,18 +360,6 @@ void InspectorPane::showContrast()
             : tr(", too low; nearest that passes: %1 (%2)")
                   .arg(contrast->passingEntry, contrast->passingColor.name());
     m_contrast->setText(text);
-}
-
-void InspectorPane::showPalette()
-{
-    m_palette->clear();
-    const auto entries = m_sheet->palette();
-    for (const auto &entry : entries) {
-        auto *item =
-            new QTreeWidgetItem(m_palette, {entry.first, entry.second.name(QColor::HexArgb)});
-        item->setIcon(1, colorIcon(entry.second.name()));
-        setUsers(item, OfPalette, entry.first);
-    }
 }
 
 void InspectorPane::showVerdict()
@@ -545,18 +382,66 @@ void InspectorPane::showVerdict()
 
 void InspectorPane::showUsersOf(const QTreeWidgetItem *item)
 {
-    const QString what = item->data(0, nameRole).toString();
-    QSet<int> declarations;
-    const QVariantList offsets = item->data(0, usersRole).toList();
-    for (const QVariant &offset : offsets)
-        declarations << offset.toInt();
-    const int kind = item->data(0, kindRole).toInt();
-    if (kind == OfKey)
-        declarations = m_sheet->declarationsOfKey(what);
-    if (kind == OfPalette)
-        declarations = m_sheet->declarationsOfPalette(what);
+    const QString what = item->data(0, InspectorLists::Name).toString();
     if (!what.isEmpty())
-        showUsers(declarations, what);
+        showUsers(InspectorLists::declarationsOf(item, *m_sheet), what);
+}
+
+// The list is filled anew whenever something changes; what is chosen in it stays chosen.
+void InspectorPane::fill(QTreeWidget *list, const std::function<void()> &show)
+{
+    const QSignalBlocker blocker(list);
+    const QString id = InspectorLists::idOf(list->currentItem());
+    const int position = list->verticalScrollBar()->value();
+    show();
+    QTreeWidgetItem *item = id.isEmpty() ? nullptr : InspectorLists::find(list, id);
+    if (item)
+        list->setCurrentItem(item);
+    list->verticalScrollBar()->setValue(position);
+}
+
+void InspectorPane::showTheme()
+{
+    fill(m_theme, [this] { InspectorLists::showTheme(m_theme, *m_sheet); });
+}
+
+ChangeSubject InspectorPane::subject(Kind kind, const QString &key, const QString &property) const
+{
+    ChangeSubject subject = ChangeSubject::of(*m_sheet, kind, key);
+    subject.property = property;
+    subject.partner = partnerOf(property, m_inspection, m_textContrast);
+    return subject;
+}
+
+void InspectorPane::refreshChange()
+{
+    const ChangeSubject &old = m_change->subject();
+    if (!old.key.isEmpty())
+        m_change->refresh(subject(old.kind, old.key, old.property));
+}
+
+bool InspectorPane::mayClose()
+{
+    return m_save->mayClose();
+}
+
+void InspectorPane::lookSoon()
+{
+    if (!m_later.isActive())
+        m_later.start();
+}
+
+void InspectorPane::showChange(const QTreeWidgetItem *item)
+{
+    using namespace InspectorLists;
+    const QString key = item ? item->data(0, Key).toString() : QString();
+    ChangeSubject chosen;
+    if (!key.isEmpty())
+        chosen =
+            subject(Kind(item->data(0, KeyKind).toInt()), key, item->data(0, Property).toString());
+    else if (item)
+        chosen.reason = item->data(0, Reason).toString();
+    m_change->setSubject(chosen, QCoreApplication::applicationDirPath());
 }
 
 void InspectorPane::showUsers(const QSet<int> &declarations, const QString &what)
@@ -590,8 +475,8 @@ bool InspectorPane::eventFilter(QObject *object, QEvent *event)
     case QEvent::EnabledChange:
     case QEvent::StyleChange:
     case QEvent::DynamicPropertyChange:
-        if (object == m_widget && !m_later.isActive())
-            m_later.start();
+        if (object == m_widget)
+            lookSoon();
         break;
     default:
         break;

@@ -4,10 +4,12 @@
 #ifndef INSPECTOR_INSPECTORPANE_H
 #define INSPECTOR_INSPECTORPANE_H
 
+#include <inspector/changesubject.h>
 #include <inspector/forcedstates.h>
 #include <inspector/inspection.h>
 #include <inspector/outline.h>
 #include <inspector/picker.h>
+#include <inspector/programchanges.h>
 #include <inspector/widgettree.h>
 
 #include <QTimer>
@@ -15,6 +17,9 @@
 
 #include <functional>
 
+class ChangePanel;
+class PropertyEditor;
+class SaveBar;
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -26,7 +31,8 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 /*!
- * \brief The inspector as a pane: the program's widgets, and why the picked one looks as it does.
+ * \brief The inspector as a pane: the program's widgets, and why the picked one looks as it does, and
+ *        the values to change.
  *
  * It has a look of its own that no theme reaches, and is none of the widgets that it tells of. All
  * that it does to the program, frames and forced states, is gone when it dies.
@@ -54,6 +60,14 @@ public:
     /*! \brief Reads the widgets, and looks at the picked one anew. */
     void refresh();
 
+    /*!
+     * \brief Asks what is to become of changes that are not saved; to be called before the pane is closed
+     *        or the program ends.
+     *
+     * \return false if the user wants all to stay as it is; true without a question if all is saved.
+     */
+    bool mayClose();
+
     static bool isOwn(const QWidget *widget);
 
     /*! \brief Lets \a finder say what the user points at, see Picker::setFinder(). */
@@ -69,13 +83,16 @@ private:
     QWidget *makeTools();
     QWidget *makeDetails();
     QTreeWidget *makeList(const QString &title, const QStringList &columns);
+    void showInTree();
     void look();
     void showParts();
-    void showRules();
-    void showValues();
-    void showBox();
     void showContrast();
-    void showPalette();
+    void fill(QTreeWidget *list, const std::function<void()> &show);
+    void showTheme();
+    ChangeSubject subject(Kind kind, const QString &key, const QString &property) const;
+    void showChange(const QTreeWidgetItem *item);
+    void refreshChange();
+    void lookSoon();
     void showVerdict();
     void showStates();
     void showUsersOf(const QTreeWidgetItem *item);
@@ -94,6 +111,9 @@ private:
     WidgetPart m_part;
     QVector<WidgetPart> m_parts;
     Inspection m_inspection;
+    std::optional<TextContrast> m_textContrast;
+    ProgramChanges *const m_changes;
+    bool m_isSheetOld = false;
 
     QToolButton *m_pick = nullptr;
     QLineEdit *m_filter = nullptr;
@@ -106,7 +126,10 @@ private:
     QTreeWidget *m_rules = nullptr;
     QTreeWidget *m_values = nullptr;
     QTreeWidget *m_boxes = nullptr;
-    QTreeWidget *m_palette = nullptr;
+    QTreeWidget *m_theme = nullptr;
+    ChangePanel *m_change = nullptr;
+    PropertyEditor *m_properties = nullptr;
+    SaveBar *m_save = nullptr;
     QLineEdit *m_selector = nullptr;
     QTreeWidget *m_verdict = nullptr;
     QLabel *m_status = nullptr;

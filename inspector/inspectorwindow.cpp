@@ -4,6 +4,7 @@
 #include <inspector/inspectorwindow.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -20,11 +21,22 @@ InspectorWindow::InspectorWindow()
     m_pane = new InspectorPane(this);
     layout->addWidget(m_pane);
     qApp->installEventFilter(this);
+    // With changes that are not saved it asks before the program ends with its last window.
+    const auto followChanges = [this] {
+        setAttribute(Qt::WA_QuitOnClose, ProgramChanges::ofProgram()->isUnsaved());
+    };
+    connect(ProgramChanges::ofProgram(), &ProgramChanges::changed, this, followChanges);
+    followChanges();
 }
 
 InspectorWindow::~InspectorWindow()
 {
     qApp->removeEventFilter(this);
+}
+
+void InspectorWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_pane->mayClose());
 }
 
 void InspectorWindow::showEvent(QShowEvent *event)
@@ -37,7 +49,8 @@ bool InspectorWindow::eventFilter(QObject *object, QEvent *event)
 {
     const bool isChange = event->type() == QEvent::Show || event->type() == QEvent::Hide;
     if (isChange && object->isWidgetType() && object != this
-        && static_cast<QWidget *>(object)->isModal())
+        && static_cast<QWidget *>(object)->isModal()
+        && !InspectorPane::isOwn(static_cast<QWidget *>(object)))
         QMetaObject::invokeMethod(this, &InspectorWindow::followModality, Qt::QueuedConnection);
     return QWidget::eventFilter(object, event);
 }
@@ -46,6 +59,6 @@ void InspectorWindow::followModality()
 {
     const QWidget *modal = QApplication::activeModalWidget();
     QWindow *handle = windowHandle();
-    if (handle)
+    if (handle && !(modal && InspectorPane::isOwn(modal)))
         handle->setTransientParent(modal ? modal->windowHandle() : nullptr);
 }

@@ -8,7 +8,7 @@
 
 /*!
  * \brief A window with an InspectorPane. It deletes itself when it is closed, and does not keep the
- *        program running.
+ *        program running, unless there are changes to save, which it asks about.
  *
  * A modal dialog would block it like any other window, so it counts as a child of the innermost one.
  */
@@ -24,6 +24,7 @@ public:
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

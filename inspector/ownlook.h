@@ -7,6 +7,9 @@
 #include <QPalette>
 #include <QString>
 
+class QCompleter;
+class QObject;
+
 /*!
  * \brief Returns the style sheet of the inspector itself.
  *
@@ -14,6 +17,12 @@
  * whatever themes otherwise do.
  */
 QString inspectorStyleSheet();
+
+/*! \brief Returns the style sheet of a text that tells of a problem. */
+QString warningStyleSheet();
+
+/*! \brief Returns a completer for \a words whose list looks like the inspector. */
+QCompleter *ownCompleter(const QStringList &words, QObject *parent);
 
 /*! \brief Returns the palette of the inspector itself, for what no style sheet sets. */
 QPalette inspectorPalette();

@@ -118,6 +118,7 @@ void tst_UnsavedTexts::staysInOtherLooks()
     QVERIFY(theme.setUnsavedTexts(editor.contents()));
     QVERIFY(theme.setName("light"));
     QCOMPARE(theme.theme()->readNamedColor("Brand_6").first, QColor("#ff00aa"));
+    QCOMPARE(theme.unsavedTexts(), editor.contents());
     QVERIFY(theme.setUnsavedTexts({}));
     QVERIFY(theme.theme()->readNamedColor("Brand_6").first != QColor("#ff00aa"));
 }

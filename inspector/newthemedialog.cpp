@@ -1,0 +1,151 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include <inspector/newthemedialog.h>
+
+#include <format/themepath.h>
+#include <hvthemeapp/applicationtheme.h>
+#include <inspector/ownlook.h>
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace
+{
+
+// A folder that can be written: that of the theme, or else a new one at home.
+QString suggestedFolder(const HV::ApplicationTheme &look)
+{
+    const QString folder = look.folder();
+    if (!isResourcePath(folder) && QFileInfo(folder).isWritable())
+        return folder;
+    return QDir::homePath() % QLatin1String("/themes");
+}
+
+// A path that nobody has: dark-2 for dark.
+QString suggestedName(const QString &folder, const QString &name)
+{
+    int number = 2;
+    QString suggested;
+    do
+        suggested = QStringLiteral("%1-%2").arg(name).arg(number++);
+    while (QFileInfo::exists(themeFilePath(folder, suggested)));
+    return suggested;
+}
+
+} // namespace
+
+NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
+    : QDialog(parent)
+    , m_changes(changes)
+    , m_folder(new QLineEdit)
+    , m_name(new QLineEdit)
+    , m_displayName(new QLineEdit)
+    , m_goesOn(new QCheckBox(tr("&Go on with the new theme")))
+    , m_problem(new QLabel)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("Save as a new theme"));
+    setPalette(inspectorPalette());
+    const HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
+    if (look) {
+        m_folder->setText(QDir::toNativeSeparators(suggestedFolder(*look)));
+        m_name->setText(suggestedName(m_folder->text(), look->name()));
+    }
+    m_goesOn->setChecked(true);
+    m_goesOn->setToolTip(tr("The program gets the new theme, and further changes go there"));
+    m_folder->setAccessibleName(tr("Folder"));
+    m_folder->setMinimumWidth(320);
+    m_name->setAccessibleName(tr("Name"));
+    m_displayName->setAccessibleName(tr("Name for people"));
+    m_problem->setWordWrap(true);
+    m_problem->setAccessibleName(tr("Problem"));
+    m_problem->setStyleSheet(warningStyleSheet());
+    m_problem->hide();
+
+    auto *column = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    auto *folderRow = new QHBoxLayout;
+    auto *choose = new QToolButton;
+    choose->setText(tr("&Choose…"));
+    choose->setAccessibleName(tr("Choose a folder"));
+    folderRow->addWidget(m_folder, 1);
+    folderRow->addWidget(choose);
+    auto *nameLabel = new QLabel(tr("&Name:"));
+    nameLabel->setBuddy(m_name);
+    auto *displayLabel = new QLabel(tr("Name for &people:"));
+    displayLabel->setBuddy(m_displayName);
+    auto *folderLabel = new QLabel(tr("&Folder:"));
+    folderLabel->setBuddy(m_folder);
+    form->addRow(nameLabel, m_name);
+    form->addRow(displayLabel, m_displayName);
+    form->addRow(folderLabel, folderRow);
+    column->addLayout(form);
+    column->addWidget(m_goesOn);
+    column->addWidget(m_problem);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    column->addWidget(buttons);
+    connect(choose, &QToolButton::clicked, this, &NewThemeDialog::chooseFolder);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NewThemeDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_name->setFocus();
+    m_name->selectAll();
+}
+
+void NewThemeDialog::chooseFolder()
+{
+    auto *dialog = new QFileDialog(this, tr("Choose a folder"), m_folder->text());
+    dialog->setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setPalette(inspectorPalette());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QFileDialog::fileSelected, m_folder, &QLineEdit::setText);
+    dialog->open();
+}
+
+void NewThemeDialog::accept()
+{
+    const HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
+    if (!look)
+        return;
+    NewTheme theme;
+    theme.folder = QFileInfo(m_folder->text().trimmed()).absoluteFilePath();
+    theme.name = m_name->text();
+    theme.displayName = m_displayName->text();
+    theme.suffix = defaultThemeSuffix();
+    QStringList files{themeFilePath(look->folder(), defaultThemeName())};
+    if (look->name() != defaultThemeName())
+        files << themeFilePath(look->folder(), look->name());
+    bool isSaved = false;
+    if (m_folder->text().trimmed().isEmpty())
+        m_problem->setText(tr("A folder is needed."));
+    else
+        isSaved = m_changes->saveAs(theme, files);
+    if (!m_changes->problem().isEmpty())
+        m_problem->setText(m_changes->problem());
+    m_problem->setVisible(!isSaved);
+    if (!isSaved)
+        return;
+    if (m_goesOn->isChecked())
+        goOn(theme);
+    Q_EMIT saved(themeFilePath(theme.folder, theme.name));
+    QDialog::accept();
+}
+
+// The changes are in the new theme, so the old one's files need them no more.
+void NewThemeDialog::goOn(const NewTheme &theme)
+{
+    HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
+    if (look->folder() != theme.folder)
+        look->setFolder(theme.folder);
+    look->setName(theme.name);
+    m_changes->discard();
+}
