@@ -44,6 +44,17 @@ QPalette currentPalette(const State &s)
     return s.generation == 0 ? QGuiApplication::palette() : s.palette;
 }
 
+struct Ground {
+    QColor ground;
+    QColor text;
+};
+
+Ground &groundOfOwn()
+{
+    static thread_local Ground ground;
+    return ground;
+}
+
 QColor colorOfPalette(const QString &key, const QPalette &palette)
 {
     if (key == cutOutKey || key == signGroundKey)
@@ -95,16 +106,33 @@ QColor color(const QString &key, QIcon::Mode mode, bool *found)
     if (found)
         *found = isColor || s.generation == 0;
     const QColor normal = isColor ? value.value<QColor>() : colorOfPalette(key, palette);
-    if (mode != QIcon::Selected)
+    const Ground own = groundOfOwn();
+    if (mode != QIcon::Selected && !own.ground.isValid())
         return normal;
 
     // A shape must stand out from the ground, which shows where something is cut out of it.
-    const QColor ground = palette.color(QPalette::Highlight);
+    const QColor ground = own.ground.isValid() ? own.ground : palette.color(QPalette::Highlight);
     if (key == cutOutKey || key == signGroundKey)
         return ground;
     if (ColorMath::contrastRatio(normal, ground) >= enoughContrast && key != inkKey)
         return normal;
-    return palette.color(QPalette::HighlightedText);
+    return own.text.isValid() ? own.text : palette.color(QPalette::HighlightedText);
+}
+
+OnGround::OnGround(const QColor &ground, const QColor &text)
+{
+    groundOfOwn() = {ground, text};
+}
+
+OnGround::~OnGround()
+{
+    groundOfOwn() = {};
+}
+
+QString OnGround::current()
+{
+    const Ground own = groundOfOwn();
+    return own.ground.isValid() ? own.ground.name() + own.text.name() : QString();
 }
 
 QColor ink(QIcon::Mode mode)

@@ -41,6 +41,23 @@ QString imageFile(const QString &key);
  */
 QColor color(const QString &key, QIcon::Mode mode, bool *found = nullptr);
 
+/*!
+ * \brief While it lives, icons are drawn to stand on a ground of its own with a text of its own.
+ *
+ * As on a selected row: the ink is that of the text, and so is what would not stand out. On the GUI
+ * thread alone, for the time of one painting.
+ */
+class OnGround
+{
+public:
+    OnGround(const QColor &ground, const QColor &text);
+    ~OnGround();
+    Q_DISABLE_COPY_MOVE(OnGround)
+
+    /*! \brief Returns a text that differs for each ground and text, empty if there is none now. */
+    static QString current();
+};
+
 /*! \brief Returns what `currentColor` stands for: the colour of most strokes. */
 QColor ink(QIcon::Mode mode);
 

@@ -227,13 +227,14 @@ QPixmap IconEngine::drawn(const Picture &picture, const QSize &size) const
             result = result.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         return picture.mode == QIcon::Disabled ? faded(result) : result;
     }
-    const QString key = QStringLiteral("hvicon:%1:%2x%3:%4:%5:%6")
+    const QString key = QStringLiteral("hvicon:%1:%2x%3:%4:%5:%6:%7")
                             .arg(picture.path)
                             .arg(size.width())
                             .arg(size.height())
                             .arg(picture.mode)
                             .arg(IconColors::generation())
-                            .arg(QGuiApplication::palette().cacheKey());
+                            .arg(QGuiApplication::palette().cacheKey())
+                            .arg(IconColors::OnGround::current());
     if (!QPixmapCache::find(key, &result)) {
         result = QPixmap::fromImage(drawnImage(picture.path, size, picture.mode));
         QPixmapCache::insert(key, result);

@@ -7,6 +7,7 @@
 
 #include <colormath/contrast.h>
 #include <colormath/oklch.h>
+#include <format/applicationkeys.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -107,6 +108,7 @@ QStringList templateColors()
     QSettings sample(ThemeFolder().file(QStringLiteral("dark")), QSettings::IniFormat);
     sample.beginGroup(QStringLiteral("Colors"));
     keys = sample.allKeys();
+    keys.erase(std::remove_if(keys.begin(), keys.end(), isOptionalColor), keys.end());
     keys.sort();
     return keys;
 }
@@ -136,6 +138,30 @@ QHash<QString, QColor> derivedColors(const QHash<QString, QColor> &known)
             *text = ColorMath::liftedToContrast(*text, ground, textContrast);
     }
     return derived;
+}
+
+QHash<QString, QColor> accentColors(const QHash<QString, QColor> &colors)
+{
+    const QString groundKey = QStringLiteral("AccentBackgroundColor");
+    const QColor ownGround = colors.value(groundKey);
+    QHash<QString, QColor> missing;
+    const auto add = [&](const char *key, const char *relative) {
+        const QColor color =
+            ownGround.isValid() ? ownGround : colors.value(QLatin1String(relative));
+        if (!colors.contains(QLatin1String(key)) && color.isValid())
+            missing.insert(QLatin1String(key), color);
+    };
+    add("AccentBackgroundColor", "GeneralButtonBackgroundNormal");
+    add("AccentHoverColor", "GeneralButtonBackgroundHover");
+    add("AccentPressedColor", "GeneralButtonBackgroundPressed");
+    const QString textKey = QStringLiteral("AccentForegroundColor");
+    const QColor text = colors.value(QStringLiteral("Color_W100"));
+    if (!colors.contains(textKey) && text.isValid())
+        missing.insert(textKey,
+                       ownGround.isValid()
+                           ? ColorMath::liftedToContrast(text, ownGround, textContrast)
+                           : text);
+    return missing;
 }
 
 } // namespace HV

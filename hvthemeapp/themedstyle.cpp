@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
+#include <QPushButton>
 #include <QSet>
 #include <QSlider>
 #include <QStyleFactory>
@@ -208,6 +209,15 @@ bool hasSeparators(const QMenu &menu)
                        [](const QAction *action) { return action->isSeparator(); });
 }
 
+// Whether the button's ground is the brand, so that its icon shall have the colour of the text there.
+bool hasIconOnBrand(const QPushButton &button)
+{
+    return !button.icon().isNull() && button.isEnabled()
+        && (button.isDefault() || button.property("style") == QLatin1String("general"))
+        && IconColors::color(QStringLiteral("AccentForegroundColor"), QIcon::Normal)
+        != IconColors::ink(QIcon::Normal);
+}
+
 } // namespace
 
 ThemedStyle::ThemedStyle(const QString &name)
@@ -254,7 +264,8 @@ void ThemedStyle::polish(QWidget *widget)
     QProxyStyle::polish(widget);
     if (auto *area = qobject_cast<QMdiArea *>(widget))
         followPalette(*area);
-    else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget))
+    else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
+             || qobject_cast<QPushButton *>(widget))
         widget->installEventFilter(this);
 }
 
@@ -272,6 +283,14 @@ bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
             // A style sheet that draws the groove draws no marks, and asks no style for them.
             QPainter painter(slider);
             drawTickMarks(*slider->style(), *slider, painter);
+        }
+        auto *button = qobject_cast<QPushButton *>(watched);
+        if (button && hasIconOnBrand(*button)) {
+            const IconColors::OnGround ground(
+                IconColors::color(QStringLiteral("AccentBackgroundColor"), QIcon::Normal),
+                IconColors::color(QStringLiteral("AccentForegroundColor"), QIcon::Normal));
+            watched->event(event);
+            return true;
         }
         auto *menu = qobject_cast<QMenu *>(watched);
         if (menu && hasSeparators(*menu)) {

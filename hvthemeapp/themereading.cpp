@@ -141,8 +141,14 @@ private:
             known.insert(key, m_theme.color(key));
         const QHash<QString, QColor> derived = derivedColors(known);
         Supplement supplement;
-        for (auto it = derived.cbegin(); it != derived.cend(); ++it)
-            supplement.add(QStringLiteral("Colors"), it.key(), it->name(QColor::HexArgb));
+        const auto add = [&](const QHash<QString, QColor> &colors) {
+            for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
+                supplement.add(QStringLiteral("Colors"), it.key(), it->name(QColor::HexArgb));
+                known.insert(it.key(), *it);
+            }
+        };
+        add(derived);
+        add(accentColors(known)); // optional, so nobody is told
         supplement.giveTo([this](QSettings &settings) {
             m_theme.readColors(settings, false, *m_theme.metaObject());
         });

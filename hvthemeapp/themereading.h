@@ -20,7 +20,7 @@ class ThemeFolder;
  * Read as changeTheme() reads: the default file, then the named one, which only adds. Then:
  *  - palette entries and integers that neither file has are those of the built-in default file;
  *  - colours of the built-in templates that neither file has are derived by the table in
- *    docs/application.md;
+ *    docs/application.md, and silently those of the brand as a fill;
  *  - images that neither file has are the built-in drawings;
  *  - keys that the theme's class requires are looked for, and logged by the core if they are missing.
  *
@@ -29,7 +29,7 @@ class ThemeFolder;
  *
  * \param contents  by path: what stands in place of files' own texts.
  *
- * \return the colours that had to be derived, sorted.
+ * \return the colours that had to be derived, sorted, but for optional ones.
  *
  * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
  */

@@ -3,6 +3,7 @@
 
 #include <colormath/contrast.h>
 #include <colormath/oklch.h>
+#include <maker/brandfills.h>
 #include <maker/lookcolors.h>
 #include <maker/meanings.h>
 #include <maker/themetext.h>
@@ -10,7 +11,6 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 
 namespace Maker
 {
@@ -23,11 +23,6 @@ QString key(const char *name)
     return QString::fromLatin1(name);
 }
 
-QString ratioText(double ratio)
-{
-    return QString::number(std::floor(ratio * 100) / 100, 'f', 2) % QLatin1String(":1");
-}
-
 // Designs one look. Text is given way to, not taken from: where a pair falls short, a fill moves
 // away from the text on it, and only on a surface the text moves away from the ground.
 class Designer
@@ -38,32 +33,20 @@ public:
         , m_parameters(parameters)
         , m_colors(*colors)
         , m_notes(*notes)
+        , m_pairs(look, parameters.textContrast, *colors)
+        , m_brandFills(parameters.brand, m_pairs, colors,
+                       [this](const QString &sentence) { note(sentence); })
     {
-        for (const ColorPair &pair : colorPairs()) {
-            const auto isMissing = [&](const QString &key) { return colors->text(key).isEmpty(); };
-            if (!isMissing(pair.foreground)
-                && std::none_of(pair.layers.cbegin(), pair.layers.cend(), isMissing))
-                m_pairs.append(pair);
-        }
     }
 
     void setLightSurfaces();
-    void setBrandFills();
-    void mendPairs();
-    void separate();
-    void noteWhatFallsShort();
+    void design();
 
 private:
-    double required(const ColorPair &pair) const
-    {
-        return requiredRatio(pair.need, m_look, m_parameters.textContrast);
-    }
-    bool holds(const ColorPair &pair) const { return m_colors.ratio(pair) >= required(pair); }
-    bool canHave(const QString &key, const QString &text) const;
     QStringList alternatives(const QString &key) const;
-    bool isRemedy(const ColorPair &pair, const QString &key, const QString &text) const;
     void mend(const ColorPair &pair);
-    QString brandText() const;
+    void separate();
+    void noteWhatFallsShort();
     void note(const QString &sentence)
     {
         m_notes.append(lookName(m_look) % QLatin1String(": ") % sentence);
@@ -73,7 +56,8 @@ private:
     const Parameters &m_parameters;
     LookColors &m_colors;
     QStringList &m_notes;
-    QVector<ColorPair> m_pairs; // those whose keys the look has
+    const LookPairs m_pairs;
+    BrandFills m_brandFills;
 };
 
 bool isSurface(const QString &key)
@@ -96,68 +80,6 @@ void Designer::setLightSurfaces()
     for (int n = 0; n < surfaces.size(); ++n)
         m_colors.setText(key("BackgroundColor_") % QString::number(n), hexadecimal(surfaces.at(n)));
     m_colors.setText(key("EditDisabledBackgroundColor"), m_colors.text(key("BackgroundColor_2")));
-}
-
-// Whether all pairs of the key hold with another text.
-bool Designer::canHave(const QString &key, const QString &text) const
-{
-    LookColors changed = m_colors;
-    changed.setText(key, text);
-    for (const ColorPair &pair : qAsConst(m_pairs)) {
-        if ((pair.foreground == key || pair.layers.contains(key))
-            && changed.ratio(pair) < required(pair))
-            return false;
-    }
-    return true;
-}
-
-// The name of the brand itself in the palette.
-QString Designer::brandText() const
-{
-    const QString own = key("Brand");
-    if (m_colors.resolved(own).isValid())
-        return own;
-    return key("Brand_") % QString::number(nearestStep(m_parameters.brand));
-}
-
-void Designer::setBrandFills()
-{
-    const QString brand = brandText();
-    const bool hasSlider = !m_colors.text(key("SliderAcrossBackgroundColor")).isEmpty();
-    if (hasSlider && canHave(key("SliderAcrossBackgroundColor"), brand))
-        m_colors.setText(key("SliderAcrossBackgroundColor"), brand);
-    const QString normal = key("GeneralButtonBackgroundNormal");
-    if (m_colors.text(normal).isEmpty())
-        return;
-    if (!canHave(normal, brand)) {
-        LookColors changed = m_colors;
-        changed.setText(normal, brand);
-        double least = 21;
-        for (const ColorPair &pair : qAsConst(m_pairs)) {
-            if (pair.layers.contains(normal))
-                least = std::min(least, changed.ratio(pair));
-        }
-        note(QLatin1String("the text of buttons would stand on the brand at ") % ratioText(least)
-             % QLatin1String("; they take its tone ") % m_colors.text(normal));
-        return;
-    }
-    m_colors.setText(normal, brand);
-    // Under the pointer one tone lighter, pressed one darker, as far as the text allows.
-    QStringList used{brand};
-    const int step = nearestStep(m_parameters.brand);
-    const auto setFirst = [&](const char *name, std::initializer_list<int> distances) {
-        for (const int distance : distances) {
-            const int tone = step + distance;
-            const QString text = key("Brand_") % QString::number(tone);
-            if (tone < 1 || tone > toneCount || used.contains(text) || !canHave(key(name), text))
-                continue;
-            m_colors.setText(key(name), text);
-            used.append(text);
-            return;
-        }
-    };
-    setFirst("GeneralButtonBackgroundHover", {-1, 1, -2, 2});
-    setFirst("GeneralButtonBackgroundPressed", {1, 2, -1, -2, 3, -3});
 }
 
 // The texts that a key may change to, the nearest first: tones of the same run, which have names,
@@ -196,63 +118,50 @@ QStringList Designer::alternatives(const QString &key) const
     return texts;
 }
 
-// Whether a change of the key makes the pair hold, and none of its other pairs worse that has to.
-bool Designer::isRemedy(const ColorPair &pair, const QString &key, const QString &text) const
-{
-    LookColors changed = m_colors;
-    changed.setText(key, text);
-    if (changed.ratio(pair) < required(pair))
-        return false;
-    for (const ColorPair &other : qAsConst(m_pairs)) {
-        if (other.foreground != key && !other.layers.contains(key))
-            continue;
-        const double ratio = changed.ratio(other);
-        if (ratio < required(other) && ratio < m_colors.ratio(other))
-            return false;
-    }
-    return true;
-}
-
 void Designer::mend(const ColorPair &pair)
 {
-    if (holds(pair))
+    if (m_pairs.holds(pair))
         return;
     const QString top = pair.layers.constLast();
     const bool isFill = isPlainText(pair.foreground) && !isSurface(top);
     const QString moved = isFill ? top : pair.foreground;
     const QStringList texts = alternatives(moved);
     for (const QString &text : texts) {
-        if (isRemedy(pair, moved, text)) {
+        if (m_pairs.isRemedy(pair, moved, text)) {
             m_colors.setText(moved, text);
             return;
         }
     }
 }
 
-void Designer::mendPairs()
-{
-    for (const ColorPair &pair : qAsConst(m_pairs))
-        mend(pair);
-}
-
 void Designer::separate()
 {
     const auto isAllowed = [this](const QString &key, const QString &text) {
-        return canHave(key, text);
+        return m_pairs.canHave(key, text);
     };
     if (!separateMeanings(&m_colors, isAllowed))
         note(QStringLiteral("error, warning, success and highlight cannot all be told apart by "
                             "every eye at this contrast"));
 }
 
+void Designer::design()
+{
+    m_brandFills.setOwnTexts();
+    for (const ColorPair &pair : m_pairs.pairs())
+        mend(pair);
+    m_brandFills.setLooksTexts();
+    separate();
+    noteWhatFallsShort();
+}
+
 void Designer::noteWhatFallsShort()
 {
-    for (const ColorPair &pair : qAsConst(m_pairs)) {
-        if (!holds(pair))
+    for (const ColorPair &pair : m_pairs.pairs()) {
+        if (!m_pairs.holds(pair))
             note(pair.foreground % QLatin1String(" on ")
                  % pair.layers.join(QLatin1String(" under ")) % QLatin1String(" reaches ")
-                 % ratioText(m_colors.ratio(pair)) % QLatin1String(" and not ")
-                 % ratioText(required(pair)));
+                 % ColorMath::contrastText(m_colors.ratio(pair)) % QLatin1String(" and not ")
+                 % ColorMath::contrastText(m_pairs.required(pair)));
     }
 }
 
@@ -323,10 +232,7 @@ LookColors designedColors(Look look, const Parameters &parameters,
     Designer designer(look, parameters, &colors, notes);
     if (look == Look::Light)
         designer.setLightSurfaces();
-    designer.mendPairs();
-    designer.setBrandFills();
-    designer.separate();
-    designer.noteWhatFallsShort();
+    designer.design();
     return colors;
 }
 
@@ -336,10 +242,7 @@ LookColors recoloredLook(Look look, const Parameters &parameters,
 {
     LookColors colors(palette, texts);
     Designer designer(look, parameters, &colors, notes);
-    designer.mendPairs();
-    designer.setBrandFills();
-    designer.separate();
-    designer.noteWhatFallsShort();
+    designer.design();
     return colors;
 }
 

@@ -68,6 +68,11 @@ const Row rows[] = {
     {"SliderAcrossBackgroundColor", "*",                                     Need::Mark},
     {"ScrollBarHandleBackgroundColor", "*+ScrollBarGrooveBackgroundColor",   Need::Mark},
     {"HighlightedForegroundColor", "EditBackgroundColor",                    Need::Mark},
+    {"AccentForegroundColor",      "AccentBackgroundColor",                  Need::Text},
+    {"AccentForegroundColor",      "AccentHoverColor",                       Need::Text},
+    {"AccentForegroundColor",      "AccentPressedColor",                     Need::Text},
+    {"Palette_HighlightedText",    "Palette_Highlight",                      Need::Text},
+    {"Palette_Highlight",          "EditBackgroundColor",                    Need::Mark},
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <colormath/oklch.h>
+#include <format/applicationkeys.h>
 #include <maker/lookcolors.h>
 #include <maker/rebranding.h>
 #include <maker/themetext.h>
@@ -30,6 +31,19 @@ bool hasBrand(const ThemeText &text)
     const QStringList keys = text.keys(palettesSection);
     return std::any_of(keys.cbegin(), keys.cend(),
                        [](const QString &key) { return key.startsWith(QLatin1String("Brand_")); });
+}
+
+// A theme without fills of its own for the brand gets them, for the look's text may not stand on it.
+void addAccent(QMap<QString, QString> *colors)
+{
+    const QString ground = colors->value(QStringLiteral("GeneralButtonBackgroundNormal"));
+    const QString text = colors->value(QStringLiteral("Color_W100"));
+    if (ground.isEmpty() || text.isEmpty())
+        return;
+    for (const QString &key : accentKeys()) {
+        if (!colors->contains(key))
+            colors->insert(key, key == accentKeys().constLast() ? text : ground);
+    }
 }
 
 // The entries that the text has, and those that a colour has come to name.
@@ -85,6 +99,7 @@ ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *
     const bool isNamed = std::any_of(colors.cbegin(), colors.cend(), isTone);
     if (!hasBrand(base) && !hasBrand(own) && !isNamed)
         return theme;
+    addAccent(&colors);
 
     ThemeText &paletteText = hasBrand(own) && !hasBrand(base) ? own : base;
     const QVector<PaletteEntry> entries = paletteWithBrand(paletteText, brand);
@@ -95,7 +110,8 @@ ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *
                                               parameters, entries, colors, notes);
     setPaletteEntries(&paletteText, usedEntries(entries, paletteText, designed));
     for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
-        ThemeText &holder = baseColors.contains(it.key()) ? base : own;
+        const bool isOfBase = baseColors.contains(it.key()) || theme.own.isEmpty();
+        ThemeText &holder = isOfBase ? base : own;
         holder.setValue(colorsSection, it.key(), designed.text(it.key()));
     }
     return {base.text(), own.text()};

@@ -3,6 +3,7 @@
 
 #include <analysis/rules/rules.h>
 #include <analysis/suggestion.h>
+#include <format/applicationkeys.h>
 
 #include <algorithm>
 
@@ -45,10 +46,13 @@ bool hasImages(const ThemeProject &project)
 }
 
 // The application library draws all images of the built-in templates itself for a theme that names
-// none, so such a theme is whole.
-bool isDrawnByApplication(const ThemeProject &project, const TemplateToken &token)
+// none, and has colours in place of the optional ones, so such a theme is whole.
+bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
+                          bool isWithoutImages)
 {
-    return token.kind == Kind::ImageFile
+    const bool isGiven = (token.kind == Kind::ImageFile && isWithoutImages)
+        || (token.kind == Kind::Color && isOptionalColor(token.key));
+    return isGiven
         && project.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
 }
 
@@ -59,7 +63,7 @@ void check(const ThemeProject &project, Report &report)
     for (const TemplateToken &token : project.tokens()) {
         if (isDefined(project, token.key) || keyWithoutUnit(project, token))
             continue;
-        if (isWithoutImages && isDrawnByApplication(project, token))
+        if (isGivenByApplication(project, token, isWithoutImages))
             continue;
         const QString hidden = hiddenKind(project, token.key);
         report.addAtTemplate(

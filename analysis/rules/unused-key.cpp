@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <analysis/rules/rules.h>
+#include <format/applicationkeys.h>
 
 namespace
 {
@@ -16,7 +17,9 @@ void check(const ThemeProject &project, Report &report)
         for (const Kind kind : {Kind::Color, Kind::ImageFile, Kind::Integer}) {
             for (const int index : theme->stored(kind)) {
                 const Definition &definition = theme->definitions().at(index);
-                if (!used.contains(definition.key()))
+                const bool isForApplication =
+                    kind == Kind::Color && isOptionalColor(definition.key());
+                if (!used.contains(definition.key()) && !isForApplication)
                     report.addAtKey(definition,
                                     QStringLiteral("no template uses the %1 %2")
                                         .arg(nounOf(kind), definition.key()));

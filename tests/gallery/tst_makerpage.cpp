@@ -272,9 +272,12 @@ void tst_MakerPage::report()
 void tst_MakerPage::notes()
 {
     auto *notes = part<QLabel>("notes");
-    QCOMPARE(notes->text(), QString());
+    QCOMPARE(notes->text(),
+             QString("dark: the crossed part of sliders would stand out at 2.45:1; "
+                     "SliderAcrossBackgroundColor is Brand_5"));
     typeBrand(QStringLiteral("#ffe000"));
-    QTRY_VERIFY(notes->text().startsWith(QLatin1String("dark: ")));
+    QTRY_VERIFY(notes->text().contains(
+        QLatin1String("dark: the look's text would stand on the brand at ")));
     const auto *model = part<QTableView>("pairs")->model();
     QCOMPARE(model->rowCount(), Maker::colorPairs().size());
     QVERIFY(model->index(0, 2).data().toString().contains(QLatin1String(":1")));

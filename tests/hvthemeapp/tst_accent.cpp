@@ -7,6 +7,7 @@
 #include <colormath/contrast.h>
 #include <hvtheme/workabletheming.h>
 #include <hvthemeapp/applicationtheme.h>
+#include <hvthemeapp/themedicon.h>
 #include <maker/lookcolors.h>
 
 #include <QApplication>
@@ -29,6 +30,11 @@ private Q_SLOTS:
     void textStaysLegible_data();
     void textStaysLegible();
     void isSeen();
+    void mainButton_data();
+    void mainButton();
+    void defaultWithAnotherGround();
+    void optionalKeys_data();
+    void optionalKeys();
     void givesTheBrandBack();
     void beforeTheFirstLook();
     void survivesASwitch();
@@ -103,6 +109,112 @@ void tst_Accent::isSeen()
     QVERIFY(button.grab().toImage().pixelColor(40, 15) != accent);
     QVERIFY(theme.setAccent(accent));
     QCOMPARE(button.grab().toImage().pixelColor(40, 15), accent);
+}
+
+void tst_Accent::mainButton_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<QColor>("accent");
+    QTest::addColumn<QColor>("text");
+
+    QTest::newRow("yellow-in-dark") << "dark" << QColor("#ffd000") << QColor("#000000");
+    QTest::newRow("white-in-dark") << "dark" << QColor("#ffffff") << QColor("#000000");
+    QTest::newRow("blue-in-dark") << "dark" << QColor("#1040c0") << QColor("#f7f9fc");
+    QTest::newRow("blue-in-light") << "light" << QColor("#1040c0") << QColor("#ffffff");
+    QTest::newRow("black-in-light") << "light" << QColor("#000000") << QColor("#ffffff");
+    QTest::newRow("yellow-in-contrast") << "contrast" << QColor("#ffff00") << QColor("#000000");
+}
+
+// The default button is the accent unchanged, whatever it is, and text and icon have the colour that
+// stands on it.
+void tst_Accent::mainButton()
+{
+    QFETCH(QString, look);
+    QFETCH(QColor, accent);
+    QFETCH(QColor, text);
+    ApplicationTheme theme;
+    QVERIFY(theme.setAccent(accent));
+    QVERIFY(theme.setName(look));
+    for (const bool hasIcon : {false, true}) {
+        QPushButton button(hasIcon ? QString() : QStringLiteral("HHH"));
+        if (hasIcon)
+            button.setIcon(HV::themedIcon("stop"));
+        button.setIconSize({24, 24});
+        button.setDefault(true);
+        button.resize(100, 40);
+        const QImage image = button.grab().toImage();
+        QCOMPARE(image.pixelColor(10, 20), accent);
+        bool isSeen = false;
+        for (int i = 0; i < 100 * 30; ++i)
+            isSeen = isSeen || image.pixelColor(i % 100, 5 + i / 100) == text;
+        QVERIFY2(isSeen, hasIcon ? "icon" : "text");
+    }
+}
+
+// A button with a property of the templates keeps their text, be it the default one or not.
+void tst_Accent::defaultWithAnotherGround()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("light"));
+    const QColor text = theme.theme()->color("DefaultForegroundColor");
+    for (const char *style : {"transparent", "assist", "menuButton", "editButton", "helper"}) {
+        QPushButton button("HHH");
+        button.setProperty("style", style);
+        button.setDefault(true);
+        button.resize(100, 40);
+        const QImage image = button.grab().toImage();
+        bool isSeen = false;
+        for (int i = 0; i < 100 * 30; ++i)
+            isSeen = isSeen || image.pixelColor(i % 100, 5 + i / 100) == text;
+        QVERIFY2(isSeen, style);
+    }
+}
+
+void tst_Accent::optionalKeys_data()
+{
+    QTest::addColumn<QByteArray>("keys");
+    QTest::addColumn<QStringList>("colors"); // ground, under the pointer, pressed, text
+
+    const QByteArray buttons = "GeneralButtonBackgroundNormal=#102030\n"
+                               "GeneralButtonBackgroundHover=#203040\n"
+                               "GeneralButtonBackgroundPressed=#304050\nColor_W100=#fefefe\n";
+    QTest::newRow("none") << buttons << QStringList{"#102030", "#203040", "#304050", "#fefefe"};
+    QTest::newRow("all") << buttons
+            + "AccentBackgroundColor=#ffee00\nAccentHoverColor=#eedd00\n"
+              "AccentPressedColor=#ddcc00\nAccentForegroundColor=#010101\n"
+                         << QStringList{"#ffee00", "#eedd00", "#ddcc00", "#010101"};
+    QTest::newRow("ground") << buttons + "AccentBackgroundColor=#000040\n"
+                            << QStringList{"#000040", "#000040", "#000040", "#fefefe"};
+    QTest::newRow("text") << buttons + "AccentForegroundColor=#ffff80\n"
+                          << QStringList{"#102030", "#203040", "#304050", "#ffff80"};
+}
+
+// A theme may have some of the four keys or none, and nobody is told.
+void tst_Accent::optionalKeys()
+{
+    QFETCH(QByteArray, keys);
+    QFETCH(QStringList, colors);
+    TemporaryFolder folder;
+    QByteArray text = "[Colors]\n" + keys;
+    HV::WorkableTheme sample;
+    HV::changeTheme(&sample, "dark", ":/hvthemeapp/themes");
+    const QVariantMap &values = sample.values();
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        const bool isGiven = keys.contains(it.key().toLatin1() + '=')
+            || it.key().startsWith("Accent") || it->userType() != QMetaType::QColor;
+        if (!isGiven)
+            text += it.key().toLatin1() + '=' + it->value<QColor>().name(QColor::HexArgb).toLatin1()
+                + '\n';
+    }
+    folder.write("default.theme", text);
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("default"));
+    QStringList found;
+    for (const char *key : {"AccentBackgroundColor", "AccentHoverColor", "AccentPressedColor",
+                            "AccentForegroundColor"})
+        found.append(theme.theme()->color(key).name());
+    QCOMPARE(found, colors);
 }
 
 void tst_Accent::givesTheBrandBack()

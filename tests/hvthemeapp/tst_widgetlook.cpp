@@ -729,7 +729,8 @@ void tst_WidgetLook::templateProperty_data()
     }
 }
 
-// Buttons that carry a property of the built-in templates look as these say, to the pixel.
+// Buttons that carry a property of the built-in templates look as these say, to the pixel; the button
+// of the main action is the brand, with the text that stands on it.
 void tst_WidgetLook::templateProperty()
 {
     QFETCH(QString, look);
@@ -739,6 +740,7 @@ void tst_WidgetLook::templateProperty()
 
     HV::ApplicationTheme theme;
     QVERIFY(theme.setName(look));
+    QRect place;
     const auto picture = [&] {
         Stage stage(textual<QPushButton>, [&](QWidget *widget) {
             auto *button = static_cast<QPushButton *>(widget);
@@ -749,9 +751,19 @@ void tst_WidgetLook::templateProperty()
             if (state == "hovered")
                 Gallery::holdHover(button);
         });
+        place = stage.place();
+        // A window that settles lets its buttons go.
+        static_cast<QPushButton *>(stage.control())->setDown(state == "pressed");
         return stage.picture();
     };
     const QImage whole = picture();
+    if (value == "general" && property == "style") {
+        const char *key = state == "hovered" ? "AccentHoverColor"
+            : state == "pressed"             ? "AccentPressedColor"
+                                             : "AccentBackgroundColor";
+        QCOMPARE(mainColor(whole, place), theme.theme()->color(key));
+        return;
+    }
     qApp->setStyleSheet(
         HV::findStyleSheet(theme.theme(), QStringLiteral(":/stylesheet"), "global"));
     QCOMPARE(whole, picture());

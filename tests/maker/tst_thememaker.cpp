@@ -109,6 +109,8 @@ private Q_SLOTS:
     void steps();
     void brandIsAFill_data();
     void brandIsAFill();
+    void selectionIsTheBrand_data();
+    void selectionIsTheBrand();
     void neutral_data();
     void neutral();
     void textContrast_data();
@@ -118,6 +120,7 @@ private Q_SLOTS:
     void withBrand_data();
     void withBrand();
     void withBrandOfAnotherTheme();
+    void withBrandAddsFills();
 };
 
 void tst_ThemeMaker::samples_data()
@@ -211,38 +214,90 @@ void tst_ThemeMaker::brandIsAFill_data()
 {
     QTest::addColumn<QColor>("brand");
     QTest::addColumn<QString>("look");
-    QTest::addColumn<bool>("isButton");
+    QTest::addColumn<QColor>("text"); // invalid: no text reaches its ratio on the brand
+    QTest::addColumn<bool>("carriesLooksText");
 
-    QTest::newRow("dark-enough") << QColor("#7a2f9c") << "dark" << true;
-    QTest::newRow("too-light-for-light-text") << QColor("#ffd000") << "dark" << false;
-    QTest::newRow("light-enough") << QColor("#ffd000") << "light" << true;
-    QTest::newRow("too-dark-for-dark-text") << QColor("#102080") << "light" << false;
-    QTest::newRow("very-dark") << QColor("#0a1a60") << "contrast" << true;
+    const QColor white("#ffffff");
+    const QColor black("#000000");
+    const QColor dark("#f7f9fc"); // the text of each look
+    const QColor light("#080b10");
+    QTest::newRow("dark-enough") << QColor("#7a2f9c") << "dark" << dark << true;
+    QTest::newRow("black-text-in-dark") << QColor("#ffd000") << "dark" << black << false;
+    QTest::newRow("light-enough") << QColor("#ffd000") << "light" << light << true;
+    QTest::newRow("white-text-in-light") << QColor("#102080") << "light" << white << false;
+    QTest::newRow("white-in-dark") << QColor("#ffffff") << "dark" << black << false;
+    QTest::newRow("black-in-light") << QColor("#000000") << "light" << white << false;
+    QTest::newRow("middle-grey-in-dark") << QColor("#777777") << "dark" << black << false;
+    QTest::newRow("middle-grey-in-light") << QColor("#757575") << "light" << white << false;
+    QTest::newRow("blue-in-light") << QColor("#0000ff") << "light" << white << false;
+    QTest::newRow("very-dark-in-contrast") << QColor("#0a1a60") << "contrast" << white << true;
+    QTest::newRow("very-light-in-contrast") << QColor("#ffff00") << "contrast" << black << false;
+    QTest::newRow("middle-in-contrast") << QColor("#3060f0") << "contrast" << QColor() << false;
 }
 
-// The brand itself is the ground of buttons wherever their text allows it; else a note says why not.
+// The brand itself, unchanged, is the ground of the main button with the text that stands best on it.
+// The other fills have the look's text, and are the brand where that allows it; else a note says why not.
 void tst_ThemeMaker::brandIsAFill()
 {
     QFETCH(QColor, brand);
     QFETCH(QString, look);
-    QFETCH(bool, isButton);
+    QFETCH(QColor, text);
+    QFETCH(bool, carriesLooksText);
 
     const QTemporaryDir folder;
     const MadeThemes made = makeThemes(orderOf(brand));
     QVERIFY(write(folder.path(), made));
     HV::WorkableTheme theme;
     HV::changeTheme(&theme, look, folder.path());
-    QCOMPARE(theme.color("GeneralButtonBackgroundNormal") == brand, isButton);
-    QCOMPARE(theme.readNamedColor("Brand").first, brand);
-    const bool isNoted =
-        std::any_of(made.notes.cbegin(), made.notes.cend(), [&](const QString &note) {
-            return note.startsWith(look + ": the text of buttons would stand on the brand at ");
+    const auto isNoted = [&](const QString &beginning) {
+        return std::any_of(made.notes.cbegin(), made.notes.cend(), [&](const QString &note) {
+            return note.startsWith(look + ": " + beginning);
         });
-    QCOMPARE(isNoted, !isButton);
-    const QSet<QRgb> states{theme.color("GeneralButtonBackgroundNormal").rgb(),
-                            theme.color("GeneralButtonBackgroundHover").rgb(),
-                            theme.color("GeneralButtonBackgroundPressed").rgb()};
-    QCOMPARE(states.size(), 3);
+    };
+    const bool hasBrand = text.isValid();
+    QCOMPARE(theme.color("AccentBackgroundColor") == brand, hasBrand);
+    QCOMPARE(isNoted("no text has more than "), !hasBrand);
+    if (hasBrand)
+        QCOMPARE(theme.color("AccentForegroundColor"), text);
+    QCOMPARE(theme.color("GeneralButtonBackgroundNormal") == brand, carriesLooksText);
+    QCOMPARE(isNoted("the look's text would stand on the brand at "), !carriesLooksText);
+    for (const char *kind : {"Accent%1Color", "GeneralButtonBackground%1"}) {
+        QSet<QRgb> states;
+        for (const char *state : {"Hover", "Pressed"})
+            states.insert(theme.color(QString(kind).arg(state)).rgb());
+        states.insert(theme.color("AccentBackgroundColor").rgb());
+        states.insert(theme.color("GeneralButtonBackgroundNormal").rgb());
+        QVERIFY2(states.size() >= 3, kind);
+    }
+}
+
+void tst_ThemeMaker::selectionIsTheBrand_data()
+{
+    QTest::addColumn<QColor>("brand");
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<bool>("isBrand");
+
+    QTest::newRow("dark") << QColor("#3060f0") << "dark" << true;
+    QTest::newRow("light") << QColor("#3060f0") << "light" << true;
+    QTest::newRow("no-text-reaches-7") << QColor("#3060f0") << "contrast" << false;
+    QTest::newRow("light-brand-in-contrast") << QColor("#ffd000") << "contrast" << true;
+    QTest::newRow("light-brand-on-white") << QColor("#ffd000") << "light" << false;
+    QTest::newRow("dark-brand-on-black") << QColor("#101040") << "dark" << false;
+}
+
+// Selected rows are the brand where that stands out from the field around them.
+void tst_ThemeMaker::selectionIsTheBrand()
+{
+    QFETCH(QColor, brand);
+    QFETCH(QString, look);
+    QFETCH(bool, isBrand);
+    const QTemporaryDir folder;
+    QVERIFY(write(folder.path(), makeThemes(orderOf(brand))));
+    HV::WorkableTheme theme;
+    HV::changeTheme(&theme, look, folder.path());
+    const QColor ground = theme.color("Palette_Highlight");
+    QCOMPARE(ground == brand, isBrand);
+    QVERIFY(ColorMath::contrastRatio(ground, theme.color("EditBackgroundColor")) >= 3.0);
 }
 
 void tst_ThemeMaker::neutral_data()
@@ -384,6 +439,23 @@ void tst_ThemeMaker::withBrandOfAnotherTheme()
     QCOMPARE(ThemeText(after.base).value("Palettes", "Ink"), QString("#101010"));
     QVERIFY(ThemeText(after.base).value("Palettes", "Brand_6") != "#2D63F0");
     QCOMPARE(ThemeText(after.own).keys("Colors"), QStringList{"HighlightedForegroundColor"});
+}
+
+// A theme whose buttons follow the brand gets fills that carry a text of their own.
+void tst_ThemeMaker::withBrandAddsFills()
+{
+    const ThemeTexts before{
+        "[Palettes]\nBrand_6=#2D63F0\n",
+        "[Colors]\nColor_W100=#FFFFFF\nGeneralButtonBackgroundNormal=Brand_6\n"};
+    QStringList notes;
+    const ThemeText own(Maker::withBrand(before, QColor("#ffd000"), &notes).own);
+    QCOMPARE(own.value("Colors", "AccentBackgroundColor"), QString("Brand"));
+    QCOMPARE(own.value("Colors", "AccentForegroundColor"), QString("#000000"));
+    // All in one default file: what is added stands there too.
+    const ThemeTexts one{before.base + before.own, ""};
+    const ThemeTexts after = Maker::withBrand(one, QColor("#ffd000"), &notes);
+    QCOMPARE(ThemeText(after.base).value("Colors", "AccentBackgroundColor"), QString("Brand"));
+    QVERIFY(after.own.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_ThemeMaker)
