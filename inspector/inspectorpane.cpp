@@ -153,7 +153,7 @@ QTreeWidget *InspectorPane::makeList(const QString &title, const QStringList &co
     connect(list, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem *item) {
         showChange(item);
         if (m_change->isVisible())
-            m_change->setFocus();
+            m_change->setFocus(Qt::TabFocusReason); // which selects what is there
         else
             showUsersOf(item);
     });
@@ -217,6 +217,10 @@ QWidget *InspectorPane::makeDetails()
     m_properties = new PropertyEditor(m_changes);
     m_tabs->addTab(m_properties, tr("Properties"));
     m_tabs->addTab(new ChangeList(m_changes), tr("Changes"));
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        const auto *list = qobject_cast<QTreeWidget *>(m_tabs->currentWidget());
+        showChange(list ? list->currentItem() : nullptr);
+    });
     auto *halves = new QSplitter(Qt::Vertical);
     halves->setChildrenCollapsible(false);
     halves->addWidget(m_tabs);
@@ -475,6 +479,12 @@ bool InspectorPane::eventFilter(QObject *object, QEvent *event)
     case QEvent::EnabledChange:
     case QEvent::StyleChange:
     case QEvent::DynamicPropertyChange:
+    case QEvent::Enter: // and so for states that come and go with the pointer and the focus
+    case QEvent::Leave:
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
         if (object == m_widget)
             lookSoon();
         break;

@@ -94,11 +94,21 @@ void PropertyEditor::setWidget(QWidget *widget, const InspectedSheet &sheet)
     showProperties(sheet);
     {
         const QSignalBlocker blocker(m_name);
-        m_name->setCurrentText(chosen.isEmpty() ? m_name->itemText(0) : chosen);
+        m_name->setCurrentText(chosen.isEmpty() ? firstName() : chosen);
     }
     showValues();
     if (isBeingWritten)
         m_value->setCurrentText(written);
+}
+
+// What the widget has is what people are about to change.
+QString PropertyEditor::firstName() const
+{
+    for (int i = 0; i < m_name->count(); ++i) {
+        if (m_widget && m_widget->property(m_name->itemText(i).toUtf8().constData()).isValid())
+            return m_name->itemText(i);
+    }
+    return m_name->itemText(0);
 }
 
 void PropertyEditor::showProperties(const InspectedSheet &sheet)

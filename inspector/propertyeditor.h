@@ -29,6 +29,7 @@ private:
     void showValues();
     void setValue(bool isRemoved);
     QString name() const;
+    QString firstName() const;
 
     ProgramChanges *const m_changes;
     QPointer<QWidget> m_widget;

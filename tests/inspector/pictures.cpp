@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: MIT
 
 // Draws the pictures of docs/inspector.md: an ordinary window with the inspector beside it, while a value
-// is being changed. Usage: hvtheme_inspectorpictures FOLDER; QT_SCALE_FACTOR=2 makes them larger.
+// is being changed. Usage: hvtheme_inspectorpictures FOLDER [--all]; QT_SCALE_FACTOR=2 makes them larger.
 
 #include "quietplatform.h"
 
-#include <inspector/inspectorlists.h>
+#include <inspector/conflictdialog.h>
 #include <inspector/inspectorwindow.h>
 
 #include <hvthemeapp/applicationtheme.h>
 
 #include <QtWidgets>
+
+#include <algorithm>
 
 namespace
 {
@@ -101,6 +103,44 @@ bool draw(QWidget &window, QWidget &inspector, const QString &path)
     return both.save(path);
 }
 
+// The dialogs, as they open.
+bool drawDialogs(InspectorWindow &inspector, const QString &folder, const char *look)
+{
+    bool isDrawn = true;
+    const auto draw = [&](const char *name, const char *button) {
+        part<QAbstractButton>(inspector, button)->click();
+        QCoreApplication::processEvents();
+        const auto dialogs = inspector.findChildren<QDialog *>();
+        for (QDialog *dialog : dialogs) {
+            isDrawn = dialog->grab().save(
+                          QStringLiteral("%1/inspector-%2-%3.png").arg(folder, name, look))
+                && isDrawn;
+            delete dialog;
+        }
+    };
+    draw("new-theme", "Save as a new theme");
+    draw("picker", "Choose any colour");
+    ThemeSaving saving;
+    saving.ours = "[Colors]\nBrand=#7A3DF0\nGround=#101418\n";
+    saving.theirs = "; ours since Monday\n[Colors]\nBrand=#3060F0\nGround=#101418\n";
+    ConflictDialog conflict("/srv/themes/dark.theme", saving, inspector.pane());
+    conflict.show();
+    QCoreApplication::processEvents();
+    return conflict.grab().save(QStringLiteral("%1/inspector-conflict-%2.png").arg(folder, look))
+        && isDrawn;
+}
+
+// Those that the guide shows, unless all are asked for.
+bool isShown(const char *what, const char *look)
+{
+    const QPair<const char *, const char *> shown[] = {
+        {"value", "dark"}, {"colour", "dark"}, {"warning", "light"}, {"changes", "contrast"}};
+    return QCoreApplication::arguments().contains("--all")
+        || std::any_of(std::begin(shown), std::end(shown), [&](const auto &one) {
+               return qstrcmp(one.first, what) == 0 && qstrcmp(one.second, look) == 0;
+           });
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -122,6 +162,8 @@ int main(int argc, char *argv[])
         inspector.pane()->pick(send);
         const auto picture = [&](const char *what) {
             settle(inspector);
+            if (!isShown(what, look))
+                return;
             const QString name = QStringLiteral("%1/inspector-%2-%3.png").arg(folder, what, look);
             isDrawn = draw(*window, inspector, name) && isDrawn;
         };
@@ -132,13 +174,18 @@ int main(int argc, char *argv[])
         Q_EMIT color->textEdited(color->text());
         picture("colour");
         choose(part<QTreeWidget>(inspector, "Values"), "color");
-        color->setText("#5060D0");
+        color->setText("#8A8F98");
         Q_EMIT color->textEdited(color->text());
         picture("warning");
         showTab(inspector, "Changes");
         picture("changes");
         showTab(inspector, "Properties");
         picture("properties");
+        if (application.arguments().contains("--all")) {
+            showTab(inspector, "Values");
+            settle(inspector);
+            isDrawn = drawDialogs(inspector, folder, look) && isDrawn;
+        }
         ProgramChanges::ofProgram()->discard();
     }
     return isDrawn ? 0 : 1;
