@@ -82,10 +82,59 @@ void findingUsers(benchmark::State &state)
         require(!usersOf(rule, widgets, *sheet).isEmpty(), "no users");
 }
 
+// From an edit to what is painted, with the inspector open, and beside it what a switch of themes takes.
+void editing(benchmark::State &state)
+{
+    HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
+    const std::unique_ptr<QWidget> window(windowOf(int(state.range(0))));
+    window->setAttribute(Qt::WA_DontShowOnScreen, false);
+    window->hide();
+    window->show();
+    InspectorWindow inspector;
+    inspector.show();
+    auto *button = window->findChild<QPushButton *>();
+    inspector.pane()->pick(button);
+    const InspectedValue *value =
+        inspector.pane()->inspection().value(QStringLiteral("background-color"));
+    require(value && !value->chains.isEmpty(), "no key");
+    const auto sheet = InspectedSheet::inForce();
+    const ChangeTarget target =
+        changeTargets(*sheet->project(), sheet->project()->theme(look->name()),
+                      value->chains.constFirst().token.key)
+            .constLast(); // a palette entry, so that both themes have it
+    QCoreApplication::processEvents();
+
+    ProgramChanges *changes = ProgramChanges::ofProgram();
+    double edits = 0;
+    double switches = 0;
+    bool isOdd = false;
+    QElapsedTimer timer;
+    for (auto _ : state) {
+        isOdd = !isOdd;
+        timer.start();
+        require(changes->setValue(target.place.file, target.fileKey,
+                                  isOdd ? QStringLiteral("#ff00aa") : QStringLiteral("#aa00ff")),
+                "no change");
+        QCoreApplication::processEvents(); // paints
+        edits += double(timer.nsecsElapsed());
+        state.PauseTiming();
+        timer.start();
+        require(look->setName(isOdd ? QStringLiteral("light") : QStringLiteral("dark")),
+                "no theme");
+        QCoreApplication::processEvents();
+        switches += double(timer.nsecsElapsed());
+        state.ResumeTiming();
+    }
+    state.counters["ofSwitch"] = edits / switches;
+    changes->discard();
+    look->setName(QStringLiteral("dark"));
+}
+
 } // namespace
 
 BENCHMARK(opening)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
 BENCHMARK(picking)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(editing)->Arg(200)->Arg(2000)->Unit(benchmark::kMillisecond);
 BENCHMARK(findingUsers)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
