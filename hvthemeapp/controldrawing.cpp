@@ -3,12 +3,15 @@
 
 #include "controldrawing.h"
 
+#include "themedicon.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QPainter>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTreeView>
 #include <QtMath>
 
 namespace HV
@@ -203,6 +206,24 @@ void drawMenuSeparators(const QMenu &menu, QPainter &painter)
 int menuSeparatorHeight(const QStyleOptionMenuItem &option)
 {
     return option.text.isEmpty() ? 7 : option.fontMetrics.height() + 8;
+}
+
+void drawCategorySigns(const QTreeView &tree, QPainter &painter)
+{
+    constexpr int side = 12;
+    const bool isMirrored = tree.isRightToLeft();
+    const QModelIndex root = tree.rootIndex();
+    for (int row = 0; row < tree.model()->rowCount(root); ++row) {
+        const QModelIndex index = tree.model()->index(row, 0, root);
+        const QRect place = tree.visualRect(index);
+        if (place.isEmpty() || !tree.model()->hasChildren(index))
+            continue;
+        QRect area(0, 0, side, side);
+        area.moveCenter(place.center());
+        area.moveLeft(isMirrored ? place.right() - side - 2 : place.left() + 3);
+        const QLatin1String name(tree.isExpanded(index) ? "down" : isMirrored ? "left" : "right");
+        themedIcon(name).paint(&painter, area);
+    }
 }
 
 void drawGrip(const QStyleOption &option, QPainter &painter)

@@ -11,6 +11,7 @@ class QStyle;
 class QStyleOption;
 class QStyleOptionMenuItem;
 class QStyleOptionSlider;
+class QTreeView;
 
 namespace HV
 {
@@ -34,6 +35,9 @@ void drawMenuSeparators(const QMenu &menu, QPainter &painter);
 
 /*! \brief How high a line across a menu is, with its title. */
 int menuSeparatorHeight(const QStyleOptionMenuItem &option);
+
+/*! \brief Draws before each category of \a tree, a row without a parent, whether it is open. */
+void drawCategorySigns(const QTreeView &tree, QPainter &painter);
 
 /*! \brief Draws what the columns of a view of columns are pulled wider by. */
 void drawGrip(const QStyleOption &option, QPainter &painter);

@@ -22,6 +22,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTimer>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -218,6 +219,16 @@ bool hasIconOnBrand(const QPushButton &button)
         != IconColors::ink(QIcon::Normal);
 }
 
+// Qt's style for style sheets passes on a branch of an item view alone, and drops what a delegate asks
+// for: the signs before the categories of Designer's boxes.
+QTreeView *treeOfCategories(QWidget *viewport)
+{
+    auto *tree = qobject_cast<QTreeView *>(viewport->parentWidget());
+    const bool isOne = tree && viewport == tree->viewport() && tree->itemDelegate()
+        && tree->itemDelegate()->inherits("qdesigner_internal::SheetDelegate");
+    return isOne ? tree : nullptr;
+}
+
 } // namespace
 
 ThemedStyle::ThemedStyle(const QString &name)
@@ -265,7 +276,7 @@ void ThemedStyle::polish(QWidget *widget)
     if (auto *area = qobject_cast<QMdiArea *>(widget))
         followPalette(*area);
     else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
-             || qobject_cast<QPushButton *>(widget))
+             || qobject_cast<QPushButton *>(widget) || treeOfCategories(widget))
         widget->installEventFilter(this);
 }
 
@@ -298,6 +309,17 @@ bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
             watched->event(event);
             QPainter painter(menu);
             drawMenuSeparators(*menu, painter);
+            return true;
+        }
+        auto *viewport = qobject_cast<QWidget *>(watched);
+        QTreeView *tree = m_paintsTree ? nullptr : treeOfCategories(viewport);
+        if (tree) {
+            // The tree paints its viewport by a filter of its own, which comes after this one.
+            m_paintsTree = true;
+            QCoreApplication::sendEvent(viewport, event);
+            m_paintsTree = false;
+            QPainter painter(viewport);
+            drawCategorySigns(*tree, painter);
             return true;
         }
     }

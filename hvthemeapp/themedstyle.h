@@ -63,6 +63,8 @@ public:
 
 private:
     explicit ThemedStyle(const QString &name);
+
+    bool m_paintsTree = false;
 };
 
 } // namespace HV

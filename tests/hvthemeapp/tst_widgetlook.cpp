@@ -217,6 +217,41 @@ QTestData &addRow(const QString &look, const char *control, const char *state = 
 
 } // namespace
 
+namespace qdesigner_internal
+{
+
+/*! Draws categories as Designer's delegate of that name does. */
+class SheetDelegate : public QItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit SheetDelegate(QTreeView *view)
+        : QItemDelegate(view)
+        , m_view(view)
+    {
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override
+    {
+        if (index.parent().isValid()) {
+            QItemDelegate::paint(painter, option, index);
+            return;
+        }
+        QStyleOption branch;
+        branch.rect = QRect(option.rect.left() + 4, option.rect.center().y() - 4, 9, 9);
+        branch.palette = option.palette;
+        branch.state = QStyle::State_Children;
+        m_view->style()->drawPrimitive(QStyle::PE_IndicatorBranch, &branch, painter, m_view);
+    }
+
+private:
+    QTreeView *m_view;
+};
+
+} // namespace qdesigner_internal
+
 /*! What each control looks like, in each look: what the pixels must show, not which they are. */
 class tst_WidgetLook : public QObject
 {
@@ -246,6 +281,8 @@ private Q_SLOTS:
     void drawnByStyle();
     void selectedRow_data();
     void selectedRow();
+    void category_data();
+    void category();
     void ownSeparator();
     void templateProperty_data();
     void templateProperty();
@@ -665,6 +702,43 @@ void tst_WidgetLook::selectedRow()
             mostIn(picture, part & picture.rect(), mainColor(picture, part & picture.rect()));
         QVERIFY2(sign >= 3, qUtf8Printable(QString("%1 on %2").arg(sign).arg(ground.name())));
     }
+}
+
+void tst_WidgetLook::category_data()
+{
+    selectedRow_data();
+}
+
+// Qt drops the sign that Designer's delegate asks the style for, as soon as there is a style sheet.
+void tst_WidgetLook::category()
+{
+    QFETCH(QString, look);
+    QFETCH(bool, mirrored);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto pictureOf = [mirrored](bool expanded) {
+        QTreeWidget tree;
+        tree.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        tree.setRootIsDecorated(false);
+        tree.setHeaderHidden(true);
+        tree.setItemDelegate(new qdesigner_internal::SheetDelegate(&tree));
+        auto *item = new QTreeWidgetItem(&tree, {"category"});
+        new QTreeWidgetItem(item, {"inner"});
+        item->setExpanded(expanded);
+        tree.resize(160, 80);
+        tree.grab();
+        const QRect row = tree.visualItemRect(item);
+        const QRect sign(mirrored ? row.right() - 16 : row.left() + 1, row.top(), 16, row.height());
+        return tree.viewport()->grab(sign).toImage();
+    };
+    const QImage closed = pictureOf(false);
+    const QImage open = pictureOf(true);
+    for (const QImage &sign : {closed, open}) {
+        const double contrast = mostIn(sign, sign.rect(), mainColor(sign, sign.rect()));
+        QVERIFY2(contrast >= 3, qUtf8Printable(QString::number(contrast)));
+    }
+    QVERIFY(closed != open);
 }
 
 // Who gives the lines of menus a rule gets what the rule says.
