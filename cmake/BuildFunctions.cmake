@@ -15,6 +15,10 @@ function(hvtheme_set_defaults target)
         QT_STRICT_ITERATORS QT_DEPRECATED_WARNINGS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
         -Wnon-virtual-dtor -Woverloaded-virtual -Wsuggest-override $<$<BOOL:${HVTHEME_WERROR}>:-Werror>)
+    # In a unity build a source sees the names of others, and the compiler takes it for a header.
+    if(CMAKE_UNITY_BUILD)
+        target_compile_options(${target} PRIVATE -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+    endif()
     if(UNIX AND NOT APPLE) # everything is bound before a program runs, and read-only from then on
         target_link_options(${target} PRIVATE LINKER:-z,relro LINKER:-z,now)
     endif()
@@ -23,6 +27,15 @@ function(hvtheme_set_defaults target)
         target_link_options(${target} PRIVATE -fsanitize=${HVTHEME_SANITIZE})
     endif()
 endfunction()
+
+# hvtheme_add_resources(<variable> <collection>)
+#
+# Sets the variable to the source that holds the collection of resources, in a form that any Qt of the
+# same major version reads. Such sources all define the same names, so each is compiled by itself.
+macro(hvtheme_add_resources variable collection)
+    qt_add_resources(${variable} ${collection} OPTIONS --format-version 3)
+    set_source_files_properties(${${variable}} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endmacro()
 
 # Lets what is installed in the folder find the installed libraries, also after the tree was moved. A
 # folder is relative to the prefix or absolute; between one of each there is no fixed way, so the run

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <colormath/distance.h>
+#include <colormath/srgb.h>
 
 #include <QColor>
 #include <QtMath>
@@ -10,11 +11,6 @@
 
 namespace
 {
-
-double linearChannel(double encoded)
-{
-    return encoded <= 0.04045 ? encoded / 12.92 : std::pow((encoded + 0.055) / 1.055, 2.4);
-}
 
 double labCurve(double ratio)
 {
@@ -86,9 +82,9 @@ Lab toLab(const QColor &color)
 {
     constexpr double full = 0xffff; // the fractions that Qt gives are coarser in Qt 6
     const QRgba64 rgb = color.rgba64();
-    const double red = linearChannel(rgb.red() / full);
-    const double green = linearChannel(rgb.green() / full);
-    const double blue = linearChannel(rgb.blue() / full);
+    const double red = ColorMath::linearChannel(rgb.red() / full);
+    const double green = ColorMath::linearChannel(rgb.green() / full);
+    const double blue = ColorMath::linearChannel(rgb.blue() / full);
     // IEC 61966-2-1; each row is divided by its sum, the white point, so that greys come out as such.
     const double x = (0.4124 * red + 0.3576 * green + 0.1805 * blue) / 0.9505;
     const double y = 0.2126 * red + 0.7152 * green + 0.0722 * blue;

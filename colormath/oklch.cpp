@@ -3,6 +3,7 @@
 
 #include <colormath/contrast.h>
 #include <colormath/oklch.h>
+#include <colormath/srgb.h>
 
 #include <QtMath>
 
@@ -18,18 +19,10 @@ struct LinearColor {
     double blue;
 };
 
-double decoded(double encoded)
-{
-    return encoded <= 0.04045 ? encoded / 12.92 : std::pow((encoded + 0.055) / 1.055, 2.4);
-}
-
 // In eight bits, half to even as scripts in other languages round as well.
-int encoded(double channel)
+int eightBits(double linear)
 {
-    const double linear = qBound(0.0, channel, 1.0);
-    const double curve =
-        linear <= 0.0031308 ? 12.92 * linear : 1.055 * std::pow(linear, 1 / 2.4) - 0.055;
-    return int(std::nearbyint(255.0 * curve));
+    return int(std::nearbyint(255.0 * ColorMath::encodedChannel(qBound(0.0, linear, 1.0))));
 }
 
 double cube(double x)
@@ -117,9 +110,9 @@ Oklch toOklch(const QColor &color)
 {
     constexpr double full = 0xffff; // the fractions that Qt gives are coarser in Qt 6
     const QRgba64 rgb = color.rgba64();
-    const double red = decoded(rgb.red() / full);
-    const double green = decoded(rgb.green() / full);
-    const double blue = decoded(rgb.blue() / full);
+    const double red = linearChannel(rgb.red() / full);
+    const double green = linearChannel(rgb.green() / full);
+    const double blue = linearChannel(rgb.blue() / full);
     const double l = std::cbrt(0.4122214708 * red + 0.5363325363 * green + 0.0514459929 * blue);
     const double m = std::cbrt(0.2119034982 * red + 0.6806995451 * green + 0.1073969566 * blue);
     const double s = std::cbrt(0.0883024619 * red + 0.2817188376 * green + 0.6299787005 * blue);
@@ -148,7 +141,7 @@ QColor colorAtLightness(double lightness, double chroma, double hue)
         });
         color = linearAtLightness(lightness, shown, hue);
     }
-    return {encoded(color.red), encoded(color.green), encoded(color.blue)};
+    return {eightBits(color.red), eightBits(color.green), eightBits(color.blue)};
 }
 
 QColor liftedToContrast(const QColor &text, const QColor &ground, double ratio)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <colormath/srgb.h>
 #include <colormath/vision.h>
 
 #include <QHash>
@@ -28,8 +29,7 @@ std::array<double, 256> decodingTable()
 {
     std::array<double, 256> table{};
     for (size_t i = 0; i < table.size(); ++i) {
-        const double value = double(i) / 255.0;
-        table[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        table[i] = ColorMath::linearChannel(double(i) / 255.0);
     }
     return table;
 }
@@ -40,10 +40,7 @@ std::array<uchar, encodingSteps + 1> encodingTable()
 {
     std::array<uchar, encodingSteps + 1> table{};
     for (size_t i = 0; i < table.size(); ++i) {
-        const double value = double(i) / encodingSteps;
-        table[i] = uchar(qRound(
-            255.0
-            * (value <= 0.0031308 ? 12.92 * value : 1.055 * std::pow(value, 1 / 2.4) - 0.055)));
+        table[i] = uchar(qRound(255.0 * ColorMath::encodedChannel(double(i) / encodingSteps)));
     }
     return table;
 }

@@ -23,7 +23,7 @@ struct Ground {
     const char *disabledKey;
 };
 // clang-format off
-constexpr Ground grounds[] = {
+constexpr Ground drawnGrounds[] = {
     {QPalette::Window,        "Window",        "BackgroundColor_2",      "BackgroundColor_2"},
     {QPalette::Base,          "Base",          "EditBackgroundColor",    "EditDisabledBackgroundColor"},
     {QPalette::AlternateBase, "AlternateBase", "BackgroundColor_3",      "BackgroundColor_3"},
@@ -77,10 +77,10 @@ constexpr double visitedTurn = 55;
 constexpr double lineContrast = 1.3;
 constexpr double lineHighContrast = 3;
 
-class Maker
+class PaletteMaker
 {
 public:
-    explicit Maker(const QVariantMap &values)
+    explicit PaletteMaker(const QVariantMap &values)
         : m_values(values)
         , m_isHighContrast(values.value(QStringLiteral("HighContrast")).toBool())
     {
@@ -89,7 +89,7 @@ public:
     QPalette palette()
     {
         for (const auto &[group, name] : groups) {
-            for (const Ground &ground : grounds)
+            for (const Ground &ground : drawnGrounds)
                 setGround(group, name, ground);
             for (const Text &text : texts)
                 setText(group, name, text);
@@ -218,7 +218,7 @@ private:
 
 QPalette applicationPalette(const QVariantMap &values)
 {
-    return Maker(values).palette();
+    return PaletteMaker(values).palette();
 }
 
 } // namespace HV

@@ -16,7 +16,7 @@ namespace
 using ColorScheme = DesktopSettings::ColorScheme;
 using Contrast = DesktopSettings::Contrast;
 
-const qint64 maximumBytes = 1 << 20;
+const qint64 largestFile = 1 << 20;
 const int settlingMs = 40; // programs write a file in several steps
 
 const QLatin1String gtkFiles[] = {QLatin1String("gtk-3.0/settings.ini"),
@@ -30,7 +30,7 @@ QStringList existing(const QString &name)
     const QStringList paths =
         QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, name);
     for (const QString &path : paths) {
-        if (QFileInfo(path).size() <= maximumBytes)
+        if (QFileInfo(path).size() <= largestFile)
             result.append(path);
     }
     return result;

@@ -23,9 +23,9 @@ const QLatin1String portalService("org.freedesktop.portal.Desktop");
 const QLatin1String portalPath("/org/freedesktop/portal/desktop");
 const QLatin1String portalInterface("org.freedesktop.portal.Settings");
 const QLatin1String appearance("org.freedesktop.appearance");
-const QLatin1String schemeKey("color-scheme");
-const QLatin1String contrastKey("contrast");
-const QLatin1String accentKey("accent-color");
+const QLatin1String portalScheme("color-scheme");
+const QLatin1String portalContrast("contrast");
+const QLatin1String portalAccent("accent-color");
 const QLatin1String notFound("org.freedesktop.portal.Error.NotFound");
 const QLatin1String busName("org.freedesktop.DBus");
 const QLatin1String busPath("/org/freedesktop/DBus");
@@ -52,7 +52,7 @@ std::optional<uint> numberOf(const QVariant &value)
 }
 
 // Three numbers from 0 to 1; anything else is no colour.
-QColor colorOf(const QVariant &value)
+QColor colorOfAnswer(const QVariant &value)
 {
     if (value.userType() != qMetaTypeId<QDBusArgument>())
         return {};
@@ -125,7 +125,7 @@ void DesktopPortal::begin()
 
 void DesktopPortal::ask()
 {
-    for (const QLatin1String &key : {schemeKey, contrastKey, accentKey})
+    for (const QLatin1String &key : {portalScheme, portalContrast, portalAccent})
         ask(key, false);
 }
 
@@ -169,22 +169,22 @@ void DesktopPortal::take(QDBusPendingCallWatcher *call, const QString &key, bool
 void DesktopPortal::store(const QString &key, const QVariant &value)
 {
     const QVariant answer = unwrapped(value);
-    if (key == schemeKey) {
+    if (key == portalScheme) {
         const std::optional<uint> number = numberOf(answer);
         m_preferences.colorScheme.reset();
         if (number == 1U)
             m_preferences.colorScheme = DesktopSettings::ColorScheme::Dark;
         else if (number == 2U)
             m_preferences.colorScheme = DesktopSettings::ColorScheme::Light;
-    } else if (key == contrastKey) {
+    } else if (key == portalContrast) {
         const std::optional<uint> number = numberOf(answer);
         m_preferences.contrast.reset();
         if (number == 0U)
             m_preferences.contrast = DesktopSettings::Contrast::Normal;
         else if (number == 1U)
             m_preferences.contrast = DesktopSettings::Contrast::High;
-    } else if (key == accentKey) {
-        m_preferences.accentColor = colorOf(answer);
+    } else if (key == portalAccent) {
+        m_preferences.accentColor = colorOfAnswer(answer);
     }
 }
 

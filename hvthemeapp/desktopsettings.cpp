@@ -20,10 +20,10 @@ namespace HV
 namespace
 {
 
-const QLatin1String schemeKey("ColorScheme");
-const QLatin1String contrastKey("Contrast");
-const QLatin1String accentKey("AccentColor");
-const QLatin1String presentKey("Portal");
+const QLatin1String rememberedScheme("ColorScheme");
+const QLatin1String rememberedContrast("Contrast");
+const QLatin1String rememberedAccent("AccentColor");
+const QLatin1String rememberedPresence("Portal");
 
 QString memoryFile()
 {
@@ -85,20 +85,20 @@ public:
 void DesktopSettings::Private::recall()
 {
     const QSettings file(memoryFile(), QSettings::IniFormat);
-    remembersPortal = file.value(presentKey).toInt() == 1;
+    remembersPortal = file.value(rememberedPresence).toInt() == 1;
     if (!remembersPortal)
         return;
-    const QString scheme = file.value(schemeKey).toString();
+    const QString scheme = file.value(rememberedScheme).toString();
     if (scheme == QLatin1String("dark"))
         memory.colorScheme = ColorScheme::Dark;
     else if (scheme == QLatin1String("light"))
         memory.colorScheme = ColorScheme::Light;
-    const QString contrastText = file.value(contrastKey).toString();
+    const QString contrastText = file.value(rememberedContrast).toString();
     if (contrastText == QLatin1String("high"))
         memory.contrast = Contrast::High;
     else if (contrastText == QLatin1String("normal"))
         memory.contrast = Contrast::Normal;
-    memory.accentColor = QColor(file.value(accentKey).toString());
+    memory.accentColor = QColor(file.value(rememberedAccent).toString());
 }
 
 // A folder that cannot be written costs one frame in the wrong look at the next start, no more.
@@ -113,17 +113,17 @@ void DesktopSettings::Private::remember()
     memory = portal.preferences();
     QSettings file(memoryFile(), QSettings::IniFormat);
     file.clear();
-    file.setValue(presentKey, isPresent ? 1 : 0);
+    file.setValue(rememberedPresence, isPresent ? 1 : 0);
     if (memory.colorScheme)
-        file.setValue(schemeKey,
+        file.setValue(rememberedScheme,
                       *memory.colorScheme == ColorScheme::Dark ? QStringLiteral("dark")
                                                                : QStringLiteral("light"));
     if (memory.contrast)
-        file.setValue(contrastKey,
+        file.setValue(rememberedContrast,
                       *memory.contrast == Contrast::High ? QStringLiteral("high")
                                                          : QStringLiteral("normal"));
     if (memory.accentColor.isValid())
-        file.setValue(accentKey, memory.accentColor.name());
+        file.setValue(rememberedAccent, memory.accentColor.name());
 }
 
 // Returns whether anything is another than before.

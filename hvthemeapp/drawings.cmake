@@ -19,4 +19,4 @@ string(APPEND collection "    <file>imagefiles.ini</file>\n</qresource>\n</RCC>\
 
 file(CONFIGURE OUTPUT hvthemeapp_icons.qrc CONTENT "${collection}" @ONLY)
 file(CONFIGURE OUTPUT imagefiles.ini CONTENT "${image_files}" @ONLY)
-qt_add_resources(drawing_sources ${CMAKE_CURRENT_BINARY_DIR}/hvthemeapp_icons.qrc OPTIONS --format-version 3)
+hvtheme_add_resources(drawing_sources ${CMAKE_CURRENT_BINARY_DIR}/hvthemeapp_icons.qrc)

@@ -23,7 +23,7 @@ namespace HV
 namespace
 {
 
-const int maximumSide = 1024;
+const int largestSide = 1024;
 const double disabledOpacity = 0.45;
 
 void warnOnce(const QString &text)
@@ -65,7 +65,7 @@ QSize declaredSize(const QSvgRenderer &renderer)
     const QSize size = renderer.defaultSize();
     if (!renderer.isValid() || size.isEmpty())
         return {20, 20};
-    const QSize largest(maximumSide, maximumSide);
+    const QSize largest(largestSide, largestSide);
     return size.boundedTo(largest) == size ? size : size.scaled(largest, Qt::KeepAspectRatio);
 }
 

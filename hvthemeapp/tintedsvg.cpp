@@ -28,7 +28,7 @@ QString colorTokenPattern()
         + QLatin1String("(\\w+)");
 }
 
-const int maximumBytes = 1 << 20;
+const int largestSource = 1 << 20;
 const int maximumDepth = 100;
 // Elements, times what is applied to each of them at worst. An icon has some dozens of the one.
 const qint64 maximumWork = 200000;
@@ -321,8 +321,8 @@ void Tinter::refuse(const QString &sentence)
 
 TintedSvg tintedSvg(const QByteArray &source, QIcon::Mode mode)
 {
-    if (source.size() > maximumBytes)
-        return {{}, QStringLiteral("it is larger than %1 bytes").arg(maximumBytes), {}};
+    if (source.size() > largestSource)
+        return {{}, QStringLiteral("it is larger than %1 bytes").arg(largestSource), {}};
     return Tinter(source, mode).run();
 }
 

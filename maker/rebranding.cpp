@@ -3,6 +3,7 @@
 
 #include <colormath/oklch.h>
 #include <format/applicationkeys.h>
+#include <format/kind.h>
 #include <maker/lookcolors.h>
 #include <maker/rebranding.h>
 #include <maker/themetext.h>
@@ -15,9 +16,6 @@ namespace Maker
 namespace
 {
 
-const QString colorsSection = QStringLiteral("Colors");
-const QString palettesSection = QStringLiteral("Palettes");
-
 Look lookOf(const LookColors &colors, const QMap<QString, QString> &flags)
 {
     if (flags.value(QStringLiteral("HighContrast")).toInt() != 0)
@@ -28,7 +26,7 @@ Look lookOf(const LookColors &colors, const QMap<QString, QString> &flags)
 
 bool hasBrand(const ThemeText &text)
 {
-    const QStringList keys = text.keys(palettesSection);
+    const QStringList keys = text.keys(sectionName(Kind::Palette));
     return std::any_of(keys.cbegin(), keys.cend(),
                        [](const QString &key) { return key.startsWith(QLatin1String("Brand_")); });
 }
@@ -50,7 +48,7 @@ void addAccent(QMap<QString, QString> *colors)
 QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const ThemeText &text,
                                   const LookColors &colors)
 {
-    const QStringList keys = text.keys(palettesSection);
+    const QStringList keys = text.keys(sectionName(Kind::Palette));
     const QStringList named = colors.texts().values();
     QVector<PaletteEntry> used;
     std::copy_if(entries.cbegin(), entries.cend(), std::back_inserter(used),
@@ -63,7 +61,7 @@ QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const Th
 // The palette of a theme with the tones of another brand. An entry may name one before it.
 QVector<PaletteEntry> paletteWithBrand(const ThemeText &text, const QColor &brand)
 {
-    const LookColors known({}, text.values(palettesSection));
+    const LookColors known({}, text.values(sectionName(Kind::Palette)));
     QVector<PaletteEntry> entries;
     Parameters parameters;
     parameters.brand = brand;
@@ -71,7 +69,7 @@ QVector<PaletteEntry> paletteWithBrand(const ThemeText &text, const QColor &bran
     std::copy_if(
         made.cbegin(), made.cend(), std::back_inserter(entries),
         [](const PaletteEntry &entry) { return entry.first.startsWith(QLatin1String("Brand")); });
-    for (const QString &key : text.keys(palettesSection)) {
+    for (const QString &key : text.keys(sectionName(Kind::Palette))) {
         if (key.startsWith(QLatin1String("Brand")))
             continue;
         const QString value = known.text(key);
@@ -88,8 +86,8 @@ ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *
     ThemeText base(theme.base);
     ThemeText own(theme.own);
     // A key of the default file keeps its value, so that is where it has to change.
-    QMap<QString, QString> colors = own.values(colorsSection);
-    const QMap<QString, QString> baseColors = base.values(colorsSection);
+    QMap<QString, QString> colors = own.values(sectionName(Kind::Color));
+    const QMap<QString, QString> baseColors = base.values(sectionName(Kind::Color));
     for (auto it = baseColors.cbegin(); it != baseColors.cend(); ++it)
         colors.insert(it.key(), it.value());
 
@@ -112,7 +110,7 @@ ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *
     for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
         const bool isOfBase = baseColors.contains(it.key()) || theme.own.isEmpty();
         ThemeText &holder = isOfBase ? base : own;
-        holder.setValue(colorsSection, it.key(), designed.text(it.key()));
+        holder.setValue(sectionName(Kind::Color), it.key(), designed.text(it.key()));
     }
     return {base.text(), own.text()};
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <colormath/oklch.h>
+#include <format/kind.h>
 #include <format/themepath.h>
 #include <maker/lookcolors.h>
 #include <maker/thememaker.h>
@@ -25,8 +26,6 @@ namespace Maker
 namespace
 {
 
-const QString colorsSection = QStringLiteral("Colors");
-const QString palettesSection = QStringLiteral("Palettes");
 const QString generalSection = QStringLiteral("General");
 
 QByteArray sample(const QString &name)
@@ -103,10 +102,10 @@ MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &pa
                   QStringList *notes)
 {
     ThemeText text(sample(lookName(look)));
-    const QMap<QString, QString> colors = text.values(colorsSection);
+    const QMap<QString, QString> colors = text.values(sectionName(Kind::Color));
     const LookColors designed = designedColors(look, order.parameters, palette, colors, notes);
-    for (const QString &key : text.keys(colorsSection))
-        text.setValue(colorsSection, key, designed.text(key));
+    for (const QString &key : text.keys(sectionName(Kind::Color)))
+        text.setValue(sectionName(Kind::Color), key, designed.text(key));
     text.removeSection(QStringLiteral("ImageFiles"));
     if (!order.name.isEmpty())
         text.setValue(generalSection, QStringLiteral("ThemeName"),

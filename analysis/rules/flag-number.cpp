@@ -8,18 +8,11 @@ namespace
 
 void check(const ThemeProject &project, Report &report)
 {
-    for (const ThemeStack *theme : project.allThemes()) {
-        for (const Definition &definition : theme->definitions()) {
-            bool isNumber = false;
-            definition.value->value.toLongLong(&isNumber);
-            if (definition.kind() != Kind::Flag || definition.value->isList() || isNumber
-                || definition.fate == Definition::Fate::Exists)
-                continue;
-            report.addAtValue(definition,
-                              QStringLiteral("flag %1 is \"%2\", no decimal number, and is stored "
-                                             "as false; write 1 or 0")
-                                  .arg(definition.key(), definition.value->text()));
-        }
+    for (const Definition *definition : definitionsWithoutNumber(project, Kind::Flag)) {
+        report.addAtValue(*definition,
+                          QStringLiteral("flag %1 is \"%2\", no decimal number, and is stored as "
+                                         "false; write 1 or 0")
+                              .arg(definition->key(), definition->value->text()));
     }
 }
 

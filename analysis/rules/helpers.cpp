@@ -43,6 +43,21 @@ const ThemeFileEntry *stopEntry(const Definition &gradient, int stop, const QStr
                                      % QLatin1Char('/') % key);
 }
 
+QVector<const Definition *> definitionsWithoutNumber(const ThemeProject &project, Kind kind)
+{
+    QVector<const Definition *> definitions;
+    for (const ThemeStack *theme : project.allThemes()) {
+        for (const Definition &definition : theme->definitions()) {
+            bool isNumber = false;
+            definition.value->value.toLongLong(&isNumber);
+            if (definition.kind() == kind && !definition.value->isList() && !isNumber
+                && definition.fate != Definition::Fate::Exists)
+                definitions.append(&definition);
+        }
+    }
+    return definitions;
+}
+
 QVector<ThemeImage> themeImages(const ThemeProject &project)
 {
     QVector<ThemeImage> images;

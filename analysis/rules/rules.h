@@ -85,6 +85,9 @@ struct ThemeImage {
 /*! \brief Returns the image files of all themes, with paths in the application's folder. */
 QVector<ThemeImage> themeImages(const ThemeProject &project);
 
+/*! \brief Returns the values of \a kind that the library stores as 0, being no decimal number. */
+QVector<const Definition *> definitionsWithoutNumber(const ThemeProject &project, Kind kind);
+
 /*! \brief Tells whether any theme gives style sheets a value for \a key. */
 bool isDefined(const ThemeProject &project, const QString &key);
 

@@ -17,7 +17,7 @@ namespace
 constexpr int windowSize = 65536;
 
 // Values that repeat nothing and still need more steps than this at one token were made to do so.
-constexpr int stepLimit = 100000;
+constexpr int substitutionLimit = 100000;
 
 struct Pass {
     Kind kind;
@@ -135,7 +135,7 @@ private:
                 if (value.key == token.key)
                     return token.key;
             }
-            if (step > stepLimit)
+            if (step > substitutionLimit)
                 return token.key;
             window.replace(token.start, token.end - token.start, valueOf(token.key));
             open.append({token.key, lengthBehind});

@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = qint64(64) * 1024 * 1024;
+constexpr qint64 templateSizeLimit = qint64(64) * 1024 * 1024;
 
 // The same files in the same order as HV::readStyleSheet() finds them in a folder.
 QStringList filesIn(const QString &folder)
@@ -67,7 +67,7 @@ std::optional<TemplateText> TemplateText::read(const QStringList &sources, const
 
 bool TemplateText::append(const QString &path, QString *error)
 {
-    const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
+    const std::optional<InputFile> input = InputFile::read(path, templateSizeLimit, error);
     if (!input)
         return false;
     m_files.append({*input, int(m_text.size())});

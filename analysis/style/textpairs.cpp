@@ -31,7 +31,7 @@ QStringList stepConditions(const StyleSelector::Step &step)
     return conditions;
 }
 
-QStringList statesOf(const StyleSelector &selector)
+QStringList stateListOf(const StyleSelector &selector)
 {
     QStringList names;
     const QVector<StyleSelector::Pseudo> states = selector.states();
@@ -44,7 +44,7 @@ QStringList statesOf(const StyleSelector &selector)
 QStringList allConditions(const StyleSelector &selector)
 {
     QStringList conditions = stepConditions(selector.subject());
-    const QStringList states = statesOf(selector);
+    const QStringList states = stateListOf(selector);
     for (const QString &state : states)
         conditions << QLatin1Char(':') + state;
     return conditions.mid(0, conditionLimit);
@@ -115,7 +115,7 @@ public:
         QVector<TextPair> result;
         for (const Entry &entry : m_entries) {
             const QString type = entry.selector.subject().type;
-            const QStringList states = statesOf(entry.selector);
+            const QStringList states = stateListOf(entry.selector);
             if (states.contains(QStringLiteral("disabled"))
                 || states.contains(QStringLiteral("!enabled"))
                 || !showsText(entry.selector.subControl()))

@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr int stepLimit = 500;
+constexpr int undoLimit = 500;
 
 bool fail(const QString &message, QString *error)
 {
@@ -88,7 +88,7 @@ void ThemeEditor::push(const QString &file, const QByteArray &content, const QSt
     next.changed = changed;
     m_states.resize(m_current + 1);
     m_states.append(next);
-    if (m_states.size() > stepLimit)
+    if (m_states.size() > undoLimit)
         m_states.removeFirst();
     m_current = int(m_states.size()) - 1;
 }

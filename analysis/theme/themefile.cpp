@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = qint64(16) * 1024 * 1024;
+constexpr qint64 themeSizeLimit = qint64(16) * 1024 * 1024;
 
 const char byteOrderMark[] = "\xEF\xBB\xBF";
 
@@ -106,7 +106,7 @@ QString ThemeFileEntry::name() const
 
 std::optional<ThemeFile> ThemeFile::read(const QString &path, QString *error)
 {
-    const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
+    const std::optional<InputFile> input = InputFile::read(path, themeSizeLimit, error);
     if (!input)
         return std::nullopt;
     return fromInput(*input, error);

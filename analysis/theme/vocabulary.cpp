@@ -16,7 +16,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = qint64(1024) * 1024;
+constexpr qint64 vocabularySizeLimit = qint64(1024) * 1024;
 
 std::optional<QStringList> textsOf(const QJsonValue &value)
 {
@@ -49,7 +49,7 @@ Vocabulary Vocabulary::builtIn()
 
 std::optional<Vocabulary> Vocabulary::read(const QString &path, QString *error)
 {
-    const std::optional<InputFile> input = InputFile::read(path, sizeLimit, error);
+    const std::optional<InputFile> input = InputFile::read(path, vocabularySizeLimit, error);
     if (!input)
         return std::nullopt;
     QJsonParseError parseError;
