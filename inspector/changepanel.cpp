@@ -5,16 +5,15 @@
 
 #include <inspector/coloreditor.h>
 #include <inspector/imageeditor.h>
+#include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
 
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QSpinBox>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -47,9 +46,9 @@ ChangePanel::ChangePanel(ProgramChanges *changes, QWidget *parent)
     , m_warning(new QLabel)
     , m_editors(new QStackedWidget)
     , m_color(new ColorEditor)
-    , m_integer(new QSpinBox)
+    , m_integer(new OwnSpinBox)
     , m_image(new ImageEditor)
-    , m_flag(new QCheckBox)
+    , m_flag(new OwnCheckBox)
     , m_problem(new QLabel)
 {
     setAccessibleName(tr("Change the value"));

@@ -8,6 +8,7 @@
 #include <inspector/changepanel.h>
 #include <inspector/inspectorlists.h>
 #include <inspector/mismatch.h>
+#include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
 #include <inspector/plaintree.h>
 #include <inspector/propertyeditor.h>
@@ -171,14 +172,14 @@ QWidget *InspectorPane::makeDetails()
     m_name->setWordWrap(true);
     column->addWidget(m_name);
     auto *line = new QHBoxLayout;
-    m_partBox = new QComboBox;
+    m_partBox = new OwnComboBox;
     m_partBox->setAccessibleName(tr("Part of the widget"));
     m_partBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_partBox->setMinimumContentsLength(16);
     line->addWidget(m_partBox, 1);
     const QStringList states = ForcedStates::names();
     for (const QString &state : states) {
-        auto *box = new QCheckBox(QLatin1Char(':') % state);
+        auto *box = new OwnCheckBox(QLatin1Char(':') % state);
         box->setAccessibleName(tr("Force the state %1").arg(state));
         connect(box, &QCheckBox::toggled, this, [this, state](bool on) { force(state, on); });
         m_states.insert(state, box);

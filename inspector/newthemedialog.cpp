@@ -5,9 +5,9 @@
 
 #include <format/themepath.h>
 #include <hvthemeapp/applicationtheme.h>
+#include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
 
-#include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
@@ -49,7 +49,7 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     , m_folder(new QLineEdit)
     , m_name(new QLineEdit)
     , m_displayName(new QLineEdit)
-    , m_goesOn(new QCheckBox(tr("&Go on with the new theme")))
+    , m_goesOn(new OwnCheckBox(tr("&Go on with the new theme")))
     , m_problem(new QLabel)
 {
     setAttribute(Qt::WA_DeleteOnClose);

@@ -27,11 +27,13 @@ QSpinBox::up-button, QSpinBox::down-button {background-color: #e4e4ea; border: n
 QSpinBox::up-button {subcontrol-position: top right;}
 QSpinBox::down-button {subcontrol-position: bottom right;}
 QSpinBox::up-button:hover, QSpinBox::down-button:hover {background-color: #d4d4de;}
-QSpinBox::up-arrow, QSpinBox::down-arrow {image: none; width: 6px; height: 2px; background-color: #1c1c22;}
+QSpinBox::up-arrow, QSpinBox::down-arrow {image: none; width: 0; height: 0; background: none; background-color: transparent;}
+QColorDialog QSpinBox {padding-right: 5px;}
+QColorDialog QSpinBox::up-button, QColorDialog QSpinBox::down-button {width: 0;}
 QPlainTextEdit, QListView {background-color: #ffffff; border: 2px solid #c4c4cc;}
 QPlainTextEdit {font-family: monospace;}
 QComboBox::drop-down {border: none; background-color: #e4e4ea; width: 16px; image: none;}
-QComboBox::down-arrow {image: none; width: 6px; height: 6px; background-color: #1c1c22;}
+QComboBox::down-arrow {image: none; width: 0; height: 0; background: none; background-color: transparent;}
 QComboBox QAbstractItemView {background-color: #ffffff; color: #1c1c22; border: 1px solid #767680;}
 QPushButton, QToolButton {
     background-color: #e4e4ea; color: #1c1c22; border: 1px solid #767680; padding: 3px 8px; image: none; min-height: 16px;

@@ -44,16 +44,26 @@ void ProgramChanges::log(const Step &step)
     m_redo.clear();
 }
 
+// What others wrote into a file that has no changes here is what is changed. All steps are made anew
+// for that, so it is only done if need be.
+void ProgramChanges::readAnew(ThemeEditor *editor, const QString &file)
+{
+    QString error;
+    if (editor->contents().contains(file))
+        return;
+    const auto onDisk = ThemeFile::read(file, &error);
+    if (!onDisk || onDisk->content() == m_known.value(file))
+        return;
+    if (editor->adopt(file, ThemeEditor::Text::Theirs, &error))
+        m_known.insert(file, onDisk->content());
+}
+
 bool ProgramChanges::setValue(const QString &file, const QString &key, const QString &value,
                               ThemeEditor::Step step)
 {
     m_problem.clear();
     ThemeEditor next = m_editor;
-    // What others wrote into a file that has no changes here is what is changed.
-    if (!next.contents().contains(file)) {
-        QString ignored;
-        next.adopt(file, ThemeEditor::Text::Theirs, &ignored);
-    }
+    readAnew(&next, file);
     const QString changing = file % QLatin1Char('\n') % key;
     const bool isContinued = step == ThemeEditor::Step::Continued && changing == m_continued;
     if (!next.setValue(file, key, value, isContinued ? step : ThemeEditor::Step::New, &m_problem))
@@ -178,9 +188,11 @@ QStringList ProgramChanges::unsavedFiles() const
 ThemeSaving ProgramChanges::save(const QString &file)
 {
     m_continued.clear();
+    const QByteArray content = m_editor.contents().value(file);
     const ThemeSaving saving = m_editor.save(file);
     m_problem = saving.message;
     if (saving.isSaved()) {
+        m_known.insert(file, content);
         isShown(m_editor);
         Q_EMIT changed();
     }
@@ -193,6 +205,7 @@ bool ProgramChanges::adopt(const QString &file, ThemeEditor::Text text)
     m_continued.clear();
     if (!m_editor.adopt(file, text, &m_problem))
         return false;
+    m_known.remove(file);
     isShown(m_editor);
     Q_EMIT changed();
     return true;

@@ -76,11 +76,13 @@ private:
     };
 
     bool isShown(const ThemeEditor &editor);
+    void readAnew(ThemeEditor *editor, const QString &file);
     void log(const Step &step);
     void apply(const PropertyChange &change);
     void move(QVector<Step> *from, QVector<Step> *to, bool isUndo);
 
     ThemeEditor m_editor;
+    QHash<QString, QByteArray> m_known; // files as they are on disk, when they had no changes here
     QVector<PropertyChange> m_properties;
     QVector<Step> m_undo;
     QVector<Step> m_redo;

@@ -3,10 +3,10 @@
 
 #include <inspector/propertyeditor.h>
 
+#include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
 #include <inspector/plaintree.h>
 
-#include <QComboBox>
 #include <QCompleter>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,7 +20,7 @@ namespace
 
 QComboBox *makeBox(const QString &name)
 {
-    auto *box = new QComboBox;
+    auto *box = new OwnComboBox;
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setAccessibleName(name);

@@ -144,7 +144,7 @@ def check(screen, themes, is_inspected):
     wait(lambda: screen.pixel(BUTTON) == NEW, "the change again, after Ctrl+Shift+Z")
     screen.do("key", "ctrl+s")
     wait(lambda: dark.read_bytes() != before, "the saved file")
-    old, new = b"GeneralButtonBackgroundNormal=Brand_6\n", f"GeneralButtonBackgroundNormal=#{NEW:06x}\n".encode()
+    old, new = b"AccentBackgroundColor=Brand_6\n", f"AccentBackgroundColor=#{NEW:06x}\n".encode()
     if before.count(old) != 1 or dark.read_bytes() != before.replace(old, new):
         raise Failure("more or less than the one value is written")
 
