@@ -55,6 +55,7 @@ PAGES = (
         ("api", None, "Interface"),
         ("messages", "docs/messages.md", "Messages"),
         ("performance", "docs/performance.md", "Performance"),
+        ("abi", "docs/abi.md", "Binary compatibility"),
     )),
     ("Project", (
         ("contributing", "CONTRIBUTING.md", "Contributing"),
