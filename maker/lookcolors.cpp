@@ -217,6 +217,8 @@ double requiredRatio(Need need, Look look, double textContrast)
         return look == Look::Contrast ? std::max(7.0, textContrast) : textContrast;
     case Need::SelectedFrame:
         return look == Look::Contrast ? 1.5 : 3.0;
+    case Need::Line:
+        return look == Look::Contrast ? 3.0 : 1.3;
     case Need::Disabled:
     case Need::Mark:
         break;

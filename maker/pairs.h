@@ -25,6 +25,7 @@ enum class Need {
     Text, //!< 4.5:1, or what is asked for; 7:1 in the contrast look
     Disabled, //!< 3:1
     Mark, //!< an edge, a sign, the focus: 3:1
+    Line, //!< what only divides or frames others, 1.3:1; 3:1 in the contrast look
     SelectedFrame, //!< the frame of a field in use: 3:1, and 1.5:1 in the contrast look
 };
 
