@@ -7,13 +7,13 @@
 #include <inspector/changelist.h>
 #include <inspector/changepanel.h>
 #include <inspector/inspectorlists.h>
-#include <inspector/mismatch.h>
-#include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
+#include <inspector/pickedpart.h>
 #include <inspector/plaintree.h>
 #include <inspector/propertyeditor.h>
 #include <inspector/savebar.h>
 #include <inspector/usage.h>
+#include <inspector/whynot.h>
 
 #include <QtWidgets>
 
@@ -166,27 +166,10 @@ QWidget *InspectorPane::makeDetails()
     auto *details = new QWidget;
     auto *column = new QVBoxLayout(details);
     column->setContentsMargins(6, 0, 0, 0);
-    m_name = new QLabel(tr("Nothing is picked."));
-    m_name->setAccessibleName(tr("Picked widget"));
-    m_name->setTextInteractionFlags(Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
-    m_name->setWordWrap(true);
-    column->addWidget(m_name);
-    auto *line = new QHBoxLayout;
-    m_partBox = new OwnComboBox;
-    m_partBox->setAccessibleName(tr("Part of the widget"));
-    m_partBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_partBox->setMinimumContentsLength(16);
-    line->addWidget(m_partBox, 1);
-    const QStringList states = ForcedStates::names();
-    for (const QString &state : states) {
-        auto *box = new OwnCheckBox(QLatin1Char(':') % state);
-        box->setAccessibleName(tr("Force the state %1").arg(state));
-        connect(box, &QCheckBox::toggled, this, [this, state](bool on) { force(state, on); });
-        m_states.insert(state, box);
-        line->addWidget(box);
-    }
-    column->addLayout(line);
-    connect(m_partBox, qOverload<int>(&QComboBox::activated), this, [this](int index) {
+    m_picked = new PickedPart;
+    column->addWidget(m_picked);
+    connect(m_picked, &PickedPart::stateForced, this, &InspectorPane::force);
+    connect(m_picked, &PickedPart::partChosen, this, [this](int index) {
         m_part = m_parts.value(index);
         look();
     });
@@ -200,21 +183,8 @@ QWidget *InspectorPane::makeDetails()
                        {tr("Rule"), tr("Value"), tr("Where"), tr("Weight"), tr("Overridden by")});
     m_boxes = makeList(tr("Box, font, palette"), {tr("What"), tr("Value")});
     m_theme = makeList(tr("Theme"), {tr("Key"), tr("Value")});
-    auto *question = new QWidget;
-    auto *form = new QVBoxLayout(question);
-    m_selector = new QLineEdit;
-    m_selector->setAccessibleName(tr("Selector"));
-    m_selector->setToolTip(tr("A selector without commas: QPushButton[style=general]:hover"));
-    auto *selectorLabel = new QLabel(tr("Why does &this selector not match the picked part?"));
-    selectorLabel->setBuddy(m_selector);
-    form->addWidget(selectorLabel);
-    form->addWidget(m_selector);
-    m_verdict = makeList(tr("Why not"), {tr("Part of the selector"), tr("Verdict")});
-    m_tabs->removeTab(m_tabs->indexOf(m_verdict));
-    form->addWidget(m_verdict);
-    m_verdict->show();
-    m_tabs->addTab(question, tr("Why not"));
-    connect(m_selector, &QLineEdit::textChanged, this, &InspectorPane::showVerdict);
+    m_whyNot = new WhyNot;
+    m_tabs->addTab(m_whyNot, tr("Why not"));
     m_properties = new PropertyEditor(m_changes);
     m_tabs->addTab(m_properties, tr("Properties"));
     m_tabs->addTab(new ChangeList(m_changes), tr("Changes"));
@@ -289,7 +259,7 @@ void InspectorPane::look()
         showTheme();
     }
     if (!m_widget) {
-        m_name->setText(tr("Nothing is picked."));
+        m_picked->showNothing();
         m_properties->setWidget(nullptr, *m_sheet);
         refreshChange();
         return;
@@ -304,48 +274,16 @@ void InspectorPane::look()
         }
     }
     m_inspection = Inspection::of(m_widget, m_part, *m_sheet);
-    showParts();
-    showStates();
+    m_picked->show(m_inspection, m_parts, m_part, m_forced);
     fill(m_rules, [this] { InspectorLists::showRules(m_rules, m_inspection, *m_sheet); });
     fill(m_values, [this] { InspectorLists::showValues(m_values, m_inspection, *m_sheet); });
     fill(m_boxes, [this] { InspectorLists::showBox(m_boxes, m_inspection); });
     showContrast();
-    showVerdict();
+    m_whyNot->setInspection(m_inspection, m_sheet->cascade().attributes());
     m_properties->setWidget(m_inspection.styledWidget, *m_sheet);
     refreshChange();
     if (painted->isVisible())
         m_outline.add(painted, m_part.rect);
-}
-
-void InspectorPane::showParts()
-{
-    QString name = nameOf(m_widget);
-    if (m_inspection.styledWidget != m_widget)
-        name += tr(", which has the rules of %1").arg(nameOf(m_inspection.styledWidget));
-    QStringList states = m_inspection.element.states.values();
-    states.sort();
-    m_name->setText(QStringLiteral("%1   (%2)").arg(name, states.join(QLatin1String(", "))));
-    m_partBox->clear();
-    int current = 0;
-    for (int i = 0; i < m_parts.size(); ++i) {
-        const WidgetPart &part = m_parts.at(i);
-        const QString text = part.subControl.isEmpty()
-            ? tr("the widget itself")
-            : QString(QLatin1String("::") % part.subControl % QLatin1String("  ") % part.label);
-        m_partBox->addItem(text);
-        if (part == m_part)
-            current = i;
-    }
-    m_partBox->setCurrentIndex(current);
-}
-
-void InspectorPane::showStates()
-{
-    for (auto it = m_states.cbegin(); it != m_states.cend(); ++it) {
-        const QSignalBlocker blocker(*it);
-        (*it)->setEnabled(ForcedStates::isPossible(m_inspection.styledWidget, it.key()));
-        (*it)->setChecked(m_forced.isForced(it.key()));
-    }
 }
 
 void InspectorPane::showContrast()
@@ -365,24 +303,6 @@ void InspectorPane::showContrast()
             : tr(", too low; nearest that passes: %1 (%2)")
                   .arg(contrast->passingEntry, contrast->passingColor.name());
     m_contrast->setText(text);
-}
-
-void InspectorPane::showVerdict()
-{
-    m_verdict->clear();
-    const QString text = m_selector->text().trimmed();
-    if (text.isEmpty() || !m_inspection.styledWidget)
-        return;
-    // It may ask for properties that no rule asks for.
-    StyleRules rules(text % QLatin1String("{}"));
-    StyleElement element = StyleElement::of(
-        m_inspection.styledWidget, attributesIn(rules.rules()) + m_sheet->cascade().attributes());
-    element.subControl = m_inspection.subControl;
-    element.states = m_inspection.element.states;
-    const SelectorVerdict verdict = whyNot(text, element);
-    new QTreeWidgetItem(m_verdict, {text, verdict.matches ? tr("matches") : verdict.reason});
-    for (const SelectorPiece &piece : verdict.pieces)
-        new QTreeWidgetItem(m_verdict, {piece.text, piece.fits ? tr("fits") : piece.reason});
 }
 
 void InspectorPane::showUsersOf(const QTreeWidgetItem *item)

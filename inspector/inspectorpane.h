@@ -18,10 +18,10 @@
 #include <functional>
 
 class ChangePanel;
+class PickedPart;
 class PropertyEditor;
 class SaveBar;
-class QCheckBox;
-class QComboBox;
+class WhyNot;
 class QLabel;
 class QLineEdit;
 class QTabWidget;
@@ -85,7 +85,6 @@ private:
     QTreeWidget *makeList(const QString &title, const QStringList &columns);
     void showInTree();
     void look();
-    void showParts();
     void showContrast();
     void fill(QTreeWidget *list, const std::function<void()> &show);
     void showTheme();
@@ -93,8 +92,6 @@ private:
     void showChange(const QTreeWidgetItem *item);
     void refreshChange();
     void lookSoon();
-    void showVerdict();
-    void showStates();
     void showUsersOf(const QTreeWidgetItem *item);
     void force(const QString &state, bool on);
 
@@ -118,20 +115,17 @@ private:
     QToolButton *m_pick = nullptr;
     QLineEdit *m_filter = nullptr;
     QTreeView *m_widgets = nullptr;
-    QLabel *m_name = nullptr;
+    PickedPart *m_picked = nullptr;
     QLabel *m_contrast = nullptr;
-    QComboBox *m_partBox = nullptr;
-    QHash<QString, QCheckBox *> m_states;
     QTabWidget *m_tabs = nullptr;
     QTreeWidget *m_rules = nullptr;
     QTreeWidget *m_values = nullptr;
     QTreeWidget *m_boxes = nullptr;
     QTreeWidget *m_theme = nullptr;
     ChangePanel *m_change = nullptr;
+    WhyNot *m_whyNot = nullptr;
     PropertyEditor *m_properties = nullptr;
     SaveBar *m_save = nullptr;
-    QLineEdit *m_selector = nullptr;
-    QTreeWidget *m_verdict = nullptr;
     QLabel *m_status = nullptr;
 };
 

@@ -30,9 +30,23 @@ bool ProgramChanges::isShown(const ThemeEditor &editor)
         m_problem = tr("The program has no look of a theme.");
         return false;
     }
+    // The program may show texts of its own; they give way where files are changed here.
     const QHash<QString, QByteArray> before = look->unsavedTexts();
-    if (look->setUnsavedTexts(editor.contents()))
+    QHash<QString, QByteArray> texts = m_covered;
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        if (!m_shown.contains(it.key()))
+            texts.insert(it.key(), *it);
+    }
+    const QHash<QString, QByteArray> covered = texts;
+    const QHash<QString, QByteArray> contents = editor.contents();
+    for (auto it = contents.cbegin(); it != contents.cend(); ++it)
+        texts.insert(it.key(), *it);
+    if (look->setUnsavedTexts(texts)) {
+        m_covered = covered;
+        const QStringList files = contents.keys();
+        m_shown = QSet<QString>(files.cbegin(), files.cend());
         return true;
+    }
     m_problem = look->problem();
     look->setUnsavedTexts(before);
     return false;

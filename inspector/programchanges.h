@@ -83,6 +83,8 @@ private:
 
     ThemeEditor m_editor;
     QHash<QString, QByteArray> m_known; // files as they are on disk, when they had no changes here
+    QSet<QString> m_shown; // files whose text in the program is from here
+    QHash<QString, QByteArray> m_covered; // texts that the program itself shows, or would
     QVector<PropertyChange> m_properties;
     QVector<Step> m_undo;
     QVector<Step> m_redo;

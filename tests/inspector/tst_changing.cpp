@@ -55,6 +55,7 @@ private Q_SLOTS:
     void closing();
     void brokenMeanwhile();
     void anotherThemeMeanwhile();
+    void textsOfTheProgram();
     void byKeysAlone();
     void accessibleNames();
 
@@ -777,6 +778,23 @@ void tst_Changing::anotherThemeMeanwhile()
     QVERIFY(m_window->findChildren<QRadioButton *>().constFirst()->text().contains("light.theme"));
     QVERIFY(ProgramChanges::ofProgram()->isUnsaved());
     QVERIFY(m_theme->setName("dark"));
+    QCOMPARE(ground(), QColor("#ff00aa"));
+}
+
+// A program may show theme files otherwise than they are written.
+void tst_Changing::textsOfTheProgram()
+{
+    QHash<QString, QByteArray> texts;
+    texts.insert(m_folder->filePath("light.theme"), file("light.theme") + "; of the program\n");
+    QVERIFY(m_theme->setUnsavedTexts(texts));
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    QCOMPARE(m_theme->unsavedTexts().size(), 2);
+    part<QToolButton>("Undo")->click();
+    QCOMPARE(m_theme->unsavedTexts(), texts);
+    part<QToolButton>("Redo")->click();
+    QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(m_theme->unsavedTexts(), texts);
     QCOMPARE(ground(), QColor("#ff00aa"));
 }
 
