@@ -73,8 +73,9 @@ int urlPathFault(const QString &path)
     return first;
 }
 
-QString characterAt(const QString &text, int index)
+QString urlPathFaultText(const QString &path, int index)
 {
-    const bool isPair = text.at(index).isHighSurrogate() && index + 1 < text.size();
-    return text.mid(index, isPair ? 2 : 1);
+    const QString both = path.mid(index, 2);
+    const bool isComment = both == QLatin1String("/*");
+    return isComment || both.at(0).isHighSurrogate() ? both : both.left(1);
 }

@@ -18,7 +18,10 @@
  */
 int urlPathFault(const QString &path);
 
-/*! \brief Returns the whole character of \a text at \a index, for messages. */
-QString characterAt(const QString &text, int index);
+/*!
+ * \brief Returns what a message quotes of a fault in \a path at \a index: one whole character, or the
+ * two that begin a comment.
+ */
+QString urlPathFaultText(const QString &path, int index);
 
 #endif

@@ -227,14 +227,14 @@ QPixmap IconEngine::drawn(const Picture &picture, const QSize &size) const
             result = result.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         return picture.mode == QIcon::Disabled ? faded(result) : result;
     }
-    const QString key = QStringLiteral("hvicon:%1:%2x%3:%4:%5:%6:%7")
-                            .arg(picture.path)
+    const QString key = QStringLiteral("hvicon:%1x%2:%3:%4:%5:%6:")
                             .arg(size.width())
                             .arg(size.height())
                             .arg(picture.mode)
                             .arg(IconColors::generation())
                             .arg(QGuiApplication::palette().cacheKey())
-                            .arg(IconColors::OnGround::current());
+                            .arg(IconColors::OnGround::current())
+        % picture.path;
     if (!QPixmapCache::find(key, &result)) {
         result = QPixmap::fromImage(drawnImage(picture.path, size, picture.mode));
         QPixmapCache::insert(key, result);

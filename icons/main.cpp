@@ -62,12 +62,21 @@ ExitCode print(const char *text)
     return WrongUsage;
 }
 
+// A pipe or device would be waited for, or read without end.
+bool isSpecial(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() && !file.isFile();
+}
+
 // Loading a theme never fails: a file that is missing reads as an empty one or is passed over. Here
 // that would give a set of icons in the wrong colours.
 bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
 {
     for (const QString &part : {defaultThemeName(), name}) {
         const QString file = themeFilePath(folder, part);
+        if (isSpecial(file))
+            return complain(file % QLatin1String(": not a regular file"));
         if (!QFileInfo(file).isReadable())
             return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
     }
@@ -86,8 +95,10 @@ bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
 std::optional<QString> readText(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        complain(path % QLatin1String(": ") % file.errorString());
+    const bool isReadable = !isSpecial(path) && file.open(QIODevice::ReadOnly);
+    if (!isReadable) {
+        complain(path % QLatin1String(": ")
+                 % (isSpecial(path) ? QStringLiteral("not a regular file") : file.errorString()));
         return std::nullopt;
     }
     return QString::fromUtf8(file.readAll());
@@ -123,6 +134,8 @@ bool checkTokens(const QVariantMap &values, const QString &path, const QString &
 
 bool writeIfChanged(const QString &path, const QByteArray &content)
 {
+    if (isSpecial(path))
+        return complain(path % QLatin1String(": not a regular file, so it is not replaced"));
     QFile present(path);
     if (present.open(QIODevice::ReadOnly) && present.readAll() == content)
         return true;

@@ -36,7 +36,7 @@ QString suggestedName(const QString &folder, const QString &name)
     int number = 2;
     QString suggested;
     do
-        suggested = QStringLiteral("%1-%2").arg(name).arg(number++);
+        suggested = name % QLatin1Char('-') % QString::number(number++);
     while (QFileInfo::exists(themeFilePath(folder, suggested)));
     return suggested;
 }

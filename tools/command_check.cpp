@@ -82,7 +82,7 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
     options->disabledRules = parser.values(known.disable);
     for (const QString &rule : qAsConst(options->disabledRules)) {
         if (!isRule(rule))
-            return QStringLiteral("no rule is called \"%1\" (see --rules)").arg(rule);
+            return QStringLiteral("no rule is called \"%1\"; --rules lists them").arg(rule);
     }
     return {};
 }

@@ -39,7 +39,7 @@ void reportUnreadablePath(const ThemeProject &input, const QVariantMap &values)
         const int fault = token.kind == Kind::ImageFile ? urlPathFault(path) : -1;
         if (fault < 0)
             continue;
-        printError(QLatin1String("Qt cannot read \"") % characterAt(path, fault)
+        printError(QLatin1String("Qt cannot read \"") % urlPathFaultText(path, fault)
                    % QLatin1String("\" in the path ") % path
                    % QLatin1String(", which stands in url(...) without quotation marks, and drops "
                                    "the style sheet from there on or the image"));

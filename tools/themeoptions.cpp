@@ -104,6 +104,10 @@ std::optional<ThemeProjectOptions> ThemeOptions::read(const QString &name,
         mistake = QLatin1String("one argument too many: ") % arguments.constLast();
     else if (parser.isSet(applicationOption()) && parser.value(applicationOption()).isEmpty())
         mistake = QStringLiteral("--app-dir needs the name of a folder");
+    else if (options.templates.contains(QString()))
+        mistake = QStringLiteral("--templates needs the name of a folder or file");
+    else if (options.suffix.isEmpty())
+        mistake = QStringLiteral("--suffix needs a text");
     else if (!isWord(options.prefix))
         mistake = QStringLiteral("a prefix is made of letters, digits and underscores");
     else if (options.templates.isEmpty())

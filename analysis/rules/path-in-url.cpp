@@ -24,7 +24,7 @@ bool isBefore(const Place &first, const Place &second)
 // The folder or file whose name it is: all images in that folder have one cause.
 QString cause(const QString &path, int index)
 {
-    return path.left(path.indexOf(QLatin1Char('/'), index));
+    return path.left(path.indexOf(QLatin1Char('/'), index + 1)); // the fault may be a "/"
 }
 
 void check(const ThemeProject &project, Report &report)
@@ -52,7 +52,7 @@ void check(const ThemeProject &project, Report &report)
             QStringLiteral("Qt cannot read \"%1\" in the path %2, which stands in url(...) "
                            "without quotation marks, and drops the style sheet from there on or "
                            "the image; rename the folder or the file%3")
-                .arg(characterAt(fault.path, fault.index), fault.path, others));
+                .arg(urlPathFaultText(fault.path, fault.index), fault.path, others));
     }
 }
 

@@ -3,7 +3,30 @@
 
 #include <analysis/theme/themefolder.h>
 
+#include <analysis/suggestion.h>
+
 #include <QFileInfo>
+
+#include <algorithm>
+
+namespace
+{
+
+// What may have been meant by a theme that is not there.
+QString remedy(const ThemeListing &listing, const QString &name)
+{
+    const auto miss = std::find_if(
+        listing.nearMisses.cbegin(), listing.nearMisses.cend(),
+        [&](const QString &file) { return QFileInfo(file).completeBaseName() == name; });
+    if (miss != listing.nearMisses.cend())
+        return QLatin1String("; there is ") % *miss % QLatin1String(", and letter case counts");
+    const QString question = Suggestion(listing.names).question(name);
+    return question.isEmpty()
+        ? QLatin1String("; there are ") % listing.names.join(QLatin1String(", "))
+        : question;
+}
+
+} // namespace
 
 std::optional<ThemeFolder> ThemeFolder::open(const QString &path, const QString &suffix,
                                              QString *error)
@@ -41,5 +64,9 @@ QString ThemeFolder::filePath(const QString &name) const
 
 std::optional<ThemeFile> ThemeFolder::read(const QString &name, QString *error) const
 {
-    return ThemeFile::read(filePath(name), error);
+    const QFileInfo info(filePath(name));
+    std::optional<ThemeFile> file = ThemeFile::read(info.filePath(), error);
+    if (!file && !info.exists() && !info.isSymLink())
+        *error += remedy(m_listing, name);
+    return file;
 }

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void vocabularyRefused_data();
     void vocabularyRefused();
     void placeholderInFolder();
+    void pathInFolder_data();
     void pathInFolder();
     void endless_data();
     void endless();
@@ -381,12 +382,25 @@ void tst_Check::placeholderInFolder()
 }
 
 // All images are in the application's folder, so it is one finding, and the templates have none.
+void tst_Check::pathInFolder_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("fault"); // what the message quotes
+    QTest::newRow("umlaut") << QString::fromUtf8("M\u00fcller & Co") << QString::fromUtf8("\u00fc");
+    QTest::newRow("ampersand") << "Tom & Co"
+                               << "&";
+    QTest::newRow("comment") << "*new*"
+                             << "/*";
+}
+
 void tst_Check::pathInFolder()
 {
+    QFETCH(QString, folder);
+    QFETCH(QString, fault);
     QTemporaryDir root;
     ThemeProjectOptions options;
     options.folder = QStringLiteral(HVTHEME_SOURCE_DIR "/themes");
-    options.applicationFolder = root.filePath(QString::fromUtf8("M\u00fcller & Co/bin"));
+    options.applicationFolder = root.filePath(folder + "/bin");
     QString error;
     const auto project = ThemeProject::read(options, &error);
     QVERIFY2(project, qPrintable(error));
@@ -397,8 +411,8 @@ void tst_Check::pathInFolder()
         QVERIFY2(finding.rule != "style-sheet-syntax", qPrintable(finding.message));
     }
     QCOMPARE(found.size(), 1);
-    QVERIFY2(found.first().contains(QString::fromUtf8("\"\u00fc\" in the path ") + root.path()),
-             qPrintable(found.first()));
+    const QString expected = QString("\"%1\" in the path %2,").arg(fault, root.filePath(folder));
+    QVERIFY2(found.first().contains(expected), qPrintable(found.first()));
 }
 
 void tst_Check::endless_data()

@@ -333,8 +333,6 @@ void tst_LiveReload::unrelatedFile()
     QVERIFY(reloaded.count() <= 2); // the file and its folder may be told of apart
 }
 
-// From the save to the painted window, the wait for further writes included. What other programs
-// take of the processor is not counted, and the fastest of several is taken.
 // Substitution would never end; the window must stay as it is, and alive.
 void tst_LiveReload::endlessValue()
 {
@@ -355,6 +353,8 @@ void tst_LiveReload::endlessValue()
     QTRY_COMPARE(shownButtonColor(), QColor(0x123456));
 }
 
+// From the save to the painted window, the wait for further writes included. What other programs
+// take of the processor is not counted, and the fastest of several is taken.
 void tst_LiveReload::withinThreeTenthsOfASecond()
 {
     constexpr int coalescingMs = 30;

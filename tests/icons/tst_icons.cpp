@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <sys/stat.h>
+
 namespace
 {
 
@@ -68,6 +70,8 @@ private Q_SLOTS:
     void unchangedCopyIsLeftAlone();
     void unusableInput_data();
     void unusableInput();
+    void pipe_data();
+    void pipe();
     void otherPicturesAreStillMade();
     void sourceIsNeverReplaced();
     void wrongUsage();
@@ -168,6 +172,33 @@ void tst_Icons::unusableInput()
     QVERIFY2(outcome.error.contains("hvtheme-icons: " % shop.filePath(complaint) % "\n"),
              qUtf8Printable(outcome.error));
     QVERIFY(!QFile::exists(shop.filePath("out") % "/" % source));
+}
+
+// Nobody writes to it, so reading it would never end.
+void tst_Icons::pipe_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("reason");
+    const QString special = "not a regular file";
+    QTest::newRow("default") << "themes/default.theme" << special;
+    QTest::newRow("theme") << "themes/red.theme" << special;
+    QTest::newRow("picture") << "pen.svg" << special;
+    QTest::newRow("copy") << "out/pen.svg" << special + ", so it is not replaced";
+}
+
+void tst_Icons::pipe()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, reason);
+    const Workshop shop;
+    const QString path = shop.filePath(file);
+    QVERIFY(QDir(shop.path()).mkpath("out"));
+    QFile::remove(path);
+    QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
+    const Outcome outcome = shop.tint("red", {shop.filePath("pen.svg")});
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY2(outcome.error.endsWith("hvtheme-icons: " % path % ": " % reason % "\n"),
+             qUtf8Printable(outcome.error));
 }
 
 void tst_Icons::otherPicturesAreStillMade()

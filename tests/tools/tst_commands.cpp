@@ -18,6 +18,7 @@ private Q_SLOTS:
     void sameOptions();
     void wrongUsage_data();
     void wrongUsage();
+    void suffixInOtherCase();
     void exitCodes_data();
     void exitCodes();
     void laterKindHides();
@@ -80,6 +81,9 @@ void tst_Commands::help_data()
     QTest::newRow("values") << "Usage: hvtheme values [options] FOLDER THEME";
     QTest::newRow("explain") << "Usage: hvtheme explain [options] FOLDER THEME KEY|SELECTOR|COLOR";
     QTest::newRow("diff") << "Usage: hvtheme diff [options] FOLDER THEME_A THEME_B";
+    QTest::newRow("export") << "Usage: hvtheme export [options] FOLDER THEME";
+    QTest::newRow("import") << "Usage: hvtheme import [options] FILE FOLDER";
+    QTest::newRow("new") << "Usage: hvtheme new [options] FOLDER";
     QTest::newRow("sheet") << "Usage: hvtheme sheet [options] FOLDER THEME...";
 }
 
@@ -112,7 +116,7 @@ void tst_Commands::sameOptions()
     };
     const QStringList expected = lines("check");
     QCOMPARE(expected.size(), 5);
-    for (const char *command : {"render", "values", "explain", "diff", "sheet"})
+    for (const char *command : {"render", "values", "explain", "diff", "export", "sheet"})
         QCOMPARE(lines(command), expected);
 }
 
@@ -134,6 +138,10 @@ void tst_Commands::wrongUsage_data()
     QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called xml (see hvtheme values --help)\n";
     QTest::newRow("prefix") << "render themes night --prefix g+" << "hvtheme: render: a prefix is made of letters, digits and underscores (see hvtheme render --help)\n";
     QTest::newRow("no-templates") << "values themes night --no-builtin" << "hvtheme: values: --no-builtin leaves no templates: name some with --templates (see hvtheme values --help)\n";
+    QTest::newRow("empty-templates") << "values themes night --templates=" << "hvtheme: values: --templates needs the name of a folder or file (see hvtheme values --help)\n";
+    QTest::newRow("empty-suffix") << "values themes night --suffix=" << "hvtheme: values: --suffix needs a text (see hvtheme values --help)\n";
+    QTest::newRow("misspelt-theme") << "values themes nihgt" << "hvtheme: themes/nihgt.theme: No such file or directory; did you mean night?\n";
+    QTest::newRow("no-such-theme") << "check themes aquarium" << "hvtheme: themes/aquarium.theme: No such file or directory; there are default, night, plain\n";
     QTest::newRow("no-background") << "sheet themes night -o /nowhere/a.png --background TitelColor" << "hvtheme: sheet: no theme has a colour or palette entry called TitelColor; did you mean TitleColor? (see hvtheme sheet --help)\n";
     QTest::newRow("picture-on-standard-output") << "sheet themes night -o -" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
     QTest::newRow("no-output") << "sheet themes night" << "hvtheme: sheet: --output must name a .png or .html file (see hvtheme sheet --help)\n";
@@ -148,6 +156,17 @@ void tst_Commands::wrongUsage()
     const CommandRun run(arguments.split(' ', Qt::SkipEmptyParts));
     QCOMPARE(run.errors, error.toUtf8());
     QCOMPARE(run.output, QByteArray());
+    QCOMPARE(run.exitCode, 2);
+}
+
+void tst_Commands::suffixInOtherCase()
+{
+    const TemporaryTheme theme("[Colors]\na=#FFF\n");
+    theme.write("Night.THEME", "ThemeName=Night\n");
+    const CommandRun run({"values", theme.path(), "Night"});
+    QCOMPARE(QString(run.errors),
+             "hvtheme: " + theme.path("Night.theme")
+                 + ": No such file or directory; there is Night.THEME, and letter case counts\n");
     QCOMPARE(run.exitCode, 2);
 }
 
@@ -237,7 +256,7 @@ void tst_Commands::fullDevice_data()
          {"--help", "--version", "check --help", "check --rules", "check themes",
           "check themes --format json", "check themes --format sarif", "render themes night",
           "values themes night", "explain themes night Veil", "diff themes default night",
-          "new --help", "run --help", "inspect --help"})
+          "export themes night", "import --help", "new --help", "run --help", "inspect --help"})
         QTest::newRow(arguments) << arguments;
 }
 
