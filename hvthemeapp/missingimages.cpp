@@ -5,12 +5,33 @@
 
 #include "iconplugins.h"
 
+#include <format/token.h>
 #include <hvtheme/theme.h>
+#include <hvtheme/theming.h>
 
+#include <QFileInfo>
 #include <QSettings>
 
 namespace HV
 {
+namespace
+{
+
+// The paths as they stand in a style sheet, by their keys.
+QHash<QString, QString> missingFiles(const QVariantMap &values)
+{
+    QHash<QString, QString> missing;
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        if (it->userType() != QMetaType::QString)
+            continue;
+        const QString file = dpiSpecificImageFile(it->toString());
+        if (!QFileInfo::exists(file))
+            missing.insert(it.key(), file);
+    }
+    return missing;
+}
+
+} // namespace
 
 void addMissingImages(Theme &theme)
 {
@@ -26,6 +47,30 @@ void addMissingImages(Theme &theme)
         theme.readImageFiles(drawings, false, *theme.metaObject());
         drawings.endGroup();
     }
+}
+
+QString withMissingImagesOnce(const QString &templates, const QString &prefix,
+                              const QVariantMap &values, QSet<QString> *told)
+{
+    const QHash<QString, QString> missing = missingFiles(values);
+    if (missing.isEmpty())
+        return templates;
+    QString result;
+    int end = 0;
+    const auto tokens = Tokens::find(templates, prefix);
+    for (const TemplateToken &token : tokens) {
+        const auto file = missing.constFind(token.key);
+        if (token.kind != Kind::ImageFile || file == missing.cend())
+            continue;
+        const bool isFirst = !told->contains(token.key);
+        told->insert(token.key);
+        // A path that looks like a token is left to who replaces these.
+        if (isFirst || file->contains(QLatin1String(".theme.")))
+            continue;
+        result += templates.mid(end, token.offset - end) + *file;
+        end = token.end();
+    }
+    return result + templates.mid(end);
 }
 
 } // namespace HV

@@ -4,6 +4,9 @@
 #ifndef HVTHEMEAPP_MISSINGIMAGES_H
 #define HVTHEMEAPP_MISSINGIMAGES_H
 
+#include <QSet>
+#include <QVariantMap>
+
 namespace HV
 {
 
@@ -16,6 +19,19 @@ class Theme;
  * Logs nothing. A key that the theme has keeps its image, an empty one too.
  */
 void addMissingImages(Theme &theme);
+
+/*!
+ * \brief Returns \a templates with the paths of images that do not exist in place of their tokens,
+ *        but for the first of each.
+ *
+ * Replacing tokens logs a missing image at each, and many rules show the same one.
+ *
+ * \param values  as Theme::values() gives them.
+ * \param told    the keys that have a token already, here or in an earlier text; those of this text
+ *                are added.
+ */
+QString withMissingImagesOnce(const QString &templates, const QString &prefix,
+                              const QVariantMap &values, QSet<QString> *told);
 
 } // namespace HV
 

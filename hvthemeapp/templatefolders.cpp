@@ -4,9 +4,11 @@
 #include "templatefolders.h"
 
 #include "applicationtheme.h"
+#include "missingimages.h"
 #include "quotedurls.h"
 #include "themefolder.h"
 
+#include <hvtheme/theme.h>
 #include <hvtheme/theming.h>
 
 #include <QDir>
@@ -135,11 +137,17 @@ QString TemplateFolders::problem() const
 
 QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
 {
-    // A template may end in an open comment or without a line's end.
-    QString sheet =
-        findStyleSheet(theme, builtInFiles(keepsFonts), builtInPrefix()) + QLatin1Char('\n');
+    QSet<QString> told;
+    const auto sheetOf = [&](const auto &source, const QString &prefix) -> QString {
+        QString text;
+        readStyleSheet(source, text);
+        text = withMissingImagesOnce(text, prefix, theme->values(), &told);
+        replaceStyleSheet(theme, prefix, text);
+        return text + QLatin1Char('\n'); // which a template may lack
+    };
+    QString sheet = sheetOf(builtInFiles(keepsFonts), builtInPrefix());
     for (const Folder &folder : m_folders)
-        sheet += findStyleSheet(theme, folder.path, folder.prefix) + QLatin1Char('\n');
+        sheet += sheetOf(folder.path, folder.prefix);
     return withQuotedUrls(sheet, theme);
 }
 

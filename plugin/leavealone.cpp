@@ -15,14 +15,9 @@ namespace
 // Programs with looks of their own to choose from, which reach into every corner of them, and the
 // parts of a desktop that have its look.
 const char *const builtIn[] = {
-    "krita",
-    "obs",
-    "plasmashell",
-    "qt5ct",
-    "qt6ct",
-    "qtcreator",
-    "systemsettings",
-    "systemsettings5",
+    "keepassxc",        "krita",          "obs",
+    "plasmashell",      "qt5ct",          "qt6ct",
+    "qtcreator",        "systemsettings", "systemsettings5",
     "telegram-desktop",
 };
 

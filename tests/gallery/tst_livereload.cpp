@@ -258,8 +258,8 @@ void tst_LiveReload::imageGoneAndBack()
 {
     open(QStringLiteral("image-buttons"));
     const QString path = m_files->imagePath(QStringLiteral("close"));
-    for (int i = 0; i < 3; ++i) // once for each rule that names it
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("\"close\".* is not exist!"));
+    // Once, however many rules name it.
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("\"close\".* is not exist!"));
     QSignalSpy reloaded(m_window.get(), &GalleryWindow::reloaded);
     QVERIFY(QFile::remove(path));
     QVERIFY(reloaded.wait());

@@ -96,6 +96,7 @@ private Q_SLOTS:
     void damagedTheme();
     void badImages_data();
     void badImages();
+    void missingImage();
     void damagedTemplates_data();
     void damagedTemplates();
     void missingFolders();
@@ -233,6 +234,29 @@ void tst_BadLooks::badImages()
     QVERIFY(!m_theme->setName("night"));
     compareProblem(*m_theme,
                    "The theme \"night\" cannot be read: " + fault + "; choose one of: night", ".");
+}
+
+// However many rules show it.
+void tst_BadLooks::missingImage()
+{
+    TemporaryFolder folder;
+    folder.write("default.theme", sample("default"));
+    folder.write("night.theme",
+                 QByteArray(sample("dark")) + "\n[ImageFiles]\ndown=nowhere/down.png\n");
+    folder.write("templates/own.qss",
+                 "QPushButton {image: url(own.theme.image.down);}\n"
+                 "QToolButton {image: url(own.theme.image.down);}\n");
+    const QString path =
+        QDir::cleanPath(QCoreApplication::applicationDirPath() + "/nowhere/down.png");
+    QVERIFY(m_theme->addTemplates(folder.filePath("templates"), "own"));
+    QVERIFY(m_theme->setFolder(folder.path()));
+    QVERIFY(m_theme->setName("night"));
+    const Messages messages = m_log.take();
+    QCOMPARE(messages.size(), 1);
+    QCOMPARE(messages.first().text, "\"down\" \t \"" + path + "\"  is not exist!");
+    // The path stands wherever it would without.
+    QVERIFY(qApp->styleSheet().count("url(" + path + ")") > 5);
+    QVERIFY(!qApp->styleSheet().contains("theme.image"));
 }
 
 void tst_BadLooks::damagedTemplates_data()
