@@ -3,6 +3,7 @@
 #include "appliedtheme.h"
 
 #include <analysis/rules/rules.h>
+#include <analysis/theme/storedvalues.h>
 #include <analysis/themeproject.h>
 #include <format/themepath.h>
 #include <hvtheme/inifile.h>
@@ -38,23 +39,6 @@ bool isReadableFile(const QString &path)
 {
     const QFileInfo info(path);
     return info.isFile() && info.isReadable();
-}
-
-Problem checkThemesFolder(const ThemeSource &source)
-{
-    if (!QFileInfo(source.themesFolder).isDir()) {
-        qCritical("The themes folder \"%ls\" does not exist. Name one that does with --themes.",
-                  qUtf16Printable(source.themesFolder));
-        return Problem::ThemesFolder;
-    }
-    const QString file = themeFilePath(source.themesFolder, defaultThemeName());
-    if (!isReadableFile(file)) {
-        qCritical("\"%ls\" is missing or cannot be read. Every themes folder needs it: put what "
-                  "all themes share there, or name another folder with --themes.",
-                  qUtf16Printable(file));
-        return Problem::ThemesFolder;
-    }
-    return Problem::None;
 }
 
 Problem checkThemeName(const ThemeSource &source)
@@ -202,6 +186,23 @@ QByteArray textWithImagesFrom(const QString &applicationFolder, const QString &t
 
 } // namespace
 
+Problem checkThemesFolder(const ThemeSource &source)
+{
+    if (!QFileInfo(source.themesFolder).isDir()) {
+        qCritical("The themes folder \"%ls\" does not exist. Name one that does with --themes.",
+                  qUtf16Printable(source.themesFolder));
+        return Problem::ThemesFolder;
+    }
+    const QString file = themeFilePath(source.themesFolder, defaultThemeName());
+    if (!isReadableFile(file)) {
+        qCritical("\"%ls\" is missing or cannot be read. Every themes folder needs it: put what "
+                  "all themes share there, or name another folder with --themes.",
+                  qUtf16Printable(file));
+        return Problem::ThemesFolder;
+    }
+    return Problem::None;
+}
+
 QStringList themeNames(const QString &folder)
 {
     QStringList names = listThemes(folder).names;
@@ -314,6 +315,18 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     // All else has been looked at before, so it is a template, or a theme beyond what themes may be.
     return m_look.problem().contains(QLatin1String("templates folder")) ? Problem::Templates
                                                                         : Problem::ThemeName;
+}
+
+QVector<QPair<QString, QColor>> AppliedTheme::palette() const
+{
+    QVector<QPair<QString, QColor>> entries;
+    if (!m_project)
+        return entries;
+    const auto values = storedValues(m_project->theme(m_name),
+                                     m_project->options().applicationFolder, Kind::Palette);
+    for (const StoredValue &value : values)
+        entries.append({value.key(), value.value.value<QColor>()});
+    return entries;
 }
 
 QString AppliedTheme::placesFor(const QString &message) const

@@ -5,8 +5,11 @@
 
 #include <hvthemeapp/applicationtheme.h>
 
+#include <QColor>
 #include <QHash>
+#include <QPair>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -38,6 +41,9 @@ struct ThemeSource {
 /*! \brief Returns the themes of \a folder that can be shown by themselves, sorted; may be empty. */
 QStringList themeNames(const QString &folder);
 
+/*! \brief Tells, with one critical message, if the themes folder of \a source cannot be one. */
+Problem checkThemesFolder(const ThemeSource &source);
+
 /*!
  * \brief The look that the program has now, and what is wrong with one that it should have.
  *
@@ -65,6 +71,12 @@ public:
 
     /*! \brief Returns the theme of the last good load(); never null, empty before there was one. */
     HV::Theme *theme() const { return m_look.theme(); }
+
+    /*! \brief Returns the files of the last load() that could be read, good or not; may be null. */
+    const ThemeProject *project() const { return m_project.get(); }
+
+    /*! \brief Returns the palette of that project's theme, in its order. */
+    QVector<QPair<QString, QColor>> palette() const;
 
     /*! \brief Returns the files \a source was last read from, the images included. */
     QStringList files() const { return m_files; }

@@ -3,6 +3,7 @@
 #include "colorspage.h"
 
 #include "copylabel.h"
+#include "shownpart.h"
 
 #include <colormath/contrast.h>
 #include <hvtheme/workabletheming.h>
@@ -14,6 +15,8 @@
 #include <QRegularExpression>
 #include <QVBoxLayout>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace Gallery
 {
@@ -72,6 +75,14 @@ QLabel *createCaption(const QString &objectName, const QString &text, const QStr
     return caption;
 }
 
+// Both parts of an entry tell of its key.
+void setKey(QWidget *entry, const QString &key)
+{
+    const auto captions = entry->findChildren<CopyLabel *>();
+    for (CopyLabel *caption : captions)
+        caption->setProperty(keyProperty, key);
+}
+
 QWidget *createPaletteEntry(const QString &key, const QColor &color)
 {
     auto *entry = new QWidget;
@@ -82,6 +93,7 @@ QWidget *createPaletteEntry(const QString &key, const QColor &color)
     layout->addWidget(new Swatch(color, {80, 36}));
     layout->addWidget(createCaption(QStringLiteral("caption"), key, key));
     layout->addWidget(createCaption(QStringLiteral("stateCaption"), value, value));
+    setKey(entry, key);
     return entry;
 }
 
@@ -128,6 +140,7 @@ QWidget *createColorEntry(const QString &key, const QColor &color, const QString
                                     value + QLatin1String("  ") + contrast, value),
                       1, 1);
     layout->setColumnStretch(1, 1);
+    setKey(entry, key);
     return entry;
 }
 
@@ -141,6 +154,27 @@ QString contrastText(const QString &key, const QColor &color, const QVariantMap 
         ? ColorMath::contrastRatio(named("DefaultForegroundColor"), ColorMath::over(color, surface))
         : ColorMath::contrastRatio(color, surface);
     return ColorMath::contrastText(ratio);
+}
+
+// What the library's own palette does not have.
+QLayout *createOwnPalette(const PaletteEntries &entries)
+{
+    constexpr int columns = 10;
+    auto *grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(14);
+    for (int i = 0; i < entries.size(); ++i)
+        grid->addWidget(createPaletteEntry(entries.at(i).first, entries.at(i).second), i / columns,
+                        i % columns, Qt::AlignLeft);
+    grid->setColumnStretch(columns, 1);
+    return grid;
+}
+
+bool isOfLibrary(const QPair<QString, QColor> &entry)
+{
+    return QMetaEnum::fromType<HV::WorkableTheme::Palette>().keyToValue(
+               entry.first.toLatin1().constData())
+        >= 0;
 }
 
 QLayout *createColors(const QVariantMap &values)
@@ -163,7 +197,7 @@ QLayout *createColors(const QVariantMap &values)
 
 } // namespace
 
-QWidget *createColorsPage(HV::Theme &theme)
+QWidget *createColorsPage(HV::Theme &theme, PaletteEntries palette)
 {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
@@ -177,6 +211,12 @@ QWidget *createColorsPage(HV::Theme &theme)
     layout->addWidget(createHeading(QStringLiteral("Palette")));
     layout->addLayout(createPalette(theme));
     layout->addSpacing(12);
+    palette.erase(std::remove_if(palette.begin(), palette.end(), isOfLibrary), palette.end());
+    if (!palette.isEmpty()) {
+        layout->addWidget(createHeading(QStringLiteral("The theme's own palette")));
+        layout->addLayout(createOwnPalette(palette));
+        layout->addSpacing(12);
+    }
     layout->addWidget(createHeading(QStringLiteral("Colour keys")));
     layout->addWidget(new QLabel(QStringLiteral(
         "Contrast of a background: DefaultForegroundColor on it. Of any other colour: it on "

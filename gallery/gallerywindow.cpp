@@ -2,24 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
 
+#include "findingspane.h"
 #include "makerpage.h"
+#include "navigation.h"
 #include "pages.h"
+#include "shownpart.h"
 #include "visioneffect.h"
+#include "windowparts.h"
+#include "zoomarea.h"
 
+#include <analysis/rules/rules.h>
+#include <analysis/themeproject.h>
+#include <format/themepath.h>
+
+#include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QListView>
-#include <QListWidget>
+#include <QMenuBar>
 #include <QRegularExpression>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QStyledItemDelegate>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <QVariant>
 
@@ -29,138 +34,148 @@ namespace Gallery
 namespace
 {
 
-QListWidget *createPageList(const Options &options)
-{
-    auto *list = new QListWidget;
-    list->setObjectName(QStringLiteral("pages"));
-    list->setProperty("style", QStringLiteral("simpleList"));
-    QVector<Page> entries = pages();
-    if (!options.formFile.isEmpty())
-        entries.append({QString::fromLatin1(formPageName), QFileInfo(options.formFile).fileName()});
-    for (const Page &page : qAsConst(entries)) {
-        auto *item = new QListWidgetItem(page.title, list);
-        item->setData(Qt::UserRole, page.name);
-        if (page.name == options.pages.value(0))
-            list->setCurrentItem(item);
-    }
-    if (list->currentRow() < 0)
-        list->setCurrentRow(options.formFile.isEmpty() ? 0 : list->count() - 1);
-    list->setFixedWidth(200);
-    return list;
-}
+constexpr int checkDelayMs = 100; // first the user sees the new look
 
-QComboBox *createEyes(ColorMath::Vision vision)
+QString titleOf(const QString &title, int count)
 {
-    auto *eyes = new QComboBox;
-    eyes->setObjectName(QStringLiteral("eyes"));
-    eyes->setAccessibleName(QStringLiteral("Eyes"));
-    eyes->setToolTip(QStringLiteral("Whose eyes to see the window with"));
-    eyes->addItem(QStringLiteral("Normal"));
-    eyes->addItem(QStringLiteral("Protan: no red cones"));
-    eyes->addItem(QStringLiteral("Deutan: no green cones"));
-    eyes->addItem(QStringLiteral("Tritan: no blue cones"));
-    eyes->setCurrentIndex(int(vision));
-    eyes->setItemDelegate(new QStyledItemDelegate(eyes)); // or no row would look selected
-    return eyes;
-}
-
-QWidget *createHeader(QComboBox *themes, QComboBox *eyes)
-{
-    auto *header = new QWidget;
-    header->setProperty("style", QStringLiteral("toolWidget"));
-    auto *layout = new QHBoxLayout(header);
-    layout->setContentsMargins(12, 8, 12, 8);
-    layout->addWidget(new QLabel(QStringLiteral("Theme")));
-    layout->addWidget(themes);
-    layout->addSpacing(12);
-    layout->addWidget(new QLabel(QStringLiteral("Eyes")));
-    layout->addWidget(eyes);
-    layout->addStretch();
-    layout->addWidget(new QLabel(QStringLiteral("Click a selector to copy it.")));
-    return header;
-}
-
-QWidget *createMessagePane(MessageList *log)
-{
-    auto *messages = new QListView;
-    messages->setObjectName(QStringLiteral("messages"));
-    messages->setModel(log);
-    messages->setWordWrap(true);
-    messages->setSelectionMode(QAbstractItemView::NoSelection);
-    auto *title = new QLabel(QStringLiteral("Messages since the last reload"));
-    title->setProperty("fontSize", QStringLiteral("S"));
-    title->setProperty("style", QStringLiteral("grayHint"));
-    title->setContentsMargins(10, 6, 10, 2);
-    auto *pane = new QWidget;
-    pane->setProperty("style", QStringLiteral("BG1"));
-    auto *layout = new QVBoxLayout(pane);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(title);
-    layout->addWidget(messages);
-    return pane;
+    return count == 0 ? title : QStringLiteral("%1 (%2)").arg(title).arg(count);
 }
 
 } // namespace
 
-GalleryWindow::GalleryWindow(const Options &options)
-    : m_source(options.source)
+GalleryWindow::GalleryWindow(const Options &options, QSettings *memory)
+    : m_memory(memory)
+    , m_source(options.source)
     , m_formFile(options.formFile)
-    , m_themes(new QComboBox)
+    , m_themes(createThemeChooser())
     , m_eyes(createEyes(options.vision))
-    , m_pages(createPageList(options))
-    , m_area(new QScrollArea)
+    , m_zooms(createZooms())
+    , m_area(new ZoomArea)
+    , m_panes(new QTabWidget)
+    , m_findings(new FindingsPane)
 {
     if (m_source.themeName.isEmpty())
         m_source.themeName = themeNames(m_source.themesFolder).value(0);
     m_log.setPlaceFinder([this](const QString &text) { return m_applied.placesFor(text); });
+    m_checkTimer.setSingleShot(true);
+    m_checkTimer.setInterval(checkDelayMs);
+    m_navigation = new Navigation(
+        listedPages(), [this](const QString &text) { return index().search(text, listedPages()); });
+    const QString first =
+        options.formFile.isEmpty() ? QString() : QString::fromLatin1(formPageName);
+    m_navigation->setPage(options.pages.value(0, first));
     buildParts();
-    connect(m_themes, &QComboBox::textActivated, this, &GalleryWindow::chooseTheme);
-    connect(&m_workshop, &ThemeWorkshop::made, this, &GalleryWindow::showMade);
-    connect(m_eyes, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            [this](int index) { seeWith(ColorMath::Vision(index)); });
+    buildMenus();
+    connectParts();
     seeWith(options.vision);
-    connect(m_pages, &QListWidget::currentRowChanged, this, &GalleryWindow::showPage);
-    connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
+    m_area->setZoom(m_memory.zoom());
+    m_memory.keepForm(m_formFile);
     reload();
+    showPane(options.pane.value_or(Pane::Inspector));
+    if (!m_memory.geometry().isEmpty())
+        restoreGeometry(m_memory.geometry());
+    if (!m_memory.panes().isEmpty())
+        m_splitter->restoreState(m_memory.panes());
+}
+
+// Its look is not to be looked at when the pages are gone.
+GalleryWindow::~GalleryWindow()
+{
+    delete m_inspector;
 }
 
 void GalleryWindow::buildParts()
 {
     setWindowTitle(QStringLiteral("Theme gallery"));
-    m_themes->setObjectName(QStringLiteral("themes"));
-    m_themes->setMinimumWidth(140);
-    m_themes->setItemDelegate(new QStyledItemDelegate(m_themes)); // or no row would look selected
-    m_area->setObjectName(QStringLiteral("page"));
-    m_area->setWidgetResizable(true);
-
+    buildPanes();
     auto *pagesAndPage = new QWidget;
     auto *row = new QHBoxLayout(pagesAndPage);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    row->addWidget(m_pages);
+    row->addWidget(m_navigation);
     row->addWidget(m_area, 1);
 
-    auto *splitter = new QSplitter(Qt::Vertical);
-    splitter->addWidget(pagesAndPage);
-    splitter->addWidget(createMessagePane(&m_log));
-    splitter->setStretchFactor(0, 1);
-    splitter->setSizes({700, 100});
+    m_splitter = new QSplitter(Qt::Vertical);
+    m_splitter->addWidget(pagesAndPage);
+    m_splitter->addWidget(m_panes);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setSizes({470, 370});
 
     auto *central = new QWidget;
     auto *column = new QVBoxLayout(central);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(createHeader(m_themes, m_eyes));
-    column->addWidget(splitter, 1);
+    column->addWidget(createHeader(m_themes, m_eyes, m_zooms));
+    column->addWidget(m_splitter, 1);
     setCentralWidget(central);
     statusBar()->setSizeGripEnabled(false);
     resize(1420, 920);
 }
 
+// In the order of Pane.
+void GalleryWindow::buildPanes()
+{
+    m_panes->setObjectName(QStringLiteral("panes"));
+    m_panes->setDocumentMode(true);
+    auto *host = new QWidget;
+    (new QVBoxLayout(host))->setContentsMargins(0, 0, 0, 0);
+    m_panes->addTab(host, QStringLiteral("Inspector"));
+    m_panes->addTab(m_findings, QStringLiteral("Findings"));
+    m_panes->addTab(createMessagePane(&m_log), QStringLiteral("Messages"));
+    m_panes->tabBar()->setAccessibleName(QStringLiteral("Panes"));
+}
+
+void GalleryWindow::connectParts()
+{
+    connect(m_themes, &QComboBox::textActivated, this, &GalleryWindow::chooseTheme);
+    connect(&m_workshop, &ThemeWorkshop::made, this, &GalleryWindow::showMade);
+    connect(m_eyes, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [this](int index) { seeWith(ColorMath::Vision(index)); });
+    connect(m_zooms, qOverload<int>(&QComboBox::activated), this,
+            [this] { m_area->setZoom(m_zooms->currentData().toInt()); });
+    const auto showZoom = [this](int percent) {
+        m_zooms->setCurrentIndex(m_zooms->findData(percent));
+    };
+    connect(m_area, &ZoomArea::zoomChanged, this, showZoom);
+    connect(m_area, &ZoomArea::zoomChanged, this, [this] {
+        m_marker.clear();
+        refreshInspector(); // the page stands in another window now
+    });
+    showZoom(m_area->zoom());
+    connect(m_area, &ZoomArea::clicked, this, [this](QWidget *at) {
+        m_marker.clear();
+        if (pane() == Pane::Inspector)
+            inspect(at);
+    });
+    connect(m_area, &ZoomArea::picked, this, [this](QWidget *at) {
+        showPane(Pane::Inspector);
+        inspect(at);
+    });
+    connect(m_area, &ZoomArea::menuWanted, this, &GalleryWindow::openPageMenu);
+    connect(m_navigation, &Navigation::pageChanged, this, &GalleryWindow::showPage);
+    connect(m_navigation, &Navigation::led, this, &GalleryWindow::lead);
+    connect(m_navigation, &Navigation::closed, this, [this] {
+        (m_led ? m_led.data() : m_area->currentWidget())->setFocus(Qt::OtherFocusReason);
+    });
+    connect(m_findings, &FindingsPane::led, this, &GalleryWindow::leadToFinding);
+    connect(m_panes, &QTabWidget::currentChanged, this, [this] { showPane(pane()); });
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&m_log, change, this, &GalleryWindow::titlePanes);
+    connect(&m_log, &QAbstractItemModel::modelReset, this, &GalleryWindow::titlePanes);
+    connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
+    connect(&m_checkTimer, &QTimer::timeout, this, &GalleryWindow::check);
+}
+
+void GalleryWindow::closeEvent(QCloseEvent *event)
+{
+    m_memory.keepWindow(saveGeometry(), m_splitter->saveState(), m_area->zoom());
+    QMainWindow::closeEvent(event);
+}
+
 void GalleryWindow::seeWith(ColorMath::Vision vision)
 {
-    for (QWidget *part : {centralWidget(), static_cast<QWidget *>(statusBar())})
+    for (QWidget *part :
+         {static_cast<QWidget *>(menuBar()), centralWidget(), static_cast<QWidget *>(statusBar())})
         VisionEffect::apply(vision, part);
 }
 
@@ -169,14 +184,28 @@ Problem GalleryWindow::reload()
     QElapsedTimer timer;
     timer.start();
     m_log.clear();
-    const int scrolled = m_area->verticalScrollBar()->value();
+    const QPoint scrolled = m_area->scrolled();
     const Problem problem = m_applied.load(m_source);
+    m_problem = problem;
+    m_isIndexed = false;
     listThemes();
-    if (page() == nullptr || showsForm() || showsThemeValues(pageName()))
+    if (page() == nullptr || showsForm() || showsThemeValues(m_navigation->page()))
         showPage();
     else
         settlePage(page());
-    m_area->verticalScrollBar()->setValue(scrolled);
+    m_area->settle();
+    m_area->scrollTo(scrolled);
+    watch();
+    tell(problem, timer.elapsed());
+    if (problem == Problem::None && !showsMade())
+        m_memory.keepSource(m_source);
+    m_checkTimer.start();
+    Q_EMIT reloaded();
+    return problem;
+}
+
+void GalleryWindow::watch()
+{
     QStringList files = m_applied.files();
     if (showsMade()) // nobody but the workshop writes those, and it tells
         files = files.filter(QRegularExpression(
@@ -186,12 +215,45 @@ Problem GalleryWindow::reload()
     m_watcher.setPaths(files,
                        m_source.templateFolders
                            + (showsMade() ? QStringList() : QStringList{m_source.themesFolder}));
+}
+
+void GalleryWindow::tell(Problem problem, qint64 elapsedMs)
+{
     statusBar()->showMessage(
-        problem == Problem::None   ? QStringLiteral("Restyled in %1 ms").arg(timer.elapsed())
+        problem == Problem::None   ? QStringLiteral("Restyled in %1 ms").arg(elapsedMs)
             : m_applied.isLoaded() ? QStringLiteral("This is the last good theme; see the messages")
                                    : QStringLiteral("No theme could be loaded; see the messages"));
-    Q_EMIT reloaded();
-    return problem;
+    if (problem != Problem::None)
+        showPane(Pane::Messages);
+}
+
+Problem GalleryWindow::openFolder(const QString &folder)
+{
+    ThemeSource source = m_source;
+    source.themesFolder = folder;
+    source.themeName = themeNames(folder).value(0);
+    const Problem problem = checkThemesFolder(source);
+    if (problem != Problem::None) {
+        statusBar()->showMessage(QStringLiteral("That folder cannot be shown; see the messages"));
+        showPane(Pane::Messages);
+        return problem;
+    }
+    if (QFileInfo(folder) != QFileInfo(m_source.themesFolder))
+        source.applicationFolder.clear(); // it was that of the themes before
+    m_source = source;
+    return reload();
+}
+
+void GalleryWindow::openForm(const QString &file)
+{
+    m_formFile = file;
+    m_memory.keepForm(file);
+    m_navigation->setPages(listedPages());
+    if (showsForm())
+        showPage();
+    else
+        m_navigation->setPage(QString::fromLatin1(formPageName));
+    watch();
 }
 
 void GalleryWindow::chooseTheme(const QString &name)
@@ -234,9 +296,19 @@ void GalleryWindow::listThemes()
     m_themes->setCurrentText(m_source.themeName);
 }
 
+QVector<Page> GalleryWindow::listedPages() const
+{
+    QVector<Page> all = pages();
+    if (!m_formFile.isEmpty())
+        all.append({QString::fromLatin1(formPageName), QFileInfo(m_formFile).fileName()});
+    return all;
+}
+
 void GalleryWindow::showPage()
 {
-    if (pageName() == QLatin1String(makerPageName)) {
+    const QString name = m_navigation->page();
+    m_memory.keepPage(name);
+    if (name == QLatin1String(makerPageName)) {
         if (!showsMade())
             m_workshop.beginWith(lookOf(*m_applied.theme()));
         MakerPage *made = createMakerPage(&m_workshop);
@@ -244,32 +316,141 @@ void GalleryWindow::showPage()
         setPage(made);
         return;
     }
-    QWidget *page =
-        showsForm() ? createFormPage(m_formFile) : createPage(pageName(), *m_applied.theme());
+    QWidget *page = showsForm() ? createFormPage(m_formFile)
+                                : createPage(name, *m_applied.theme(), m_applied.palette());
     if (page != nullptr)
         setPage(page);
 }
 
 void GalleryWindow::setPage(QWidget *page)
 {
-    delete m_area->takeWidget();
-    if (page != nullptr)
-        m_area->setWidget(page);
+    m_marker.clear();
+    m_area->setPage(page, showsForm() ? ZoomArea::Fit::OwnSize : ZoomArea::Fit::Fill);
+    refreshInspector();
+}
+
+void GalleryWindow::refreshInspector()
+{
+    if (m_inspector && pane() == Pane::Inspector)
+        QTimer::singleShot(0, m_inspector, &InspectorPane::refresh);
 }
 
 QWidget *GalleryWindow::page() const
 {
-    return m_area->widget();
-}
-
-QString GalleryWindow::pageName() const
-{
-    return m_pages->currentItem()->data(Qt::UserRole).toString();
+    return m_area->page();
 }
 
 bool GalleryWindow::showsForm() const
 {
-    return pageName() == QLatin1String(formPageName);
+    return m_navigation->page() == QLatin1String(formPageName);
+}
+
+Pane GalleryWindow::pane() const
+{
+    return Pane(m_panes->currentIndex());
+}
+
+void GalleryWindow::showPane(Pane pane)
+{
+    m_marker.clear();
+    m_panes->setCurrentIndex(int(pane));
+    m_memory.keepPane(pane);
+    if (pane != Pane::Inspector || m_inspector)
+        return;
+    m_inspector = new InspectorPane(m_panes->widget(int(pane)));
+    m_panes->widget(int(pane))->layout()->addWidget(m_inspector);
+    m_inspector->setFinder([this](const QPoint &place) {
+        QWidget *widget = m_area->widgetAt(place);
+        return widget == nullptr ? Picker::Seen()
+                                 : Picker::Seen{widget, m_area->mapFromScreen(widget, place)};
+    });
+    connect(m_inspector, &InspectorPane::picked, this, [this] { showPane(Pane::Inspector); });
+}
+
+void GalleryWindow::leadToFirstFinding()
+{
+    m_findings->chooseFirst();
+    if (const Finding *first = m_findings->list().findingAt(m_findings->list().index(0, 0)))
+        leadToFinding(*first);
+}
+
+void GalleryWindow::titlePanes()
+{
+    m_panes->setTabText(int(Pane::Findings),
+                        titleOf(QStringLiteral("Findings"), m_findings->list().weightyCount()));
+    m_panes->setTabText(int(Pane::Messages), titleOf(QStringLiteral("Messages"), m_log.rowCount()));
+}
+
+void GalleryWindow::inspect(QWidget *widget)
+{
+    if (!m_inspector)
+        return;
+    QWidget *specimen = specimenOf(widget);
+    if (specimen == nullptr) {
+        m_inspector->pick(widget);
+        return;
+    }
+    const ShownPart shown = partShownBy(specimen);
+    m_inspector->pick(shown.widget, shown.part);
+}
+
+void GalleryWindow::lead(const Target &target)
+{
+    if (!target.isValid())
+        return;
+    m_navigation->setPage(target.page);
+    m_marker.clear();
+    m_led = target.selector.isEmpty() ? findKey(page(), target.key)
+                                      : findSpecimen(page(), target.selector);
+    if (!m_led)
+        return;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // of a page that is new
+    m_area->reveal(m_led);
+    if (pane() == Pane::Inspector && !target.selector.isEmpty())
+        inspect(m_led);
+    else
+        m_marker.add(m_led);
+}
+
+// As the command does it: all themes of the folder, with the templates that are not the gallery's own.
+void GalleryWindow::check()
+{
+    ThemeProjectOptions options;
+    options.folder = m_source.themesFolder;
+    options.templates += m_source.templateFolders;
+    options.applicationFolder = m_source.applicationFolder.isEmpty()
+        ? QCoreApplication::applicationDirPath()
+        : m_source.applicationFolder;
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    m_findings->setFindings(project ? runLintRules(*project)
+                                    : QVector<Finding>{{{}, Severity::Error, error, {}}});
+    titlePanes();
+    Q_EMIT checked();
+}
+
+void GalleryWindow::leadToFinding(const Finding &finding)
+{
+    const QStringList names = themeNames(m_source.themesFolder);
+    for (const QString &name : names) {
+        const QString file = themeFilePath(m_source.themesFolder, name);
+        if (QFileInfo(file) == QFileInfo(finding.place.file) && name != m_source.themeName)
+            chooseTheme(name);
+    }
+    const Target target = index().targetOfPlace(finding.place);
+    lead(target);
+    copyText(this, finding.place.text());
+    if (!target.isValid())
+        statusBar()->showMessage(QStringLiteral("No specimen shows this. Copied: ")
+                                 + finding.place.text());
+}
+
+const SpecimenIndex &GalleryWindow::index()
+{
+    if (!m_isIndexed)
+        m_index = SpecimenIndex(m_applied.project());
+    m_isIndexed = true;
+    return m_index;
 }
 
 } // namespace Gallery

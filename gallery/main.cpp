@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 #include "gallerywindow.h"
+#include "memory.h"
 #include "options.h"
 #include "screenshots.h"
 
@@ -8,6 +9,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStyleFactory>
 
 #include <cstdio>
@@ -55,8 +57,10 @@ void prepareEnvironment(const Gallery::Options &options)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
 }
 
-int run(const Gallery::Options &options, bool displayed)
+int run(Gallery::Options options, const QString &defaultFolder, bool displayed)
 {
+    if (options.source.themesFolder.isEmpty() && !options.screenshotFolder.isEmpty())
+        options.source.themesFolder = defaultFolder;
     if (!options.screenshotFolder.isEmpty())
         return static_cast<int>(Gallery::takeScreenshots(options));
     if (!displayed) {
@@ -65,7 +69,12 @@ int run(const Gallery::Options &options, bool displayed)
                              "files instead: --screenshot DIR\n"));
         return usageError;
     }
-    Gallery::GalleryWindow window(options);
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("hvtheme"),
+                       QStringLiteral("hvtheme-gallery"));
+    Gallery::Memory(&settings).complete(&options);
+    if (options.source.themesFolder.isEmpty())
+        options.source.themesFolder = defaultFolder;
+    Gallery::GalleryWindow window(options, &settings);
     window.show();
     return QApplication::exec();
 }
@@ -88,7 +97,7 @@ int main(int argc, char **argv)
     const QString themes =
         QFileInfo(QApplication::applicationDirPath() + QStringLiteral("/../share/hvtheme/themes"))
             .absoluteFilePath();
-    const Gallery::Options options = Gallery::readOptions(QApplication::arguments(), themes);
+    const Gallery::Options options = Gallery::readOptions(QApplication::arguments(), {});
     if (!options.error.isEmpty()) {
         print(stderr, QStringLiteral("hvtheme-gallery: %1 See --help.\n").arg(options.error));
         return usageError;
@@ -102,5 +111,5 @@ int main(int argc, char **argv)
         std::perror("hvtheme-gallery: standard output");
         return usageError;
     }
-    return run(options, displayed);
+    return run(options, themes, displayed);
 }

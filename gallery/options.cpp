@@ -20,6 +20,28 @@ QStringList pageNames(const Options &options)
     return names;
 }
 
+QString paneName(Pane pane)
+{
+    switch (pane) {
+    case Pane::Inspector:
+        return QStringLiteral("inspector");
+    case Pane::Findings:
+        return QStringLiteral("findings");
+    case Pane::Messages:
+        break;
+    }
+    return QStringLiteral("messages");
+}
+
+std::optional<Pane> paneCalled(const QString &name)
+{
+    for (const Pane pane : {Pane::Inspector, Pane::Findings, Pane::Messages}) {
+        if (paneName(pane) == name)
+            return pane;
+    }
+    return std::nullopt;
+}
+
 namespace
 {
 
@@ -61,6 +83,11 @@ void describe(QCommandLineParser &parser)
          "See with other eyes: protan, deutan or tritan (normal). The screenshots are named "
          "PAGE-THEME-VISION.png.",
          "NAME", "normal"},
+        {"pane",
+         "Pane to open: inspector, findings or messages. The screenshots show the whole window "
+         "with "
+         "it and are named PAGE-THEME-PANE.png.",
+         "NAME"},
         {"join", "Also write each page with its themes side by side, PAGE-THEME-THEME.png."},
     });
 }
@@ -84,6 +111,9 @@ QString errorIn(const Options &options, const QCommandLineParser &parser)
         return QStringLiteral(
                    "No vision named \"%1\". Choose one of: normal, protan, deutan, tritan.")
             .arg(vision);
+    if (parser.isSet(QStringLiteral("pane")) && !options.pane)
+        return QStringLiteral("No pane named \"%1\". Choose one of: inspector, findings, messages.")
+            .arg(parser.value(QStringLiteral("pane")));
     const QStringList known = pageNames(options);
     for (const QString &page : options.pages) {
         if (!known.contains(page))
@@ -129,6 +159,7 @@ Options readOptions(const QStringList &arguments, const QString &defaultThemesFo
     options.scale = parser.value(QStringLiteral("scale")).toInt();
     options.vision = ColorMath::visionCalled(parser.value(QStringLiteral("vision")))
                          .value_or(ColorMath::Vision::Normal);
+    options.pane = paneCalled(parser.value(QStringLiteral("pane")));
     options.join = parser.isSet(QStringLiteral("join"));
     options.error = parser.positionalArguments().isEmpty()
         ? errorIn(options, parser)

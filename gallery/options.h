@@ -9,8 +9,23 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace Gallery
 {
+
+/*! \brief What stands below the pages. */
+enum class Pane {
+    Inspector,
+    Findings,
+    Messages,
+};
+
+/*! \brief Returns "inspector", "findings" or "messages". */
+QString paneName(Pane pane);
+
+/*! \brief Returns the pane called \a name, or nothing. */
+std::optional<Pane> paneCalled(const QString &name);
 
 /*! \brief What the command line asks for. */
 struct Options {
@@ -21,6 +36,7 @@ struct Options {
     QStringList themes; //!< empty: all of the folder
     int scale = 1;
     ColorMath::Vision vision = ColorMath::Vision::Normal; //!< whose eyes to see with
+    std::optional<Pane> pane; //!< to open; of the screenshots: the whole window with it
     bool join = false; //!< the themes of a page side by side in one more picture
     bool help = false;
     bool version = false;

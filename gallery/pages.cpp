@@ -3,7 +3,6 @@
 #include "pages.h"
 
 #include "applicationpage.h"
-#include "colorspage.h"
 #include "makerpage.h"
 #include "plainpage.h"
 #include "specimenpage.h"
@@ -76,7 +75,7 @@ MakerPage *createMakerPage(ThemeWorkshop *workshop)
     return page;
 }
 
-QWidget *createPage(const QString &name, HV::Theme &theme)
+QWidget *createPage(const QString &name, HV::Theme &theme, const PaletteEntries &palette)
 {
     if (name == QLatin1String(makerPageName)) {
         auto *workshop = new ThemeWorkshop;
@@ -93,7 +92,7 @@ QWidget *createPage(const QString &name, HV::Theme &theme)
     else if (name == QLatin1String("dialogs"))
         page = createDialogsPage();
     else if (name == QLatin1String("colours"))
-        page = createColorsPage(theme);
+        page = createColorsPage(theme, palette);
     else if (!specimenSections(name).isEmpty())
         page = createSpecimenPage(name);
     else
@@ -123,6 +122,12 @@ QWidget *createFormPage(const QString &path)
         return nullptr;
     }
     form->setWindowFlags(Qt::Widget);
+    form->ensurePolished();
+    const auto children = form->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        child->ensurePolished(); // only then it is known what it needs
+    const QSize own = form->testAttribute(Qt::WA_Resized) ? form->size() : form->sizeHint();
+    form->resize(own.expandedTo(form->minimumSizeHint()).expandedTo(form->minimumSize()));
     return form;
 }
 

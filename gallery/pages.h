@@ -3,6 +3,8 @@
 #ifndef GALLERY_PAGES_H
 #define GALLERY_PAGES_H
 
+#include "colorspage.h"
+
 #include <hvtheme/theme.h>
 #include <maker/pairs.h>
 
@@ -33,12 +35,12 @@ extern const char makerPageName[];
 QVector<Page> pages();
 
 /*!
- * \brief Builds the page called \a name for \a theme.
+ * \brief Builds the page called \a name for \a theme, whose palette has the entries \a palette.
  *
  * \return a widget without parent on a surface of the theme's, which the caller owns; null for an
  *         unknown name.
  */
-QWidget *createPage(const QString &name, HV::Theme &theme);
+QWidget *createPage(const QString &name, HV::Theme &theme, const PaletteEntries &palette = {});
 
 /*! \brief Builds the page where \a workshop is told what to make; the caller owns it. */
 MakerPage *createMakerPage(ThemeWorkshop *workshop);
@@ -55,8 +57,9 @@ bool showsThemeValues(const QString &name);
 /*!
  * \brief Builds the form in the file \a path with Qt's form loader.
  *
- * \return a widget without parent, which the caller owns; null, after a critical message that says
- *         what to do, when the file cannot be read or holds no form.
+ * \return a widget without parent, which the caller owns, as large as it was made in Designer unless
+ *         it needs more; null, after a critical message that says what to do, when the file cannot be
+ *         read or holds no form.
  */
 QWidget *createFormPage(const QString &path);
 

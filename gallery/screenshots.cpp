@@ -2,10 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "screenshots.h"
 
+#include "gallerywindow.h"
 #include "pages.h"
+#include "shownpart.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QImageWriter>
 #include <QPainter>
 #include <QWidget>
@@ -21,6 +25,8 @@ constexpr int gapBetweenThemes = 16;
 QString fileName(const Options &options, const QString &page, const QString &theme)
 {
     QString suffix;
+    if (options.pane)
+        suffix += QLatin1Char('-') + paneName(*options.pane);
     if (options.vision != ColorMath::Vision::Normal)
         suffix += QLatin1Char('-') + ColorMath::visionName(options.vision);
     if (options.scale > 1)
@@ -78,6 +84,32 @@ QStringList themesOf(const Options &options)
     return names.isEmpty() ? QStringList{QString()} : names; // to be told what is wrong with it
 }
 
+// What the user would do to have something to look at.
+void usePane(GalleryWindow *window, Pane pane)
+{
+    window->showPane(pane);
+    if (pane == Pane::Findings)
+        window->leadToFirstFinding();
+    if (pane != Pane::Inspector)
+        return;
+    QWidget *shown = nullptr;
+    const auto widgets = window->page()->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isSpecimen = specimenOf(widget) == widget;
+        if (shown == nullptr && (isSpecimen || qobject_cast<QAbstractButton *>(widget) != nullptr))
+            shown = widget;
+    }
+    if (shown != nullptr)
+        window->inspect(shown);
+}
+
+QImage takeWindowPicture(GalleryWindow *window)
+{
+    QCoreApplication::sendPostedEvents(); // the new page is laid out
+    QCoreApplication::processEvents();
+    return window->grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 // Takes the pages in one theme after the other: restyling is what costs.
 class Photographer
 {
@@ -90,8 +122,12 @@ public:
     Problem run()
     {
         const QStringList themes = themesOf(m_options);
-        for (const QString &theme : themes)
-            takeTheme(theme);
+        for (const QString &theme : themes) {
+            if (m_options.pane)
+                takeWindows(theme);
+            else
+                takeTheme(theme);
+        }
         if (m_options.join)
             writeJoined(themes);
         return m_problem;
@@ -114,13 +150,42 @@ private:
             return;
         for (const QString &name : pagesOf(m_options)) {
             const bool form = name == QLatin1String(formPageName);
-            const std::unique_ptr<QWidget> page(form ? createFormPage(m_options.formFile)
-                                                     : createPage(name, *m_applied.theme()));
+            const std::unique_ptr<QWidget> page(
+                form ? createFormPage(m_options.formFile)
+                     : createPage(name, *m_applied.theme(), m_applied.palette()));
             if (page == nullptr) {
                 note(Problem::Form);
                 continue;
             }
-            const QImage picture = seen(takePicture(page.get()));
+            const QImage picture = seen(takePicture(page.get(), form ? page->size() : QSize()));
+            note(writePicture(picture, fileName(m_options, name, theme)));
+            if (m_options.join)
+                m_pictures[name].append(picture);
+        }
+    }
+
+    void takeWindows(const QString &theme)
+    {
+        Options options = m_options;
+        options.source.themeName = theme;
+        options.pages = QStringList{pagesOf(m_options).constFirst()};
+        options.themes.clear();
+        const Problem problem = checkThemesFolder(options.source);
+        note(problem);
+        if (problem != Problem::None)
+            return;
+        GalleryWindow window(options);
+        window.setAttribute(Qt::WA_DontShowOnScreen);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QEventLoop loop; // the findings come last
+        QObject::connect(&window, &GalleryWindow::checked, &loop, &QEventLoop::quit);
+        loop.exec();
+        note(window.problem());
+        for (const QString &name : pagesOf(m_options)) {
+            window.lead({name, {}, {}});
+            usePane(&window, *m_options.pane);
+            const QImage picture = takeWindowPicture(&window);
             note(writePicture(picture, fileName(m_options, name, theme)));
             if (m_options.join)
                 m_pictures[name].append(picture);
@@ -151,13 +216,15 @@ private:
 
 } // namespace
 
-QImage takePicture(QWidget *page)
+QImage takePicture(QWidget *page, const QSize &size)
 {
     // Shown, but on no screen: only then are focus and layout what they are in a window.
     page->setAttribute(Qt::WA_DontShowOnScreen);
     page->setFocusPolicy(Qt::StrongFocus);
     page->ensurePolished();
-    page->resize(page->sizeHint().expandedTo(page->minimumSize())); // adjustSize() heeds the screen
+    page->resize(size.isValid() // adjustSize() heeds the screen
+                     ? size
+                     : page->sizeHint().expandedTo(page->minimumSize()));
     page->show();
     QApplication::setActiveWindow(page);
     page->setFocus();

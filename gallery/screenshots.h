@@ -12,8 +12,9 @@ class QWidget;
 namespace Gallery
 {
 
-/*! \brief Returns a picture of \a page at its preferred size, as if its window had the focus. */
-QImage takePicture(QWidget *page);
+/*! \brief Returns a picture of \a page, as if its window had the focus; at its preferred size unless
+ *         there is a \a size. */
+QImage takePicture(QWidget *page, const QSize &size = {});
 
 /*!
  * \brief Writes one PNG for each page and theme of \a options; makes the folder if need be.

@@ -3,6 +3,7 @@
 #include "specimenpage.h"
 
 #include "copylabel.h"
+#include "shownpart.h"
 #include "specimentable.h"
 #include "specimenwidget.h"
 
@@ -58,10 +59,14 @@ QLayout *createCell(const Specimen &specimen)
     auto *layout = new QVBoxLayout;
     layout->setSpacing(3);
     layout->addStretch();
-    layout->addWidget(createSpecimenWidget(specimen), 0, Qt::AlignLeft);
+    QWidget *widget = createSpecimenWidget(specimen);
+    widget->setProperty(specimenProperty, specimen.selector);
+    widget->setAccessibleName(specimen.selector);
+    layout->addWidget(widget, 0, Qt::AlignLeft);
     auto *caption =
         new CopyLabel(specimen.stateCaption(), specimen.selector, specimen.parts.propertyLines());
     caption->setObjectName(QStringLiteral("stateCaption"));
+    caption->setProperty(specimenProperty, specimen.selector);
     layout->addWidget(caption, 0, Qt::AlignLeft);
     return layout;
 }

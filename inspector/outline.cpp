@@ -26,6 +26,7 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
         setFocusPolicy(Qt::NoFocus);
+        connect(framed, &QObject::destroyed, this, &QWidget::hide);
         for (QWidget *each = framed; each && each != window; each = each->parentWidget())
             each->installEventFilter(this);
         follow();
@@ -54,9 +55,11 @@ private:
     // What scrolls in a view is seen only as far as the view goes.
     void follow()
     {
-        if (!m_framed)
-            return;
         QWidget *window = parentWidget();
+        if (!m_framed || !window->isAncestorOf(m_framed)) { // dead, or moved to another window
+            hide();
+            return;
+        }
         const QRect place(m_framed->mapTo(window, m_rect.topLeft()), m_rect.size());
         QRect seen = window->rect();
         for (const QWidget *each = m_framed->parentWidget(); each && each != window;

@@ -24,10 +24,14 @@ void Picker::setPicking(bool picking)
     Q_EMIT pickingChanged(picking);
 }
 
-QWidget *Picker::widgetAt(const QPoint &position) const
+Picker::Seen Picker::seenAt(const QPoint &position) const
 {
-    QWidget *widget = m_find ? m_find(position) : QApplication::widgetAt(position);
-    return widget && !m_isOwn(widget) ? widget : nullptr;
+    Seen seen = m_find ? m_find(position) : Seen();
+    if (!seen.widget) {
+        seen.widget = QApplication::widgetAt(position);
+        seen.place = seen.widget ? seen.widget->mapFromGlobal(position) : QPoint();
+    }
+    return seen.widget && !m_isOwn(seen.widget) ? seen : Seen();
 }
 
 bool Picker::eventFilter(QObject *object, QEvent *event)
@@ -67,11 +71,14 @@ bool Picker::filterMouse(QEvent *event)
     }
     if (!m_isPicking && !isDirect)
         return false;
-    QWidget *widget = widgetAt(mouse->globalPos());
-    if (!widget)
+    const Seen seen = seenAt(mouse->globalPos());
+    if (!seen.widget)
         return false;
-    QWidget *painted = paintedAs(widget);
-    const WidgetPart part = widgetPartAt(painted, painted->mapFromGlobal(mouse->globalPos()));
+    QWidget *painted = paintedAs(seen.widget);
+    const QPoint place = painted == seen.widget || painted->isAncestorOf(seen.widget)
+        ? seen.widget->mapTo(painted, seen.place)
+        : painted->mapFromGlobal(mouse->globalPos());
+    const WidgetPart part = widgetPartAt(painted, place);
     if (event->type() == QEvent::MouseMove) {
         if (m_isPicking) {
             m_outline.clear();
@@ -82,7 +89,7 @@ bool Picker::filterMouse(QEvent *event)
     if (event->type() == QEvent::MouseButtonPress) {
         m_isRelease = true;
         setPicking(false);
-        Q_EMIT picked(widget, part);
+        Q_EMIT picked(seen.widget, part);
     }
     return true;
 }

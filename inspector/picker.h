@@ -26,12 +26,16 @@ public:
     /*! \brief Leaves those widgets alone that \a isOwn says yes to. */
     explicit Picker(std::function<bool(const QWidget *)> isOwn, QObject *parent = nullptr);
 
-    /*! \brief Returns the widget that is seen at a place of the screen, or null. */
-    using Finder = std::function<QWidget *(const QPoint &place)>;
+    /*! \brief What is seen at a place of the screen. */
+    struct Seen {
+        QWidget *widget = nullptr;
+        QPoint place; //!< in the widget
+    };
+    using Finder = std::function<Seen(const QPoint &place)>;
 
     /*!
      * \brief Lets \a finder say what is seen, where Qt does not: in a view that is zoomed, or of widgets
-     *        that let the mouse through.
+     *        that let the mouse through. If it finds no widget, Qt is asked.
      */
     void setFinder(Finder finder) { m_find = std::move(finder); }
 
@@ -46,7 +50,7 @@ Q_SIGNALS:
     void pickingChanged(bool picking);
 
 private:
-    QWidget *widgetAt(const QPoint &position) const;
+    Seen seenAt(const QPoint &position) const;
     bool filterMouse(QEvent *event);
 
     const std::function<bool(const QWidget *)> m_isOwn;

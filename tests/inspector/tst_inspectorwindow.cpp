@@ -128,11 +128,15 @@ void tst_InspectorWindow::escapeEndsPicking()
 // The program knows better than Qt what is seen where.
 void tst_InspectorWindow::picksWhatIsFound()
 {
-    m_window->pane()->setFinder([this](const QPoint &place) -> QWidget * {
-        return QApplication::widgetAt(place) == m_label ? m_button : nullptr;
+    m_window->pane()->setFinder([this](const QPoint &place) {
+        return QApplication::widgetAt(place) == m_label ? Picker::Seen{m_button, QPoint(5, 5)}
+                                                        : Picker::Seen();
     });
     QTest::mouseClick(m_label, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(m_window->pane()->pickedWidget(), m_button);
+    m_window->pane()->pick(m_label);
+    QTest::mouseClick(m_button, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(m_window->pane()->pickedWidget(), m_button); // of which nothing is said
     m_window->pane()->setFinder({});
     QTest::mouseClick(m_label, Qt::LeftButton, Qt::ControlModifier | Qt::ShiftModifier);
     QCOMPARE(m_window->pane()->pickedWidget(), m_label);

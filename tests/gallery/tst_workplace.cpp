@@ -1,0 +1,802 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+#include "quietplatform.h"
+
+#include <gallery/findingspane.h>
+#include <gallery/gallerywindow.h>
+#include <gallery/shownpart.h>
+#include <gallery/zoomarea.h>
+
+#include <analysis/rules/rules.h>
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <memory>
+
+using namespace Gallery;
+
+/*! The gallery as a place to work: what a user does with keys and the mouse, and what it leads to. */
+class tst_Workplace : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void clickShowsKeys_data();
+    void clickShowsKeys();
+    void directPickOpensTheInspector();
+    void pickingFindsDeafSpecimens();
+    void findingsAreThoseOfCheck();
+    void findingLeads_data();
+    void findingLeads();
+    void findingOpensItsFile();
+    void search_data();
+    void search();
+    void escapeEndsTheSearch();
+    void zoomKeys_data();
+    void zoomKeys();
+    void zoomedPageIsAlive();
+    void contextMenu_data();
+    void contextMenu();
+    void quits();
+    void isRemembered();
+    void nothingIsKeptWithoutMemory();
+    void forgetsWhatIsGone();
+    void opensAFolder();
+    void badFolderChangesNothing_data();
+    void badFolderChangesNothing();
+    void ownPaletteIsShown();
+    void formKeepsItsSize_data();
+    void formKeepsItsSize();
+    void openFile(const QUrl &url) { m_opened = url; } // what the desktop would do
+
+private:
+    Options optionsFor(const QString &page) const;
+    void open(const Options &options, QSettings *memory = nullptr);
+    void open(const QString &page) { open(optionsFor(page)); }
+    QString copyOfThemes(const QByteArray &from = {}, const QByteArray &to = {});
+    void openChecked(const Options &options);
+    void click(const QPoint &place, Qt::KeyboardModifiers modifiers = {}) const;
+    template<typename Widget>
+    Widget *part(const char *name) const
+    {
+        return m_window->findChild<Widget *>(QString::fromLatin1(name));
+    }
+    QPoint centerOf(const QWidget *widget) const;
+    QString page() const;
+
+    std::unique_ptr<QuietPlatform> m_quiet;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<GalleryWindow> m_window;
+    QUrl m_opened;
+};
+
+namespace
+{
+
+const QString samples = QStringLiteral(HVTHEME_SOURCE_DIR "/themes");
+
+bool isSilent = false;
+QtMessageHandler handler = nullptr;
+
+// Below those of the windows, which put back what was there before them.
+void handle(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!isSilent)
+        handler(type, context, text);
+}
+
+QStringList keysOf(const Inspection &inspection)
+{
+    QStringList keys;
+    for (const InspectedValue &value : inspection.values) {
+        for (const ValueChain &chain : value.chains)
+            keys.append(chain.token.key);
+    }
+    return keys;
+}
+
+QByteArray form(int width, int height)
+{
+    return QStringLiteral(
+               "<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">"
+               "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>%1</width>"
+               "<height>%2</height></rect></property><layout class=\"QVBoxLayout\"><item>"
+               "<widget class=\"QPushButton\" name=\"ok\"><property name=\"text\">"
+               "<string>A button with a long text</string></property></widget></item>"
+               "</layout></widget></ui>")
+        .arg(width)
+        .arg(height)
+        .toUtf8();
+}
+
+bool write(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+} // namespace
+
+void tst_Workplace::initTestCase()
+{
+    handler = qInstallMessageHandler(handle);
+    m_quiet = std::make_unique<QuietPlatform>();
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "openFile");
+}
+
+void tst_Workplace::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_opened.clear();
+    QGuiApplication::clipboard()->clear();
+}
+
+void tst_Workplace::cleanup()
+{
+    m_window.reset();
+    isSilent = false;
+    m_folder.reset();
+}
+
+Options tst_Workplace::optionsFor(const QString &page) const
+{
+    Options options;
+    options.source = {samples, QStringLiteral("dark"), {}};
+    options.pages = QStringList{page};
+    return options;
+}
+
+void tst_Workplace::open(const Options &options, QSettings *memory)
+{
+    m_window.reset();
+    m_window = std::make_unique<GalleryWindow>(options, memory);
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+// The sample themes in a folder of the test's, with other words in them.
+QString tst_Workplace::copyOfThemes(const QByteArray &from, const QByteArray &to)
+{
+    const QString folder = m_folder->filePath(QStringLiteral("themes"));
+    QDir().mkdir(folder);
+    for (const char *name : {"default", "dark", "light", "contrast"}) {
+        const QString file = QLatin1Char('/') + QLatin1String(name) + QLatin1String(".theme");
+        QFile original(samples + file);
+        if (!original.open(QIODevice::ReadOnly))
+            return {};
+        QByteArray content = original.readAll();
+        if (!from.isEmpty())
+            content.replace(from, to);
+        write(folder + file, content);
+    }
+    return folder;
+}
+
+// The library complains of bad themes as well, which is not what is looked at.
+void tst_Workplace::openChecked(const Options &options)
+{
+    isSilent = true;
+    m_window.reset();
+    open(options);
+    const bool isChecked =
+        QTest::qWaitFor([this] { return !part<QLabel>("found")->text().isEmpty(); });
+    isSilent = false;
+    QVERIFY(isChecked);
+}
+
+void tst_Workplace::click(const QPoint &place, Qt::KeyboardModifiers modifiers) const
+{
+    QTest::mouseClick(m_window->windowHandle(), Qt::LeftButton, modifiers,
+                      m_window->mapFromGlobal(place));
+}
+
+QPoint tst_Workplace::centerOf(const QWidget *widget) const
+{
+    return m_window->findChild<ZoomArea *>()->mapToScreen(widget, widget->rect().center());
+}
+
+QString tst_Workplace::page() const
+{
+    return part<QListWidget>("pages")->currentItem()->data(Qt::UserRole).toString();
+}
+
+void tst_Workplace::clickShowsKeys_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<QString>("widgetClass");
+    QTest::addColumn<QString>("subControl");
+    QTest::addColumn<QString>("key");
+
+    // clang-format off
+    QTest::newRow("alive") << "buttons" << "QPushButton[style=general]" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundNormal";
+    QTest::newRow("held") << "buttons" << "QPushButton[style=general]:hover" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundHover";
+    QTest::newRow("disabled") << "buttons" << "QPushButton[style=general]:disabled" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundDisabled";
+    QTest::newRow("sub-control") << "sliders" << "QSlider:handle:horizontal" << 100 << "QSlider" << "handle" << "HighlightedForegroundColor";
+    QTest::newRow("inner-widget") << "calendar" << "QCalendarWidget QToolButton" << 100 << "QPrevNextCalButton" << "" << "turn_prev";
+    QTest::newRow("larger") << "buttons" << "QPushButton[style=general]:hover" << 150 << "QPushButton" << "" << "GeneralButtonBackgroundHover";
+    QTest::newRow("smaller") << "buttons" << "QPushButton[style=general]:disabled" << 67 << "QPushButton" << "" << "GeneralButtonBackgroundDisabled";
+    // clang-format on
+}
+
+void tst_Workplace::clickShowsKeys()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, selector);
+    QFETCH(int, zoom);
+    QFETCH(QString, key);
+    open(page);
+    auto *area = m_window->findChild<ZoomArea *>();
+    area->setZoom(zoom);
+    QWidget *specimen = findSpecimen(m_window->page(), selector);
+    QVERIFY(specimen);
+    QVERIFY(!keysOf(m_window->inspector()->inspection()).contains(key));
+    QCoreApplication::processEvents();
+    area->reveal(specimen);
+    click(centerOf(specimen));
+    QTRY_VERIFY(m_window->inspector()->pickedWidget());
+    QWidget *picked = m_window->inspector()->pickedWidget();
+    QVERIFY(picked == specimen || specimen->isAncestorOf(picked));
+    QTEST(QString::fromLatin1(picked->metaObject()->className()), "widgetClass");
+    const Inspection &inspection = m_window->inspector()->inspection();
+    QTEST(inspection.subControl, "subControl");
+    QVERIFY2(keysOf(inspection).contains(key), qPrintable(keysOf(inspection).join(' ')));
+}
+
+void tst_Workplace::directPickOpensTheInspector()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.pane = Pane::Findings;
+    open(options);
+    QVERIFY(!m_window->inspector());
+    QWidget *specimen = findSpecimen(m_window->page(), QStringLiteral("QPushButton:hover"));
+    click(centerOf(specimen)); // an ordinary click leaves the findings alone
+    QCoreApplication::processEvents();
+    QCOMPARE(int(m_window->pane()), int(Pane::Findings));
+    for (const int zoom : {100, 100, 200}) { // the first time there is no inspector yet
+        m_window->findChild<ZoomArea *>()->setZoom(zoom);
+        m_window->showPane(Pane::Findings);
+        if (m_window->inspector())
+            m_window->inspector()->pick(m_window->statusBar());
+        m_window->showPane(Pane::Findings);
+        QCoreApplication::processEvents();
+        m_window->findChild<ZoomArea *>()->reveal(specimen);
+        click(centerOf(specimen), Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_COMPARE(int(m_window->pane()), int(Pane::Inspector));
+        QCOMPARE(m_window->inspector()->pickedWidget(), specimen);
+    }
+}
+
+// Specimens that are held in a state let the mouse through.
+void tst_Workplace::pickingFindsDeafSpecimens()
+{
+    open(QStringLiteral("buttons"));
+    QWidget *specimen = findSpecimen(m_window->page(), QStringLiteral("QPushButton:hover"));
+    QVERIFY(specimen->testAttribute(Qt::WA_TransparentForMouseEvents));
+    QTest::keyClick(m_window.get(), Qt::Key_P, Qt::AltModifier);
+    click(centerOf(specimen));
+    QCOMPARE(m_window->inspector()->pickedWidget(), specimen);
+}
+
+void tst_Workplace::findingsAreThoseOfCheck()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themesFolder =
+        copyOfThemes("SliderAcrossBackgroundColor=Brand_5", "SliderAcrossBackgroundColor=redd");
+    openChecked(options);
+
+    ThemeProjectOptions project;
+    project.folder = options.source.themesFolder;
+    project.applicationFolder = QCoreApplication::applicationDirPath();
+    QString error;
+    const auto read = ThemeProject::read(project, &error);
+    QVERIFY2(read, qPrintable(error));
+    QStringList expected;
+    const auto all = runLintRules(*read);
+    for (const Finding &finding : all)
+        expected.append(finding.place.text() + finding.message);
+    expected.sort();
+    const FindingList &list = m_window->findings().list();
+    QCOMPARE(list.rowCount(), list.weightyCount());
+    QVERIFY(list.rowCount() > 0 && list.rowCount() < expected.size());
+    QCOMPARE(part<QTabWidget>("panes")->tabText(int(Pane::Findings)),
+             QStringLiteral("Findings (%1)").arg(list.weightyCount()));
+    QVERIFY(list.summary().startsWith(QLatin1String("1 error, ")));
+    QCOMPARE(part<QLabel>("found")->text(), list.summary());
+    m_window->showPane(Pane::Findings);
+    QTest::keyClick(part<QCheckBox>("notes"), Qt::Key_Space);
+    QStringList found;
+    for (int row = 0; row < list.rowCount(); ++row) {
+        const Finding *finding = list.findingAt(list.index(row, 0));
+        found.append(finding->place.text() + finding->message);
+    }
+    found.sort();
+    QCOMPARE(found, expected);
+}
+
+void tst_Workplace::findingLeads_data()
+{
+    QTest::addColumn<QByteArray>("from");
+    QTest::addColumn<QByteArray>("to");
+    QTest::addColumn<QByteArray>("templates");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<QString>("place"); // file:line
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<QString>("selector");
+
+    // clang-format off
+    QTest::newRow("color") << QByteArray("SliderAcrossBackgroundColor=Brand_5") << QByteArray("SliderAcrossBackgroundColor=redd") << QByteArray() << "invalid-color" << "dark.theme:82" << "sliders" << "dark" << "QSlider:handle:horizontal";
+    QTest::newRow("palette-entry") << QByteArray("[Palettes]\n") << QByteArray("[Palettes]\nOwn_1=#123456\n") << QByteArray() << "unused-palette" << "default.theme:29" << "colours" << "dark" << "";
+    QTest::newRow("other-theme") << QByteArray("ThemeName=Light\n") << QByteArray("ThemeName=Light\n[Colors]\nOwn=#12\n") << QByteArray() << "invalid-color" << "light.theme:14" << "colours" << "light" << "";
+    QTest::newRow("template") << QByteArray() << QByteArray() << QByteArray("\nQPushButton[style=assist]:hover {\n  colour: red;\n}\n") << "unknown-property" << "own.qss:3" << "buttons" << "dark" << "QPushButton[style=assist]:hover";
+    // clang-format on
+}
+
+void tst_Workplace::findingLeads()
+{
+    QFETCH(QByteArray, from);
+    QFETCH(QByteArray, to);
+    QFETCH(QByteArray, templates);
+    QFETCH(QString, rule);
+    QFETCH(QString, place);
+    QFETCH(QString, selector);
+    Options options = optionsFor(QStringLiteral("menus"));
+    options.source.themesFolder = copyOfThemes(from, to);
+    options.pane = Pane::Findings;
+    if (!templates.isEmpty()) {
+        QDir().mkdir(m_folder->filePath(QStringLiteral("own")));
+        QVERIFY(write(m_folder->filePath(QStringLiteral("own/own.qss")), templates));
+        options.source.templateFolders = QStringList{m_folder->filePath(QStringLiteral("own"))};
+    }
+    openChecked(options);
+    part<QCheckBox>("notes")->setChecked(true);
+    auto *view = part<QTreeView>("findings");
+    QModelIndex index;
+    for (int row = 0; row < view->model()->rowCount(); ++row) {
+        if (view->model()->index(row, FindingList::Rule).data() == rule
+            && view->model()->index(row, FindingList::Where).data() == place)
+            index = view->model()->index(row, 0);
+    }
+    QVERIFY(index.isValid());
+    isSilent = true; // another theme may be loaded, with its complaints
+    view->setFocus();
+    view->setCurrentIndex(index);
+    QTest::keyClick(view, Qt::Key_Return);
+    QTEST(page(), "page");
+    QTEST(part<QComboBox>("themes")->currentText(), "theme");
+    QVERIFY(QGuiApplication::clipboard()->text().contains(place + QLatin1Char(':')));
+    int frames = 0;
+    const auto children = m_window->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        frames += Outline::isFrame(child) && child->isVisible() ? 1 : 0;
+    QCOMPARE(frames, 1);
+    if (selector.isEmpty())
+        return;
+    QWidget *specimen = findSpecimen(m_window->page(), selector);
+    QVERIFY(!specimen->visibleRegion().isEmpty());
+    m_window->showPane(Pane::Inspector); // with the inspector open it is shown there
+    m_window->lead({page(), selector, {}});
+    QCOMPARE(specimenOf(m_window->inspector()->pickedWidget()), specimen);
+}
+
+void tst_Workplace::findingOpensItsFile()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themesFolder =
+        copyOfThemes("SliderAcrossBackgroundColor=Brand_5", "SliderAcrossBackgroundColor=redd");
+    options.pane = Pane::Findings;
+    openChecked(options);
+    auto *view = part<QTreeView>("findings");
+    view->setFocus();
+    view->setCurrentIndex(view->model()->index(0, 0));
+    QContextMenuEvent wanted(QContextMenuEvent::Keyboard, QPoint(5, 5));
+    QCoreApplication::sendEvent(view, &wanted);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Down);
+    QCOMPARE(menu->activeAction()->text(), QStringLiteral("Open file"));
+    QTest::keyClick(menu, Qt::Key_Return);
+    const QString file = options.source.themesFolder + QLatin1String("/dark.theme");
+    QCOMPARE(m_opened.toLocalFile(), file);
+    QCOMPARE(QGuiApplication::clipboard()->text(), file + QLatin1String(":82:29"));
+    QVERIFY(m_window->statusBar()->currentMessage().contains(QLatin1String("dark.theme:82:29")));
+}
+
+void tst_Workplace::search_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("result"); // the first
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("shown"); // selector of the specimen, or key
+
+    // clang-format off
+    QTest::newRow("page") << "calen" << "Calendar\npage" << "calendar" << "";
+    QTest::newRow("color") << "editborder" << "EditBorderColor\ncolour, Colours" << "colours" << "EditBorderColor";
+    QTest::newRow("palette") << "brand_6" << "Brand_6\npalette entry, Colours" << "colours" << "Brand_6";
+    QTest::newRow("image") << "shortcut_show" << "shortcut_show\nimage file of QPushButton[imageBtn=shortcutShow]" << "image-buttons" << "QPushButton[imageBtn=shortcutShow]";
+    QTest::newRow("selector") << "style=editErr" << "QLineEdit[style=editError]\nInputs" << "inputs" << "QLineEdit[style=editError]";
+    QTest::newRow("several-words") << "spinbox error" << "QSpinBox[style=editError]\nInputs" << "inputs" << "QSpinBox[style=editError]";
+    // clang-format on
+}
+
+void tst_Workplace::search()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, shown);
+    open(QStringLiteral("buttons"));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    auto *field = part<QLineEdit>("search");
+    QVERIFY(field->hasFocus());
+    QTest::keyClicks(field, text);
+    auto *results = part<QListWidget>("results");
+    QVERIFY(results->isVisible());
+    QTEST(results->item(0)->text(), "result");
+    QTest::keyClick(field, Qt::Key_Return);
+    QTEST(page(), "page");
+    if (shown.isEmpty())
+        return;
+    QWidget *part = findSpecimen(m_window->page(), shown);
+    part = part ? part : findKey(m_window->page(), shown);
+    QVERIFY(part);
+    QVERIFY(!part->visibleRegion().isEmpty());
+}
+
+void tst_Workplace::escapeEndsTheSearch()
+{
+    open(QStringLiteral("buttons"));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_F, Qt::ControlModifier);
+    auto *field = part<QLineEdit>("search");
+    QTest::keyClicks(field, QStringLiteral("no such thing"));
+    auto *results = part<QListWidget>("results");
+    QCOMPARE(results->count(), 1);
+    QCOMPARE(results->item(0)->text(), QStringLiteral("Nothing has this in its name."));
+    QTest::keyClick(field, Qt::Key_Return); // leads nowhere
+    QCOMPARE(page(), QStringLiteral("buttons"));
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("QPushButton"));
+    QTest::keyClick(field, Qt::Key_Down); // into the list
+    QVERIFY(results->hasFocus());
+    QTest::keyClick(results, Qt::Key_Down);
+    QCOMPARE(results->currentRow(), 1);
+    QTest::keyClick(results, Qt::Key_Escape);
+    QVERIFY(field->text().isEmpty());
+    QVERIFY(!results->isVisible());
+    QVERIFY(part<QListWidget>("pages")->isVisible());
+}
+
+void tst_Workplace::zoomKeys_data()
+{
+    QTest::addColumn<QVector<int>>("keys");
+    QTest::addColumn<int>("zoom");
+
+    QTest::newRow("larger") << QVector<int>{Qt::Key_Plus} << 125;
+    QTest::newRow("larger-without-shift") << QVector<int>{Qt::Key_Equal, Qt::Key_Equal} << 150;
+    QTest::newRow("smaller") << QVector<int>{Qt::Key_Minus} << 80;
+    QTest::newRow("back") << QVector<int>{Qt::Key_Plus, Qt::Key_Plus, Qt::Key_0} << 100;
+    QTest::newRow("there-and-back") << QVector<int>{Qt::Key_Plus, Qt::Key_Minus} << 100;
+    QTest::newRow("least") << QVector<int>(9, Qt::Key_Minus) << 50;
+    QTest::newRow("most") << QVector<int>(9, Qt::Key_Plus) << 400;
+}
+
+void tst_Workplace::zoomKeys()
+{
+    QFETCH(QVector<int>, keys);
+    QFETCH(int, zoom);
+    open(QStringLiteral("buttons"));
+    QWidget *specimen = findSpecimen(m_window->page(), QStringLiteral("QPushButton"));
+    for (const int key : qAsConst(keys))
+        QTest::keyClick(m_window->windowHandle(), Qt::Key(key), Qt::ControlModifier);
+    QCOMPARE(m_window->findChild<ZoomArea *>()->zoom(), zoom);
+    QCOMPARE(part<QComboBox>("zoom")->currentText(), QStringLiteral("%1 %").arg(zoom));
+    const auto *area = m_window->findChild<ZoomArea *>();
+    const int zoomed = area->mapToScreen(specimen, QPoint(specimen->width(), 0)).x()
+        - area->mapToScreen(specimen, QPoint()).x();
+    QVERIFY(qAbs(zoomed - specimen->width() * zoom / 100.0) <= 1);
+}
+
+void tst_Workplace::zoomedPageIsAlive()
+{
+    open(QStringLiteral("inputs"));
+    auto *area = m_window->findChild<ZoomArea *>();
+    area->setZoom(200);
+    auto *edit =
+        qobject_cast<QLineEdit *>(findSpecimen(m_window->page(), QStringLiteral("QLineEdit")));
+    QVERIFY(edit);
+    area->reveal(edit);
+    QCoreApplication::processEvents();
+    click(centerOf(edit));
+    QVERIFY(edit->hasFocus());
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_End);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_X);
+    QVERIFY(edit->text().endsWith(QLatin1Char('x')));
+    area->setZoom(100);
+    QVERIFY(edit->text().endsWith(QLatin1Char('x')));
+    part<QListWidget>("pages")->setCurrentRow(0); // other pages take the zoom over
+    area->setZoom(50);
+    part<QListWidget>("pages")->setCurrentRow(4);
+    QVERIFY(!m_window->grab().isNull());
+}
+
+void tst_Workplace::contextMenu_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("at"); // selector of a specimen, or a key
+    QTest::addColumn<QString>("menu"); // empty: the action stands in the first
+    QTest::addColumn<QString>("action"); // how it begins
+    QTest::addColumn<QString>("copied"); // a regular expression
+
+    // clang-format off
+    QTest::newRow("selector") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy selector" << "^QPushButton\\[style=general\\]:hover$";
+    QTest::newRow("property") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy setProperty" << "^widget->setProperty\\(\"style\", \"general\"\\);$";
+    QTest::newRow("key") << "buttons" << "QPushButton[style=general]:hover" << "Copy key" << "GeneralButtonBackgroundHover" << "^GeneralButtonBackgroundHover$";
+    QTest::newRow("place") << "buttons" << "QPushButton[style=general]:hover" << "Copy place" << "dark.theme:45  (GeneralButtonBackgroundHover)" << "/themes/dark.theme:45:1$";
+    QTest::newRow("rule") << "buttons" << "QPushButton[style=general]:hover" << "Show rule" << "QPushButton[style=general]:hover  (" << "";
+    QTest::newRow("inspect") << "buttons" << "QPushButton[style=general]:hover" << "" << "Inspect" << "";
+    QTest::newRow("swatch-key") << "colours" << "EditBorderColor" << "" << "Copy key" << "^EditBorderColor$";
+    QTest::newRow("swatch-place") << "colours" << "EditBorderColor" << "" << "Copy place dark.theme:40" << "/themes/dark.theme:40:1$";
+    QTest::newRow("swatch-users") << "colours" << "EditBorderColor" << "" << "Show what uses it" << "";
+    // clang-format on
+}
+
+void tst_Workplace::contextMenu()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, at);
+    QFETCH(QString, menu);
+    QFETCH(QString, action);
+    QFETCH(QString, copied);
+    Options options = optionsFor(page);
+    options.pane = Pane::Messages;
+    open(options);
+    QWidget *widget = page == QLatin1String("colours") ? findKey(m_window->page(), at)
+                                                       : findSpecimen(m_window->page(), at);
+    m_window->findChild<ZoomArea *>()->reveal(widget);
+    QWidget *under = QApplication::widgetAt(centerOf(widget));
+    const QPoint place = centerOf(widget);
+    QContextMenuEvent wanted(QContextMenuEvent::Mouse, under->mapFromGlobal(place), place);
+    QCoreApplication::sendEvent(under, &wanted);
+    auto *shown = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(shown);
+    QMenu *searched = shown;
+    const auto submenus = shown->findChildren<QMenu *>();
+    for (QMenu *each : submenus)
+        searched = each->title() == menu ? each : searched;
+    QAction *found = nullptr;
+    const auto actions = searched->actions();
+    for (QAction *each : actions)
+        found = found == nullptr && each->text().startsWith(action) ? each : found;
+    QVERIFY(found);
+    QVERIFY(found->isEnabled());
+    found->trigger();
+    shown->close();
+    if (!copied.isEmpty()) {
+        const QString text = QGuiApplication::clipboard()->text();
+        QVERIFY2(text.contains(QRegularExpression(copied)), qPrintable(text));
+    } else if (page == QLatin1String("colours")) {
+        QCOMPARE(part<QLineEdit>("search")->text(), at);
+        QVERIFY(part<QListWidget>("results")->count() > 1);
+    } else {
+        QCOMPARE(int(m_window->pane()), int(Pane::Inspector));
+        QCOMPARE(m_window->inspector()->pickedWidget(), widget);
+    }
+}
+
+void tst_Workplace::quits()
+{
+    open(QStringLiteral("buttons"));
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+    QVERIFY(!m_window->isVisible());
+}
+
+void tst_Workplace::isRemembered()
+{
+    const QString file = m_folder->filePath(QStringLiteral("memory.ini"));
+    const QString themes = copyOfThemes();
+    const QString ui = m_folder->filePath(QStringLiteral("own.ui"));
+    QVERIFY(write(ui, form(300, 200)));
+    {
+        QSettings settings(file, QSettings::IniFormat);
+        Options options = optionsFor(QStringLiteral("buttons"));
+        Memory(&settings).complete(&options);
+        open(options, &settings);
+        m_window->setGeometry(30, 40, 1000, 700);
+        QCOMPARE(int(m_window->openFolder(themes)), int(Problem::None));
+        auto *chooser = part<QComboBox>("themes");
+        while (chooser->currentText() != QLatin1String("light"))
+            QTest::keyClick(chooser, Qt::Key_Down);
+        m_window->openForm(ui);
+        QCOMPARE(page(), QStringLiteral("form"));
+        part<QListWidget>("pages")->setCurrentRow(5);
+        m_window->showPane(Pane::Findings);
+        m_window->findChild<ZoomArea *>()->setZoom(80);
+        m_window->findChild<QSplitter *>()->setSizes({350, 200});
+        m_window->close();
+    }
+    QSettings settings(file, QSettings::IniFormat);
+    Options options;
+    Memory(&settings).complete(&options);
+    QCOMPARE(options.source.themesFolder, themes);
+    QCOMPARE(options.source.themeName, QStringLiteral("light"));
+    QCOMPARE(options.formFile, ui);
+    open(options, &settings);
+    QCOMPARE(m_window->geometry(), QRect(30, 40, 1000, 700));
+    QCOMPARE(part<QComboBox>("themes")->currentText(), QStringLiteral("light"));
+    QCOMPARE(page(), QStringLiteral("inputs"));
+    QCOMPARE(part<QListWidget>("pages")->count(), pages().size() + 1);
+    QCOMPARE(int(m_window->pane()), int(Pane::Findings));
+    QCOMPARE(m_window->findChild<ZoomArea *>()->zoom(), 80);
+    QCOMPARE(Memory(&settings).recentFolders(), QStringList({themes, samples}));
+
+    Options named; // what the command line says counts more
+    named.source.themesFolder = samples;
+    named.pages = QStringList{"tabs"};
+    Memory(&settings).complete(&named);
+    QCOMPARE(named.source.themesFolder, samples);
+    QCOMPARE(named.source.themeName, QString()); // that was a theme of another folder
+    QCOMPARE(named.pages, QStringList{"tabs"});
+}
+
+void tst_Workplace::nothingIsKeptWithoutMemory()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    const QString own = QSettings(QSettings::IniFormat, QSettings::UserScope,
+                                  QStringLiteral("hvtheme"), QStringLiteral("hvtheme-gallery"))
+                            .fileName();
+    const bool isThere = QFile::exists(own);
+    open(QStringLiteral("buttons"));
+    part<QListWidget>("pages")->setCurrentRow(5);
+    m_window->close();
+    m_window.reset();
+    QCOMPARE(QFile::exists(own), isThere);
+}
+
+void tst_Workplace::forgetsWhatIsGone()
+{
+    QSettings settings(m_folder->filePath(QStringLiteral("memory.ini")), QSettings::IniFormat);
+    Memory memory(&settings);
+    memory.keepSource({m_folder->filePath(QStringLiteral("gone")), QStringLiteral("dark"), {}, {}});
+    memory.keepForm(m_folder->filePath(QStringLiteral("gone.ui")));
+    memory.keepPage(QStringLiteral("form"));
+    Options options;
+    memory.complete(&options);
+    QCOMPARE(options.source.themesFolder, QString());
+    QCOMPARE(options.source.themeName, QString());
+    QCOMPARE(options.formFile, QString());
+    QCOMPARE(options.pages, QStringList());
+    QCOMPARE(memory.recentFolders(), QStringList());
+}
+
+void tst_Workplace::opensAFolder()
+{
+    const QString themes = copyOfThemes("GeneralButtonBackgroundNormal=Brand_6",
+                                        "GeneralButtonBackgroundNormal=#123456");
+    QSettings settings(m_folder->filePath(QStringLiteral("memory.ini")), QSettings::IniFormat);
+    open(optionsFor(QStringLiteral("buttons")), &settings);
+    QTimer answer; // until the dialog is open
+    connect(&answer, &QTimer::timeout, this, [&] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr || !dialog->isVisible())
+            return;
+        answer.stop();
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        name->setText(themes);
+        QTest::keyClick(name, Qt::Key_Return);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+    answer.start(20);
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_O, Qt::ControlModifier);
+    auto *button = findSpecimen(m_window->page(), QStringLiteral("QPushButton[style=general]"));
+    part<QComboBox>("themes")->setCurrentText(QStringLiteral("dark"));
+    Q_EMIT part<QComboBox>("themes")->textActivated(QStringLiteral("dark"));
+    QCOMPARE(button->grab().toImage().pixelColor(4, button->height() / 2), QColor(0x123456));
+    QMenu *recent = part<QMenu>("recent");
+    auto *first = m_window->menuBar()->actions().constFirst()->menu();
+    Q_EMIT first->aboutToShow();
+    QStringList offered;
+    const auto actions = recent->actions();
+    for (QAction *action : actions)
+        offered.append(action->text());
+    QCOMPARE(offered, QStringList({themes, samples}));
+    recent->actions().constLast()->trigger();
+    QVERIFY(button->grab().toImage().pixelColor(4, button->height() / 2) != QColor(0x123456));
+}
+
+void tst_Workplace::badFolderChangesNothing_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("message");
+
+    QTest::newRow("missing") << "nowhere"
+                             << "The themes folder \".*/nowhere\" does not exist";
+    QTest::newRow("empty") << "empty"
+                           << "empty/default.theme\" is missing or cannot be read";
+    QTest::newRow("file") << "file"
+                          << "The themes folder \".*/file\" does not exist";
+}
+
+void tst_Workplace::badFolderChangesNothing()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, message);
+    QDir().mkdir(m_folder->filePath(QStringLiteral("empty")));
+    QVERIFY(write(m_folder->filePath(QStringLiteral("file")), "text"));
+    QSettings settings(m_folder->filePath(QStringLiteral("memory.ini")), QSettings::IniFormat);
+    open(optionsFor(QStringLiteral("buttons")), &settings);
+    const QString sheet = qApp->styleSheet();
+    QTest::ignoreMessage(QtCriticalMsg, QRegularExpression(message));
+    QCOMPARE(int(m_window->openFolder(m_folder->filePath(folder))), int(Problem::ThemesFolder));
+    QCOMPARE(qApp->styleSheet(), sheet);
+    QCOMPARE(part<QComboBox>("themes")->currentText(), QStringLiteral("dark"));
+    QCOMPARE(m_window->statusBar()->currentMessage(),
+             QStringLiteral("That folder cannot be shown; see the messages"));
+    QCOMPARE(int(m_window->pane()), int(Pane::Messages));
+    QTRY_COMPARE(m_window->messages().rowCount(), 1);
+    QCOMPARE(Memory(&settings).recentFolders(), QStringList{samples});
+    QCOMPARE(int(m_window->reload()), int(Problem::None)); // of the folder before
+}
+
+void tst_Workplace::ownPaletteIsShown()
+{
+    Options options = optionsFor(QStringLiteral("colours"));
+    options.source.themesFolder = copyOfThemes(
+        "[Palettes]\n", "[Palettes]\nStage_Left=#123456\n; far right\nStage_Right=#80654321\n");
+    open(options);
+    QStringList captions;
+    for (const char *key : {"Stage_Left", "Stage_Right"}) {
+        QWidget *caption = findKey(m_window->page(), QString::fromLatin1(key));
+        QVERIFY(caption);
+        const auto labels = caption->parentWidget()->findChildren<QLabel *>();
+        for (const QLabel *label : labels)
+            captions.append(label->text());
+    }
+    QCOMPARE(captions, QStringList({"Stage_Left", "#123456", "Stage_Right", "#80654321"}));
+    open(QStringLiteral("colours")); // themes without have no such heading
+    const auto labels = m_window->page()->findChildren<QLabel *>();
+    for (const QLabel *label : labels)
+        QVERIFY(label->text() != QLatin1String("The theme's own palette"));
+}
+
+void tst_Workplace::formKeepsItsSize_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isKept");
+
+    QTest::newRow("small") << QSize(320, 210) << true;
+    QTest::newRow("large") << QSize(2500, 1900) << true;
+    QTest::newRow("too-small") << QSize(20, 10) << false; // for its button
+}
+
+void tst_Workplace::formKeepsItsSize()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, isKept);
+    Options options = optionsFor(QStringLiteral("form"));
+    options.formFile = m_folder->filePath(QStringLiteral("own.ui"));
+    QVERIFY(write(options.formFile, form(size.width(), size.height())));
+    open(options);
+    QCoreApplication::processEvents();
+    const QSize shown = m_window->page()->size();
+    QCOMPARE(shown == size, isKept);
+    QVERIFY(shown.width() >= m_window->page()->minimumSizeHint().width());
+    for (const int zoom : {200, 50, 100}) {
+        m_window->findChild<ZoomArea *>()->setZoom(zoom);
+        QCOMPARE(m_window->page()->size(), shown);
+    }
+    m_window->reload();
+    QCOMPARE(m_window->page()->size(), shown);
+}
+
+QTEST_MAIN(tst_Workplace)
+
+#include "tst_workplace.moc"
