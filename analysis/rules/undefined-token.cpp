@@ -5,6 +5,8 @@
 #include <analysis/suggestion.h>
 #include <format/applicationkeys.h>
 
+#include <QHash>
+
 #include <algorithm>
 
 namespace
@@ -45,6 +47,11 @@ bool hasImages(const ThemeProject &project)
     });
 }
 
+bool isBuiltIn(const ThemeProject &project, const TemplateToken &token)
+{
+    return project.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
+}
+
 // The application library draws all images of the built-in templates itself for a theme that names
 // none, and has colours in place of the optional ones, so such a theme is whole.
 bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
@@ -52,24 +59,45 @@ bool isGivenByApplication(const ThemeProject &project, const TemplateToken &toke
 {
     const bool isGiven = (token.kind == Kind::ImageFile && isWithoutImages)
         || (token.kind == Kind::Color && isOptionalColor(token.key));
-    return isGiven
-        && project.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
+    return isGiven && isBuiltIn(project, token);
 }
 
+QVector<TemplateToken> undefinedTokens(const ThemeProject &project)
+{
+    const bool isWithoutImages = !hasImages(project);
+    QVector<TemplateToken> tokens;
+    for (const TemplateToken &token : project.tokens()) {
+        if (!isDefined(project, token.key) && !keyWithoutUnit(project, token)
+            && !isGivenByApplication(project, token, isWithoutImages))
+            tokens.append(token);
+    }
+    return tokens;
+}
+
+// A token of somebody's own template is a mistake in its place. Those of the built-in templates are
+// right, and what they have in common is the key that the themes lack.
 void check(const ThemeProject &project, Report &report)
 {
     const Suggestion suggestion(visibleKeys(project));
-    const bool isWithoutImages = !hasImages(project);
-    for (const TemplateToken &token : project.tokens()) {
-        if (isDefined(project, token.key) || keyWithoutUnit(project, token))
-            continue;
-        if (isGivenByApplication(project, token, isWithoutImages))
-            continue;
+    const QVector<TemplateToken> tokens = undefinedTokens(project);
+    QHash<QString, int> builtInCounts;
+    for (const TemplateToken &token : tokens)
+        builtInCounts[token.key] += isBuiltIn(project, token) ? 1 : 0;
+    for (const TemplateToken &token : tokens) {
+        QString count;
+        if (isBuiltIn(project, token)) {
+            const int number = builtInCounts.take(token.key);
+            if (number == 0) // told with the first
+                continue;
+            if (number > 1)
+                count = QStringLiteral(" (%1 tokens of the built-in templates)").arg(number);
+        }
         const QString hidden = hiddenKind(project, token.key);
-        report.addAtTemplate(
-            project.templates(), token.offset,
-            QStringLiteral("no theme defines %1, and nothing takes its place").arg(token.key)
-                % (hidden.isEmpty() ? suggestion.question(token.key) : hidden));
+        report.addAtTemplate(project.templates(), token.offset,
+                             QLatin1String("no theme defines ") % token.key
+                                 % QLatin1String(", and nothing takes its place")
+                                 % (hidden.isEmpty() ? suggestion.question(token.key) : hidden)
+                                 % count);
     }
 }
 

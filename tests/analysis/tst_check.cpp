@@ -37,6 +37,7 @@ private Q_SLOTS:
     void placeholderInFolder();
     void pathInFolder_data();
     void pathInFolder();
+    void undefinedInBuiltInTemplates();
     void endless_data();
     void endless();
     void text();
@@ -413,6 +414,44 @@ void tst_Check::pathInFolder()
     QCOMPARE(found.size(), 1);
     const QString expected = QString("\"%1\" in the path %2,").arg(fault, root.filePath(folder));
     QVERIFY2(found.first().contains(expected), qPrintable(found.first()));
+}
+
+// A key that the themes lack is one mistake, however many built-in templates name it; a token in a
+// template of one's own is one by itself.
+void tst_Check::undefinedInBuiltInTemplates()
+{
+    QTemporaryDir folder;
+    QFile theme(folder.filePath("default.theme"));
+    QVERIFY(theme.open(QIODevice::WriteOnly));
+    theme.write("[ImageFiles]\nadd=add.svg\n");
+    theme.close();
+    const QString own = folder.filePath("a.qss");
+    QFile file(own);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("QLabel { color: global.theme.color.Color_W100; }\n"
+               "QFrame { color: global.theme.color.Color_W100; }\n");
+    file.close();
+    ThemeProjectOptions options;
+    options.folder = folder.path();
+    options.templates << own;
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    QVERIFY2(project, qPrintable(error));
+    int count = -2; // but for those of the own template
+    for (const TemplateToken &token : project->tokens())
+        count += token.key == "Color_W100" ? 1 : 0;
+    QVERIFY(count > 1);
+
+    const QString message("no theme defines Color_W100, and nothing takes its place");
+    QStringList found;
+    for (const Finding &finding : runLintRules(*project)) {
+        if (finding.message.startsWith(message))
+            found << QFileInfo(finding.place.file).fileName() + finding.message.mid(message.size());
+    }
+    QCOMPARE(found.size(), 3);
+    QCOMPARE(found.mid(0, 2), QStringList({"a.qss", "a.qss"}));
+    QVERIFY2(found.last().endsWith(QString(" (%1 tokens of the built-in templates)").arg(count)),
+             qPrintable(found.last()));
 }
 
 void tst_Check::endless_data()
