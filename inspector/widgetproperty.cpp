@@ -29,10 +29,12 @@ void setWidgetProperty(QWidget *widget, const QString &name, const QVariant &val
 QVariant propertyValue(const QString &text, const QVariant &before)
 {
     QVariant value(text);
-    if (before.isValid() && before.canConvert(before.userType())
-        && value.convert(before.userType()))
-        return value;
-    return text;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const bool isConverted = before.isValid() && value.convert(before.metaType());
+#else
+    const bool isConverted = before.isValid() && value.convert(before.userType());
+#endif
+    return isConverted ? value : QVariant(text);
 }
 
 QMap<QString, QStringList> styledProperties(const InspectedSheet &sheet, const QWidget *widget)
