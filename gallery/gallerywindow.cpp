@@ -53,6 +53,7 @@ GalleryWindow::GalleryWindow(const Options &options, QSettings *memory)
     , m_area(new ZoomArea)
     , m_panes(new QTabWidget)
     , m_findings(new FindingsPane)
+    , m_windowVision(new WindowVision(this))
 {
     if (m_source.themeName.isEmpty())
         m_source.themeName = themeNames(m_source.themesFolder).value(0);
@@ -177,6 +178,7 @@ void GalleryWindow::seeWith(ColorMath::Vision vision)
     for (QWidget *part :
          {static_cast<QWidget *>(menuBar()), centralWidget(), static_cast<QWidget *>(statusBar())})
         VisionEffect::apply(vision, part);
+    m_windowVision->setVision(vision);
 }
 
 Problem GalleryWindow::reload()

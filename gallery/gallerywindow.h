@@ -27,6 +27,7 @@ namespace Gallery
 
 class FindingsPane;
 class Navigation;
+class WindowVision;
 class ZoomArea;
 
 /*!
@@ -140,6 +141,7 @@ private:
     QPointer<InspectorPane> m_inspector;
     QMenu *m_recent = nullptr;
     QAction *m_find = nullptr;
+    WindowVision *m_windowVision;
 };
 
 } // namespace Gallery

@@ -28,6 +28,26 @@ private:
     const ColorMath::Vision m_vision;
 };
 
+/*! \brief Lets windows that open, such as menus, lists and dialogs, be seen by a vision. */
+class WindowVision final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /*! \param window  is left out: it has parts that are seen otherwise. */
+    explicit WindowVision(QWidget *window);
+
+    void setVision(ColorMath::Vision vision);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool isConcerned(const QWidget &window) const;
+
+    const QWidget *const m_window;
+    ColorMath::Vision m_vision = ColorMath::Vision::Normal;
+};
+
 } // namespace Gallery
 
 #endif

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void clickCopies();
     void eyes_data();
     void eyes();
+    void eyesSeeWhatOpens_data();
+    void eyesSeeWhatOpens();
     void colorsPageFollowsTheTheme();
     void options_data();
     void options();
@@ -329,6 +331,39 @@ void tst_Gallery::eyes()
     QCOMPARE(seen.convertToFormat(QImage::Format_RGB32) == before, row == 0);
     eyes->setCurrentIndex(0);
     QCOMPARE(shown().copy(specimens), before);
+}
+
+void tst_Gallery::eyesSeeWhatOpens_data()
+{
+    eyes_data();
+}
+
+// Windows that open while one sees with other eyes, such as menus, and those that are open already.
+void tst_Gallery::eyesSeeWhatOpens()
+{
+    QFETCH(int, row);
+    GalleryWindow window(optionsFor(QStringLiteral("surfaces")));
+    window.show();
+    QWidget opened;
+    opened.setStyleSheet(QStringLiteral("background: #d02020"));
+    const auto picture = [&] {
+        return opened.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    const QImage before = picture();
+    const QImage seen =
+        ColorMath::seenBy(ColorMath::Vision(row), before).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(seen == before, row == 0);
+    auto *eyes = window.findChild<QComboBox *>(QStringLiteral("eyes"));
+    opened.show();
+    eyes->setCurrentIndex(row);
+    QCOMPARE(picture(), seen);
+    opened.hide();
+    eyes->setCurrentIndex(0);
+    QCOMPARE(picture(), before);
+    eyes->setCurrentIndex(row);
+    opened.setGraphicsEffect(nullptr); // as one that did not exist yet
+    opened.show();
+    QCOMPARE(picture(), seen);
 }
 
 void tst_Gallery::colorsPageFollowsTheTheme()
