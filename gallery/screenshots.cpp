@@ -6,8 +6,11 @@
 #include "pages.h"
 #include "shownpart.h"
 
+#include <maker/stagedfile.h>
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QEventLoop>
 #include <QImageWriter>
@@ -37,13 +40,16 @@ QString fileName(const Options &options, const QString &page, const QString &the
 
 Problem writePicture(const QImage &picture, const QString &path)
 {
-    QImageWriter writer(path, "png");
+    QBuffer content;
+    QImageWriter writer(&content, "png");
     writer.setCompression(100); // the smallest file
-    if (writer.write(picture))
+    QString error = path;
+    if (!writer.write(picture))
+        error += QLatin1String(": ") % writer.errorString();
+    else if (Maker::writeFile(path, content.data(), {}, &error))
         return Problem::None;
-    qCritical("\"%ls\" cannot be written: %ls. Name a folder that can be written to with "
-              "--screenshot.",
-              qUtf16Printable(path), qUtf16Printable(writer.errorString()));
+    qCritical("%ls. Name a folder that can be written to with --screenshot.",
+              qUtf16Printable(error));
     return Problem::Output;
 }
 

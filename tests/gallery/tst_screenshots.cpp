@@ -74,6 +74,7 @@ private Q_SLOTS:
     void noControlCharacters();
     void imagesOfAnotherApplication_data();
     void imagesOfAnotherApplication();
+    void fullDisk();
     void goodThemesAreDrawnAllTheSame();
     void fullDevice();
     void help();
@@ -358,6 +359,23 @@ void tst_Screenshots::fullDevice()
     QVERIFY(gallery.waitForFinished());
     QCOMPARE(gallery.exitCode(), 1);
     QVERIFY(gallery.readAllStandardError().contains("standard output: No space left on device"));
+}
+
+// The real reason is told, and no part of a picture is left.
+void tst_Screenshots::fullDisk()
+{
+    QProcess gallery;
+    gallery.start(
+        QStringLiteral("bash"),
+        QStringList{"-c", "trap '' XFSZ; ulimit -f 1; exec \"$@\"", "bash", HVTHEME_GALLERY}
+            + withFolders({"--page", "tabs"}));
+    QVERIFY(gallery.waitForFinished());
+    const QString errors = QString::fromUtf8(gallery.readAllStandardError());
+    QVERIFY2(errors.contains(QRegularExpression(
+                 QStringLiteral("tabs-\\w+\\.png: File too large\\. Name a folder that"))),
+             qPrintable(errors));
+    QCOMPARE(gallery.exitCode(), 7);
+    QCOMPARE(pictures(), QStringList());
 }
 
 void tst_Screenshots::goodThemesAreDrawnAllTheSame()
