@@ -88,7 +88,9 @@ int main(int argc, char **argv)
     const bool displayed = hasDisplay();
     prepareEnvironment(Gallery::readOptions(arguments, {}));
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // always so from there on
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("hvtheme-gallery"));
     QApplication::setApplicationVersion(QStringLiteral(HVTHEME_VERSION));

@@ -238,7 +238,7 @@ void tst_StyleCascade::agreesWithQtAtRandom()
                            "QWidget",
                            "QLabel::item"};
     std::mt19937 random(20);
-    const auto below = [&random](int limit) { return int(random() % uint(limit)); };
+    const auto below = [&random](qsizetype limit) { return int(random() % uint(limit)); };
     for (int round = 0; round < 60; ++round) {
         QString styleSheet;
         const int count = 2 + below(round % 2 == 0 ? 12 : 1000);

@@ -85,7 +85,7 @@ void tst_UrlPath::combinations()
         QString path;
         const int length = random.bounded(2, 9);
         for (int j = 0; j < length; ++j)
-            path += alphabet.at(random.bounded(alphabet.size()));
+            path += alphabet.at(random.bounded(int(alphabet.size())));
         const int fault = urlPathFault(path);
         const bool isSound = fault < 0;
         // Behind a ")" too many the rest may happen to be readable, but the path is cut.

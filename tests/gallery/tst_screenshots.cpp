@@ -331,7 +331,7 @@ void tst_Screenshots::imagesOfAnotherApplication()
         QDir(QCoreApplication::applicationDirPath()).relativeFilePath(m_files->folder()).toUtf8(),
         "../..");
     QVERIFY(text.contains("=../../images/add.png"));
-    text.replace("/images/", '/' + folder.toLatin1() + '/');
+    text.replace("/images/", QByteArray('/' + folder.toLatin1() + '/'));
     QVERIFY(theme.open(QIODevice::WriteOnly) && theme.write(text) == text.size());
     theme.close();
     const QStringList arguments = withFolders({"--page", "image-buttons"});

@@ -200,7 +200,7 @@ void tst_Accent::optionalKeys()
     HV::changeTheme(&sample, "dark", ":/hvthemeapp/themes");
     const QVariantMap &values = sample.values();
     for (auto it = values.cbegin(); it != values.cend(); ++it) {
-        const bool isGiven = keys.contains(it.key().toLatin1() + '=')
+        const bool isGiven = keys.contains(QByteArray(it.key().toLatin1() + '='))
             || it.key().startsWith("Accent") || it->userType() != QMetaType::QColor;
         if (!isGiven)
             text += it.key().toLatin1() + '=' + it->value<QColor>().name(QColor::HexArgb).toLatin1()

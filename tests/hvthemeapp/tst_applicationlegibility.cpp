@@ -160,7 +160,7 @@ void tst_ApplicationLegibility::everyText()
     int count = 0;
     for (const Zoo::Page &page : Zoo::pages() + Zoo::dialogs()) {
         const auto texts = textsOf(page);
-        count += texts.size();
+        count += int(texts.size());
         for (const RecordedText &text : texts) {
             if (text.contrast >= minimumOf(look, text) || !isReachable(page.name, text))
                 continue;

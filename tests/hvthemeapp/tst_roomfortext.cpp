@@ -301,7 +301,7 @@ void tst_RoomForText::everyText()
     int count = 0;
     for (const Zoo::Page &page : Zoo::pages() + Zoo::dialogs()) {
         const QVector<Text> themed = textsOf(page);
-        count += themed.size();
+        count += int(themed.size());
         const auto ofPage = faultsOf(themed, m_plain[setting.name][page.name]);
         for (const QString &fault : ofPage)
             faults.append(QString("%1: %2").arg(page.name, fault));

@@ -370,7 +370,7 @@ void tst_Changing::flag()
 void tst_Changing::keyThatTheFilesLack()
 {
     QByteArray dark = file("dark.theme");
-    const int from = dark.indexOf("AccentBackgroundColor=");
+    const int from = int(dark.indexOf("AccentBackgroundColor="));
     dark.remove(from, dark.indexOf('\n', from) + 1 - from);
     QFile rewritten(m_folder->filePath("dark.theme"));
     QVERIFY(rewritten.open(QIODevice::WriteOnly) && rewritten.write(dark) == dark.size());

@@ -121,7 +121,7 @@ void tst_InspectorAgainstQt::initTestCase()
             if (written.contains(color) && !written.contains("url(")) {
                 while (m_offsets.contains(marker(number).rgb()))
                     ++number;
-                m_offsets.insert(marker(number).rgb(), m_marked.size());
+                m_offsets.insert(marker(number).rgb(), int(m_marked.size()));
                 written.replace(color, marker(number).name());
                 ++number;
             }

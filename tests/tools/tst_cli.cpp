@@ -160,8 +160,8 @@ void tst_Cli::help()
     const Result result = run({command, "--help"});
     QCOMPARE(result.code, 0);
     QCOMPARE(result.errors, QByteArray());
-    QVERIFY(result.output.startsWith("Usage: hvtheme " + command.toUtf8() + ' '));
-    QVERIFY(run({"--help"}).output.contains("  " + command.toUtf8() + "  "));
+    QVERIFY(result.output.startsWith(QByteArray("Usage: hvtheme " + command.toUtf8() + ' ')));
+    QVERIFY(run({"--help"}).output.contains(QByteArray("  " + command.toUtf8() + "  ")));
 }
 
 void tst_Cli::badInput_data()
@@ -234,7 +234,8 @@ void tst_Cli::badInput()
     QCOMPARE(result.code, 2);
     QCOMPARE(result.output, QByteArray());
     QVERIFY2(result.errors.startsWith("hvtheme: " + path.toUtf8()), result.errors.constData());
-    QVERIFY2(result.errors.endsWith(": " + reason.toUtf8() + '\n'), result.errors.constData());
+    QVERIFY2(result.errors.endsWith(QByteArray(": " + reason.toUtf8() + '\n')),
+             result.errors.constData());
     QCOMPARE(result.errors.count('\n'), 1);
     QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::System), before);
 }

@@ -98,7 +98,7 @@ void tst_Commands::help()
         QCOMPARE(QString(run.output).section('\n', 0, 0), usage);
         QVERIFY(run.output.contains("Exit code: 0 "));
     }
-    QVERIFY(CommandRun({"--help"}).output.contains("\n  " + command.toLatin1() + ' '));
+    QVERIFY(CommandRun({"--help"}).output.contains(QByteArray("\n  " + command.toLatin1() + ' ')));
 }
 
 // The options say what is read, and are the same wherever something is.

@@ -220,7 +220,7 @@ void tst_Render::namesUnreadablePathOnce()
              "hvtheme: Qt cannot read \"&\" in the path " + application
                  + "/a.png, which stands in url(...) without quotation marks, and drops the style "
                    "sheet from there on or the image\n");
-    QVERIFY(run.output.contains("url(" + application.toUtf8() + "/b.png)"));
+    QVERIFY(run.output.contains(QByteArray("url(" + application.toUtf8() + "/b.png)")));
 }
 
 QTEST_GUILESS_MAIN(tst_Render)
