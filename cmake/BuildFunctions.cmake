@@ -57,17 +57,31 @@ function(hvtheme_set_run_path target folder)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "${run_path}")
 endfunction()
 
-# hvtheme_install_program(<target> COMPONENT <component> [EXPORT <export>])
+# hvtheme_install_program(<target> NAME <program> COMPONENT <component> [EXPORT <export>] [COMPLETION <file>])
 #
-# Installs a program so that it starts from any prefix.
+# Installs a program so that it starts from any prefix, its manual page docs/<program>.1 and the completion
+# of its words. The names of all three end in HVTHEME_PROGRAM_SUFFIX; in the build tree there is a link
+# without that, for tests and documents.
 function(hvtheme_install_program target)
     hvtheme_set_run_path(${target} ${CMAKE_INSTALL_BINDIR})
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "COMPONENT;EXPORT" "")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAME;COMPONENT;EXPORT;COMPLETION" "")
+    set_target_properties(${target} PROPERTIES OUTPUT_NAME ${arg_NAME}${HVTHEME_PROGRAM_SUFFIX})
+    if(HVTHEME_PROGRAM_SUFFIX)
+        add_custom_command(TARGET ${target} POST_BUILD
+            COMMAND ${CMAKE_COMMAND} -E create_symlink $<TARGET_FILE_NAME:${target}> $<TARGET_FILE_DIR:${target}>/${arg_NAME}
+            VERBATIM)
+    endif()
     set(export "")
     if(arg_EXPORT)
         set(export EXPORT ${arg_EXPORT})
     endif()
     install(TARGETS ${target} ${export} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${arg_COMPONENT})
+    install(FILES ${PROJECT_SOURCE_DIR}/docs/${arg_NAME}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+        RENAME ${arg_NAME}${HVTHEME_PROGRAM_SUFFIX}.1 COMPONENT ${arg_COMPONENT})
+    if(arg_COMPLETION)
+        install(FILES ${arg_COMPLETION} DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+            RENAME ${arg_NAME}${HVTHEME_PROGRAM_SUFFIX} COMPONENT ${arg_COMPONENT})
+    endif()
 endfunction()
 
 # hvtheme_set_up_public_library(<target> EXPORT <export> HEADERS <file>... [STATIC_LIBS <flag>...])

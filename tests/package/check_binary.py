@@ -23,7 +23,7 @@ OWN = re.compile(
     r"|(__bss_start|_edata|_end|_init|_fini)$"
 )
 # Inline functions and types of Qt and of the standard library, and types of functions.
-OTHERS = re.compile(r"_Z(T[VIS]|NK?|ZNK?|eq|ls)?N?K?(\d+(Q|q)\w|St|S[abs]|9__gnu_cxx)|_ZT[IS]P?F")
+OTHERS = re.compile(r"_Z(GV)?(T[VIS]Z?|NK?|ZNK?|eq|ls)?N?K?(\d+(Q|q)\w|St|S[abs]|9__gnu_cxx)|_ZT[IS]P?F")
 
 
 def output_of(*command):

@@ -6,7 +6,8 @@
   documents.py CMAKE BUILD_DIR CONFIG CXX PKG_CONFIG WORK_DIR PAGE...
   documents.py --build WORK_DIR PAGE    runs only what the page says about building the whole project
 
-The project is installed below WORK_DIR first. Each page has a folder of its own there, with themes,
+The project is installed below WORK_DIR first. Pages name programs and packages as they are with Qt 5; with
+Qt 6 those of Qt 6 stand in for them. Each page has a folder of its own there, with themes,
 templates and a form; its blocks are taken in their order:
 
   sh       runs; must succeed
@@ -76,14 +77,19 @@ class Workshop:
         self.prefix = work / "home/hvtheme"
         shutil.rmtree(work, ignore_errors=True)
         run(cmake, "--install", build, "--config", config, "--prefix", self.prefix)
-        library_folder = next(self.prefix.rglob("libhvtheme.so")).parent
+        library = next(path for path in self.prefix.rglob("libhvtheme*.so") if re.fullmatch(r"libhvtheme\d*\.so", path.name))
+        library_folder = library.parent
+        self.suffix = library.stem[len("libhvtheme") :]
         programs = work / "programs"
         programs.mkdir()
+        for name in ("hvtheme", "hvtheme-icons"):
+            if not (self.prefix / "bin" / name).exists():
+                (programs / name).symlink_to(self.prefix / "bin" / (name + self.suffix))
         # A window would wait for its user, so the gallery draws instead where the page opens one.
         gallery = programs / "hvtheme-gallery"
         gallery.write_text(
             '#!/bin/sh\ncase "$*" in *--screenshot*) ;; *) set -- "$@" --screenshot window --page labels ;; esac\n'
-            f'exec "{self.prefix}/bin/hvtheme-gallery" "$@"\n'
+            f'exec "{self.prefix}/bin/hvtheme-gallery{self.suffix}" "$@"\n'
         )
         gallery.chmod(0o755)
         self.environment = dict(
@@ -101,6 +107,11 @@ class Workshop:
 
     def run(self, folder, *command, **options):
         return run(*command, cwd=folder, env=self.environment, **options)
+
+    def for_this_qt(self, text):
+        """The text with the names of packages as they are with this version of Qt."""
+        text = re.sub(r"\b(find_package\(HVTheme)\b", rf"\g<1>{self.suffix}", text)
+        return re.sub(r"(pkg-config (?:--\S+ )*hvtheme\w*)", rf"\g<1>{self.suffix}", text)
 
     def furnish(self, folder):
         """Themes with their pictures, templates, a form and the folder of a program."""
@@ -133,6 +144,7 @@ class Page:
     def try_blocks(self):
         for match in FENCE.finditer(self.text):
             block = Block(match, self.text)
+            block.text = self.workshop.for_this_qt(block.text)
             self.count += 1
             try:
                 self.try_block(block)
@@ -203,7 +215,7 @@ class Page:
         shutil.copy(ROOT / "icons/add.svg", project / "icons/a.svg")
         lines = ["cmake_minimum_required(VERSION 3.16)", "project(page LANGUAGES CXX)", "enable_testing()"]
         if "find_package(HVTheme" not in text:
-            lines.append("find_package(HVTheme REQUIRED)")
+            lines.append(f"find_package(HVTheme{self.workshop.suffix} REQUIRED)")
         targets = set(re.findall(r"target_link_libraries\((\w+)|TARGET_FILE_DIR:(\w+)", text))
         for name in sorted({first or second for first, second in targets}):
             if f"add_executable({name}" not in text:

@@ -3,9 +3,9 @@
 # SPDX-License-Identifier: MIT
 """Installs the project, moves the tree and runs each installed program from its new place.
 
-  installed_programs.py CMAKE BUILD_DIR CONFIG WORK_DIR VERSION
+  installed_programs.py CMAKE BUILD_DIR CONFIG WORK_DIR VERSION SUFFIX
 
-Then removes the installation again, from where it was installed. Exit codes: 0 all programs start,
+SUFFIX is what the names of the programs end in; it may be empty. Then removes the installation again, from where it was installed. Exit codes: 0 all programs start,
 1 one does not, 2 wrong usage.
 """
 
@@ -19,9 +19,9 @@ from steps import Failure, expect, run
 PNG = b"\x89PNG\r\n\x1a\n"
 
 
-def expect_version(program, version, environment):
+def expect_version(program, name, version, environment):
     output, _ = run(program, "--version", env=environment)
-    expect(output == f"{program.name} {version}\n", f"{program} --version printed {output!r}")
+    expect(output == f"{name} {version}\n", f"{program} --version printed {output!r}")
 
 
 def expect_own_libraries(prefix, binary, environment):
@@ -31,12 +31,12 @@ def expect_own_libraries(prefix, binary, environment):
         expect(not strange, f"{binary.name} takes a library from elsewhere: {line}")
 
 
-def use_command(prefix, work, environment):
+def use_command(program, prefix, work, environment):
     themes = prefix / "share/hvtheme/themes"
-    sheet, _ = run(prefix / "bin/hvtheme", "render", themes, "dark", env=environment)
+    sheet, _ = run(program, "render", themes, "dark", env=environment)
     path = f"{prefix}/share/hvtheme/themes/dark/checkbox_on.svg"
     expect(path in sheet, f"the style sheet does not name {path}")
-    seen, _ = run(prefix / "bin/hvtheme", "run", "--theme", "dark", "--", "env", env=environment)
+    seen, _ = run(program, "run", "--theme", "dark", "--", "env", env=environment)
     folder = dict(line.split("=", 1) for line in seen.splitlines() if "=" in line)["QT_PLUGIN_PATH"].split(":")[-1]
     plugins = sorted(pathlib.Path(folder).glob("generic/*.so"))
     expect(plugins and str(plugins[0]).startswith(f"{prefix}/"), f"there is no plugin in {folder}")
@@ -44,14 +44,14 @@ def use_command(prefix, work, environment):
         expect_own_libraries(prefix, plugin, environment)
 
 
-def use_icons(prefix, work, environment):
+def use_icons(program, prefix, work, environment):
     icons = sorted((prefix / "share/hvtheme/icons").glob("*.svg"))[:3]
-    run(prefix / "bin/hvtheme-icons", prefix / "share/hvtheme/themes", "light", work / "tinted", *icons, env=environment)
+    run(program, prefix / "share/hvtheme/themes", "light", work / "tinted", *icons, env=environment)
     expect(len(list((work / "tinted").glob("*.svg"))) == 3, "hvtheme-icons did not write three icons")
 
 
-def use_gallery(prefix, work, environment):
-    command = (prefix / "bin/hvtheme-gallery", "--screenshot", work / "pictures", "--page", "labels", "--theme", "dark")
+def use_gallery(program, prefix, work, environment):
+    command = (program, "--screenshot", work / "pictures", "--page", "labels", "--theme", "dark")
     run(*command, env=environment)
     picture = work / "pictures/labels-dark.png"
     expect(picture.read_bytes().startswith(PNG), f"{picture} is no picture")
@@ -61,7 +61,7 @@ def use_gallery(prefix, work, environment):
 USES = {"hvtheme": use_command, "hvtheme-icons": use_icons, "hvtheme-gallery": use_gallery}
 
 
-def check(cmake, build, config, work, version):
+def check(cmake, build, config, work, version, suffix):
     shutil.rmtree(work, ignore_errors=True)
     installed = work / "first place"
     moved = work / "second place/with ü"
@@ -79,9 +79,12 @@ def check(cmake, build, config, work, version):
     programs = sorted(path for path in (moved / "bin").iterdir())
     expect(programs, "no program is installed")
     for program in programs:
-        expect(program.name in USES, f"{program.name} is installed, and nothing here says how to try it")
-        expect_version(program, version, environment)
-        USES[program.name](moved, work, environment)
+        name = program.name[: len(program.name) - len(suffix)]
+        expect(name + suffix == program.name, f"the name {program.name} does not end in {suffix}")
+        expect(name in USES, f"{program.name} is installed, and nothing here says how to try it")
+        expect_version(program, name, version, environment)
+        USES[name](program, moved, work, environment)
+        expect(list(moved.glob(f"share/man/man1/{program.name}.1*")), f"{program.name} has no manual page")
         expect_own_libraries(moved, program, environment)
 
     (work / "away").rename(installed)
@@ -94,12 +97,12 @@ def check(cmake, build, config, work, version):
 
 
 def main(arguments):
-    if len(arguments) != 5:
+    if len(arguments) != 6:
         print(__doc__, file=sys.stderr)
         return 2
-    cmake, build, config, work, version = arguments
+    cmake, build, config, work, version, suffix = arguments
     try:
-        check(cmake, pathlib.Path(build), config, pathlib.Path(work), version)
+        check(cmake, pathlib.Path(build), config, pathlib.Path(work), version, suffix)
     except (Failure, OSError) as failure:
         print(failure, file=sys.stderr)
         return 1

@@ -40,7 +40,7 @@ def check(variant, cmake, ctest, cxx, pkg_config, work, sources, options):
         run(cmake, f"-DCMAKE_INSTALL_PREFIX={work / way / 'prefix'}", build)
         common = (f"-DBUILD_DIR={build}", f"-DWORK_DIR={work / way}", "-DCONFIG=Debug", f"-DLIBDIR={library_folder}")
         run(cmake, *common, f"-DSUFFIX={suffix}", f"-DCTEST={ctest}", f"-DCXX={cxx}", *arguments, "-P", HERE / "consumer/run.cmake")
-        program = work / way / "prefix/bin/hvtheme-icons"
+        program = work / way / f"prefix/bin/hvtheme-icons{suffix}"
         output, _ = run(program, "--version")
         expect(output.startswith("hvtheme-icons "), f"{program} printed {output!r}")
         if variant == "static":
