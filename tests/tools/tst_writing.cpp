@@ -70,6 +70,10 @@ void tst_Writing::refusesItsInputs_data()
                                  << "link";
     QTest::newRow("render-hard-link") << "render"
                                       << "second";
+    QTest::newRow("export-theme") << "export"
+                                  << "night.theme";
+    QTest::newRow("export-image") << "export"
+                                  << "a.png";
     QTest::newRow("sheet-image") << "sheet"
                                  << "a.png";
     QTest::newRow("sheet-theme") << "sheet"
