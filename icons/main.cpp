@@ -69,6 +69,24 @@ bool isSpecial(const QString &path)
     return file.exists() && !file.isFile();
 }
 
+// The library counts to the size that a gradient claims; a slip of some digits takes it minutes.
+constexpr int gradientSizeLimit = 10000;
+
+bool hasSaneGradients(const QString &path)
+{
+    QSettings settings(path, HV::iniFormat(path));
+    settings.beginGroup(QStringLiteral("Gradients"));
+    const QStringList keys = settings.allKeys();
+    for (const QString &key : keys) {
+        const int size = settings.value(key).toInt();
+        if (key.endsWith(QLatin1String("/size")) && size > gradientSizeLimit)
+            return complain(path % QLatin1String(": gradient ") % key.chopped(5)
+                            % QLatin1String(" claims ") % QString::number(size)
+                            % QLatin1String(" stops, which takes the library minutes to read"));
+    }
+    return true;
+}
+
 // Loading a theme never fails: a file that is missing reads as an empty one or is passed over. Here
 // that would give a set of icons in the wrong colours.
 bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
@@ -79,6 +97,8 @@ bool loadTheme(HV::Theme *theme, const QString &folder, const QString &name)
             return complain(file % QLatin1String(": not a regular file"));
         if (!QFileInfo(file).isReadable())
             return complain(file % QLatin1String(": no such theme file, or it cannot be read"));
+        if (!hasSaneGradients(file))
+            return false;
     }
     const QString defaultFile = themeFilePath(folder, defaultThemeName());
     const QString displayName = QSettings(defaultFile, HV::iniFormat(defaultFile))

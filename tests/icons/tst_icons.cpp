@@ -72,6 +72,7 @@ private Q_SLOTS:
     void unusableInput();
     void pipe_data();
     void pipe();
+    void hugeGradient();
     void otherPicturesAreStillMade();
     void sourceIsNeverReplaced();
     void wrongUsage();
@@ -199,6 +200,20 @@ void tst_Icons::pipe()
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY2(outcome.error.endsWith("hvtheme-icons: " % path % ": " % reason % "\n"),
              qUtf8Printable(outcome.error));
+}
+
+// The library would count to that.
+void tst_Icons::hugeGradient()
+{
+    const Workshop shop;
+    shop.write("themes/red.theme",
+               QByteArray(redTheme) + "[Gradients]\nGlow=1\nGlow\\size=2000000000\n");
+    const Outcome outcome = shop.tint("red", {shop.filePath("pen.svg")});
+    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.error,
+             "hvtheme-icons: " % shop.filePath("themes/red.theme")
+                 % ": gradient Glow claims 2000000000 stops, which takes the library minutes to "
+                   "read\n");
 }
 
 void tst_Icons::otherPicturesAreStillMade()
