@@ -28,24 +28,28 @@ class Search
 public:
     explicit Search(const QString &text)
         : m_text(text)
-        , m_rules(StyleRules(text).rules())
     {
+        const StyleRules rules(text);
+        for (const StyleRule &rule : rules.rules())
+            m_ends.append(rule.end);
+        // What follows the last rule and is none stands for itself.
+        if (m_ends.isEmpty() || !text.mid(m_ends.constLast()).trimmed().isEmpty())
+            m_ends.append(int(text.size()));
     }
 
     QVector<int> rejected()
     {
-        search(0, int(m_rules.size()));
+        search(0, int(m_ends.size()));
         return m_rejected;
     }
 
 private:
     // From the end of the rule before, so that stray text in between belongs to the rule behind it.
-    int startOf(int rule) const { return rule == 0 ? 0 : m_rules.at(rule - 1).end; }
+    int startOf(int rule) const { return rule == 0 ? 0 : m_ends.at(rule - 1); }
 
     QString part(int first, int last) const
     {
-        const int end = int(last >= m_rules.size() ? m_text.size() : m_rules.at(last - 1).end);
-        return m_text.mid(startOf(first), end - startOf(first));
+        return m_text.mid(startOf(first), m_ends.at(last - 1) - startOf(first));
     }
 
     void reject(int rule) { m_rejected.append(startOf(rule) + placeOf(part(rule, rule + 1))); }
@@ -75,7 +79,7 @@ private:
     }
 
     const QString m_text;
-    const QVector<StyleRule> m_rules;
+    QVector<int> m_ends; // of the rules
     QVector<int> m_rejected;
 };
 

@@ -130,6 +130,9 @@ void tst_StyleParser::rejectedRules_data()
     QTest::newRow("one") << good + "QFrame } {}" + good << QStringList("QFrame }");
     QTest::newRow("first") << "QFrame } {}" + good << QStringList("QFrame }");
     QTest::newRow("dropped-silently") << good + "% " + good << QStringList("%");
+    QTest::newRow("behind-the-last-rule") << good + "\"never closed" << QStringList("\"never");
+    QTest::newRow("backslash-behind") << good + "/* a */ \\" << QStringList("/* a */");
+    QTest::newRow("comment-behind") << good + "/* a */\n" << QStringList();
     QTest::newRow("two") << "A } {}" + good + good + "B } {}" + good << QStringList({"A }", "B }"});
 }
 
