@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QPainter>
+#include <QProgressBar>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOption>
@@ -186,6 +187,34 @@ void drawTickMarks(const QStyle &style, const QSlider &slider, QPainter &painter
     painter.restore();
 }
 
+void drawUprightProgress(const QProgressBar &bar, QPainter &painter)
+{
+    QStyleOptionProgressBar option;
+    option.initFrom(&bar);
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.progress = bar.value();
+    option.invertedAppearance = bar.invertedAppearance();
+    option.bottomToTop = bar.textDirection() == QProgressBar::BottomToTop;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    option.orientation = Qt::Vertical;
+#endif
+    bar.style()->drawControl(QStyle::CE_ProgressBar, &option, &painter, &bar);
+    if (!bar.isTextVisible())
+        return;
+
+    painter.save();
+    painter.translate(QRectF(bar.rect()).center());
+    painter.rotate(option.bottomToTop ? -90 : 90);
+    painter.setPen(bar.palette().color(bar.isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                       QPalette::WindowText));
+    painter.setFont(bar.font());
+    QRectF area(0, 0, bar.height(), bar.width());
+    area.moveCenter(QPointF());
+    painter.drawText(area, Qt::AlignCenter | Qt::TextSingleLine, bar.text());
+    painter.restore();
+}
+
 void drawMenuSeparators(const QMenu &menu, QPainter &painter)
 {
     QStyleOptionMenuItem option;
@@ -233,6 +262,19 @@ void drawGrip(const QStyleOption &option, QPainter &painter)
     painter.setPen(option.palette.color(QPalette::Light));
     for (const int x : {centre.x() - 1, centre.x() + 1})
         painter.drawLine(x, centre.y() - 3, x, centre.y() + 3);
+}
+
+void drawSizeGrip(const QStyleOptionSizeGrip &option, QPainter &painter)
+{
+    const bool isLeft = option.corner == Qt::TopLeftCorner || option.corner == Qt::BottomLeftCorner;
+    const bool isTop = option.corner == Qt::TopLeftCorner || option.corner == Qt::TopRightCorner;
+    const int side = qMin(16, qMin(option.rect.width(), option.rect.height()));
+    painter.save();
+    painter.translate(option.rect.center() + QPoint(1, 1));
+    painter.scale(isLeft ? -1 : 1, isTop ? -1 : 1);
+    themedIcon(QStringLiteral("size_grip"))
+        .paint(&painter, QRect(-side / 2, -side / 2, side, side));
+    painter.restore();
 }
 
 } // namespace HV

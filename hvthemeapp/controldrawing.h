@@ -6,10 +6,12 @@
 
 class QMenu;
 class QPainter;
+class QProgressBar;
 class QSlider;
 class QStyle;
 class QStyleOption;
 class QStyleOptionMenuItem;
+class QStyleOptionSizeGrip;
 class QStyleOptionSlider;
 class QTreeView;
 
@@ -26,6 +28,9 @@ void drawDial(const QStyleOptionSlider &option, QPainter &painter);
  */
 void drawTickMarks(const QStyle &style, const QSlider &slider, QPainter &painter);
 
+/*! \brief Draws \a bar, which is an upright one, with its text along it. */
+void drawUprightProgress(const QProgressBar &bar, QPainter &painter);
+
 /*!
  * \brief Draws the lines across \a menu and the titles of the sections below them.
  *
@@ -41,6 +46,9 @@ void drawCategorySigns(const QTreeView &tree, QPainter &painter);
 
 /*! \brief Draws what the columns of a view of columns are pulled wider by. */
 void drawGrip(const QStyleOption &option, QPainter &painter);
+
+/*! \brief Draws what a window is pulled larger by, in any of its corners. */
+void drawSizeGrip(const QStyleOptionSizeGrip &option, QPainter &painter);
 
 } // namespace HV
 

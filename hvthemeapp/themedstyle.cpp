@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSet>
 #include <QSlider>
@@ -177,6 +178,8 @@ const char *drawingOf(QStyle::PrimitiveElement element, const QStyleOption &opti
         if (!(option.state & QStyle::State_Children))
             return nullptr;
         return option.state & QStyle::State_Open ? "down" : isMirrored ? "left" : "right";
+    case QStyle::PE_IndicatorToolBarHandle:
+        return option.state & QStyle::State_Horizontal ? "grip" : "grip_horizontal";
     case QStyle::PE_IndicatorColumnViewArrow:
         return isMirrored ? "left" : "right";
     case QStyle::PE_IndicatorItemViewItemCheck:
@@ -276,7 +279,8 @@ void ThemedStyle::polish(QWidget *widget)
     if (auto *area = qobject_cast<QMdiArea *>(widget))
         followPalette(*area);
     else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
-             || qobject_cast<QPushButton *>(widget) || treeOfCategories(widget))
+             || qobject_cast<QPushButton *>(widget) || qobject_cast<QProgressBar *>(widget)
+             || treeOfCategories(widget))
         widget->installEventFilter(this);
 }
 
@@ -294,6 +298,13 @@ bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
             // A style sheet that draws the groove draws no marks, and asks no style for them.
             QPainter painter(slider);
             drawTickMarks(*slider->style(), *slider, painter);
+        }
+        auto *progress = qobject_cast<QProgressBar *>(watched);
+        if (progress && progress->orientation() == Qt::Vertical) {
+            // Style sheets write across a bar, however narrow it is.
+            QPainter painter(progress);
+            drawUprightProgress(*progress, painter);
+            return true;
         }
         auto *button = qobject_cast<QPushButton *>(watched);
         if (button && hasIconOnBrand(*button)) {
@@ -366,7 +377,11 @@ void ThemedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
     }
-    const int side = qMin(16, qMin(option->rect.width(), option->rect.height()));
+    // The dots of a handle fill the middle of their drawing alone.
+    const int room = element == PE_IndicatorToolBarHandle
+        ? 16
+        : qMin(option->rect.width(), option->rect.height());
+    const int side = qMin(16, room);
     QRect area(0, 0, side, side);
     area.moveCenter(option->rect.center());
     const bool isEnabled = (option->state & State_Enabled) != 0;
@@ -386,6 +401,9 @@ void ThemedStyle::drawControl(ControlElement element, const QStyleOption *option
         QProxyStyle::drawControl(element, option, painter, widget);
     } else if (element == CE_ColumnViewGrip) {
         drawGrip(*option, *painter);
+    } else if (const auto *grip = qstyleoption_cast<const QStyleOptionSizeGrip *>(option);
+               grip && element == CE_SizeGrip) {
+        drawSizeGrip(*grip, *painter);
     } else if (element == CE_ItemViewItem && item && item->state & State_Selected
                && showsIconsAbove(widget)) {
         QStyleOptionViewItem plain = *item;

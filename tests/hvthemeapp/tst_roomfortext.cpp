@@ -57,6 +57,9 @@ bool isInScrolled(const QWidget *widget)
         const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
         if (area && (isLonger(area->horizontalScrollBar()) || isLonger(area->verticalScrollBar())))
             return true;
+        // Files are listed by a thread, in its own time.
+        if (area && qobject_cast<const QFileDialog *>(area->window()))
+            return true;
         // A bar that is too short keeps the rest behind a button, as it does without a theme.
         if (qobject_cast<const QToolBar *>(widget) || qobject_cast<const QMdiArea *>(widget))
             return true;
@@ -121,6 +124,13 @@ int count(const QVector<Text> &texts, const Text &text)
     }));
 }
 
+int countCut(const QVector<Text> &texts, const Text &text)
+{
+    return int(std::count_if(texts.cbegin(), texts.cend(), [&](const Text &one) {
+        return one.text == text.text && one.widget == text.widget && !one.hidden.isNull();
+    }));
+}
+
 /*! All that widgets of a name say, however the lines break. */
 QString wordsOf(const QVector<Text> &texts, const QString &widget)
 {
@@ -140,10 +150,8 @@ QStringList faultsOf(const QVector<Text> &themed, const QVector<Text> &plain)
         faults.append(QString("\"%1\" %2, by %3").arg(text.text, fault, text.widget));
     };
     for (const Text &text : themed) {
-        const bool isCutAnyway = std::any_of(plain.cbegin(), plain.cend(), [&](const Text &one) {
-            return one.text == text.text && one.widget == text.widget && !one.hidden.isNull();
-        });
-        if (!text.hidden.isNull() && !text.isPassing && !isCutAnyway)
+        if (!text.hidden.isNull() && !text.isPassing
+            && countCut(themed, text) > countCut(plain, text))
             tell(text,
                  QString("loses %1 and %2 of its width %3, %4 and %5 of its height %6")
                      .arg(text.hidden.x())

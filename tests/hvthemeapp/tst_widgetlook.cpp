@@ -93,6 +93,23 @@ QWidget *menuWith()
     return menu;
 }
 
+template<bool movable>
+QWidget *windowWithBar()
+{
+    auto *window = new QMainWindow;
+    window->addToolBar("bar")->setMovable(movable);
+    return window;
+}
+
+template<bool grip>
+QWidget *windowWithGrip()
+{
+    auto *window = new QWidget;
+    if (grip)
+        (new QSizeGrip(window))->move(100, 80);
+    return window;
+}
+
 QWidget *toolButton()
 {
     auto *button = new QToolButton;
@@ -621,6 +638,9 @@ void tst_WidgetLook::drawnByStyle_data()
         addRow(look, "ticks", "upright") << look << Make(range<Qt::Vertical, QSlider>)
                                          << Make(ticked<Qt::Vertical, QSlider::TicksLeft>);
         addRow(look, "notches") << look << Make(dial<false>) << Make(dial<true>);
+        addRow(look, "size-grip") << look << Make(windowWithGrip<false>)
+                                  << Make(windowWithGrip<true>);
+        addRow(look, "handle") << look << Make(windowWithBar<false>) << Make(windowWithBar<true>);
         addRow(look, "section") << look << Make(menuWith<false>) << Make(menuWith<true>);
     }
 }
