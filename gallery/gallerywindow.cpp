@@ -16,6 +16,7 @@
 #include <format/themepath.h>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -169,6 +170,10 @@ void GalleryWindow::connectParts()
 
 void GalleryWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_inspector && !m_inspector->mayClose(SaveBar::Closing::Program)) {
+        event->ignore();
+        return;
+    }
     m_memory.keepWindow(saveGeometry(), m_splitter->saveState(), m_area->zoom());
     QMainWindow::closeEvent(event);
 }

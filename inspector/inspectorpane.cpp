@@ -345,9 +345,9 @@ void InspectorPane::refreshChange()
         m_change->refresh(subject(old.kind, old.key, old.property));
 }
 
-bool InspectorPane::mayClose()
+bool InspectorPane::mayClose(SaveBar::Closing closing)
 {
-    return m_save->mayClose();
+    return m_save->mayClose(closing);
 }
 
 void InspectorPane::lookSoon()

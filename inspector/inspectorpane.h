@@ -10,6 +10,7 @@
 #include <inspector/outline.h>
 #include <inspector/picker.h>
 #include <inspector/programchanges.h>
+#include <inspector/savebar.h>
 #include <inspector/widgettree.h>
 
 #include <QTimer>
@@ -20,7 +21,6 @@
 class ChangePanel;
 class PickedPart;
 class PropertyEditor;
-class SaveBar;
 class WhyNot;
 class QLabel;
 class QLineEdit;
@@ -66,7 +66,7 @@ public:
      *
      * \return false if the user wants all to stay as it is; true without a question if all is saved.
      */
-    bool mayClose();
+    bool mayClose(SaveBar::Closing closing);
 
     static bool isOwn(const QWidget *widget);
 

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include <algorithm>
+
 InspectorWindow::InspectorWindow()
     : m_pane(nullptr)
 {
@@ -36,7 +38,13 @@ InspectorWindow::~InspectorWindow()
 
 void InspectorWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(m_pane->mayClose());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const bool hasOthers = std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose)
+            && !InspectorPane::isOwn(window);
+    });
+    event->setAccepted(
+        m_pane->mayClose(hasOthers ? SaveBar::Closing::Inspector : SaveBar::Closing::Program));
 }
 
 void InspectorWindow::showEvent(QShowEvent *event)

@@ -136,25 +136,28 @@ void SaveBar::saveAs()
     dialog->open();
 }
 
-bool SaveBar::mayClose()
+bool SaveBar::mayClose(Closing closing)
 {
     if (!m_changes->isUnsaved())
         return true;
     QMessageBox box(QMessageBox::Question, tr("Unsaved changes"),
                     tr("%1. Save them?").arg(m_state->text()), QMessageBox::NoButton, this);
-    box.setInformativeText(
-        tr("Kept changes stay in force, and stand in the list when the inspector "
-           "is opened again, until the program ends."));
     box.setPalette(inspectorPalette());
-    auto *saving = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
-    auto *keeping = box.addButton(tr("&Keep for now"), QMessageBox::AcceptRole);
-    auto *discarding = box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    const QAbstractButton *saving = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    const QAbstractButton *keeping = nullptr;
+    if (closing == Closing::Inspector) {
+        box.setInformativeText(
+            tr("Kept changes stay in force, and stand in the list when the inspector is opened "
+               "again, until the program ends."));
+        keeping = box.addButton(tr("&Keep for now"), QMessageBox::AcceptRole);
+    }
+    const QAbstractButton *discarding = box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
     box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(saving);
     box.exec();
-    if (box.clickedButton() == discarding)
+    const QAbstractButton *clicked = box.clickedButton();
+    if (clicked == saving)
+        return save();
+    if (clicked == discarding)
         m_changes->discard();
-    return box.clickedButton() == saving
-        ? save()
-        : box.clickedButton() == keeping || box.clickedButton() == discarding;
+    return clicked && (clicked == keeping || clicked == discarding);
 }

@@ -33,8 +33,14 @@ public:
     /*! \brief Asks for a name and a folder, and writes a whole new theme. */
     void saveAs();
 
+    /*! \brief What the user is about to close: changes outlive the inspector, but not the program. */
+    enum class Closing {
+        Inspector,
+        Program
+    };
+
     /*! \brief Asks what is to become of what is not saved; returns false if all is to stay as it is. */
-    bool mayClose();
+    bool mayClose(Closing closing);
 
 private:
     QToolButton *makeButton(const QString &text, const QString &name, const QKeySequence &keys,

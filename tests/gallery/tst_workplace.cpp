@@ -43,6 +43,7 @@ private Q_SLOTS:
     void contextMenu_data();
     void contextMenu();
     void quits();
+    void asksBeforeChangesAreLost();
     void isRemembered();
     void nothingIsKeptWithoutMemory();
     void forgetsWhatIsGone();
@@ -139,6 +140,7 @@ void tst_Workplace::init()
 
 void tst_Workplace::cleanup()
 {
+    ProgramChanges::ofProgram()->discard(); // else it asks
     m_window.reset();
     isSilent = false;
     m_folder.reset();
@@ -596,6 +598,44 @@ void tst_Workplace::quits()
     open(QStringLiteral("buttons"));
     QTest::keyClick(m_window->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
     QVERIFY(!m_window->isVisible());
+}
+
+void tst_Workplace::asksBeforeChangesAreLost()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themesFolder = copyOfThemes();
+    open(options);
+    QVERIFY(m_window->inspector());
+    ProgramChanges *changes = ProgramChanges::ofProgram();
+    const QString file = options.source.themesFolder + QStringLiteral("/dark.theme");
+    QVERIFY2(changes->setValue(file, QStringLiteral("Colors/DefaultForegroundColor"),
+                               QStringLiteral("#ffeedd")),
+             qPrintable(changes->problem()));
+    // The key may be at work some events later.
+    QString answer;
+    QTimer answering;
+    connect(&answering, &QTimer::timeout, this, [&] {
+        const QWidget *box = QApplication::activeModalWidget();
+        const auto buttons = box ? box->findChildren<QPushButton *>() : QList<QPushButton *>();
+        for (QPushButton *each : buttons) {
+            if (each->text().contains(answer))
+                QTest::mouseClick(each, Qt::LeftButton);
+        }
+    });
+    answering.start(10);
+    const auto quitWith = [&](const QString &text) {
+        answer = text;
+        QApplication::setActiveWindow(m_window.get()); // the question was
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+    };
+    quitWith(QStringLiteral("Cancel"));
+    QVERIFY(m_window->isVisible());
+    QVERIFY(changes->isUnsaved());
+    quitWith(QStringLiteral("&Save"));
+    QVERIFY(!m_window->isVisible());
+    QFile saved(file);
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    QVERIFY(saved.readAll().contains("DefaultForegroundColor=#ffeedd\n"));
 }
 
 void tst_Workplace::isRemembered()

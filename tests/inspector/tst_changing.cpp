@@ -752,6 +752,17 @@ void tst_Changing::closing()
     QCOMPARE(m_window->isVisible(), !isClosed);
     QCOMPARE(file("dark.theme").contains("#ff00aa"), isSaved);
     QCOMPARE(ground() == QColor("#ff00aa"), isInForce);
+    if (m_window->isVisible()) { // nothing else is open then, so closing it ends the program
+        m_program->hide();
+        QTimer::singleShot(0, this, [&] {
+            const auto buttons = dialog<QMessageBox>()->findChildren<QPushButton *>();
+            for (QPushButton *each : buttons)
+                QVERIFY(!each->text().contains("Keep"));
+            dialog<QMessageBox>()->reject();
+        });
+        m_window->close();
+        QVERIFY(m_window->isVisible());
+    }
     if (button == "&Keep for now") {
         m_window = std::make_unique<InspectorWindow>();
         m_window->setAttribute(Qt::WA_DeleteOnClose, false);
