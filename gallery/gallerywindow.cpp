@@ -118,6 +118,7 @@ void GalleryWindow::buildParts()
 void GalleryWindow::buildPanes()
 {
     m_panes->setObjectName(QStringLiteral("panes"));
+    m_panes->setAccessibleName(QStringLiteral("Panes"));
     m_panes->setDocumentMode(true);
     auto *host = new QWidget;
     (new QVBoxLayout(host))->setContentsMargins(0, 0, 0, 0);
@@ -334,6 +335,30 @@ void GalleryWindow::setPage(QWidget *page)
     m_marker.clear();
     m_area->setPage(page, showsForm() ? ZoomArea::Fit::OwnSize : ZoomArea::Fit::Fill);
     refreshInspector();
+}
+
+// A page that is new is the last in Qt's order, behind the panes.
+bool GalleryWindow::focusNextPrevChild(bool next)
+{
+    QList<QWidget *> order;
+    QList<QWidget *> ofPage;
+    QList<QWidget *> ofPanes;
+    for (QWidget *each = nextInFocusChain(); each != this; each = each->nextInFocusChain()) {
+        const bool canFocus = (each->focusPolicy() & Qt::TabFocus) && each->focusProxy() == nullptr
+            && each->isVisible() && each->isEnabled() && each->window() == this;
+        if (!canFocus)
+            continue;
+        const bool isOfPage = page() != nullptr && page()->isAncestorOf(each);
+        (isOfPage ? ofPage : m_panes->isAncestorOf(each) ? ofPanes : order).append(each);
+    }
+    order += ofPage + ofPanes;
+    const int count = int(order.size());
+    const int current = int(order.indexOf(focusWidget()));
+    if (count == 0)
+        return false;
+    const int following = current < 0 ? 0 : (current + (next ? 1 : count - 1)) % count;
+    order.at(following)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void GalleryWindow::refreshInspector()

@@ -41,7 +41,7 @@ ColorField::ColorField(const QString &name, const QColor &color)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_button);
     layout->addWidget(m_edit, 1);
-    setFocusProxy(m_edit);
+    setFocusProxy(m_button); // the first: Tab would leave out what is before it
     showColor();
     connect(m_button, &QPushButton::clicked, this, &ColorField::openDialog);
     connect(m_edit, &QLineEdit::textEdited, this, [this](const QString &text) {

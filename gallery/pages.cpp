@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "pages.h"
 
+#include "accessiblepage.h"
 #include "applicationpage.h"
 #include "makerpage.h"
 #include "plainpage.h"
@@ -71,6 +72,7 @@ MakerPage *createMakerPage(ThemeWorkshop *workshop)
 {
     auto *page = new MakerPage(workshop);
     page->setProperty("style", QStringLiteral("BG3"));
+    makeAccessible(page);
     settlePage(page);
     return page;
 }
@@ -98,6 +100,7 @@ QWidget *createPage(const QString &name, HV::Theme &theme, const PaletteEntries 
     else
         return nullptr;
     page->setProperty("style", QStringLiteral("BG3"));
+    makeAccessible(page);
     settlePage(page);
     return page;
 }

@@ -177,6 +177,7 @@ QWidget *InspectorPane::makeDetails()
     m_contrast->setAccessibleName(tr("Contrast of the text"));
     column->addWidget(m_contrast);
     m_tabs = new QTabWidget;
+    m_tabs->setAccessibleName(tr("Why it looks so"));
     m_change = new ChangePanel(m_changes);
     m_values = makeList(tr("Values"), {tr("Property"), tr("Value"), tr("Where")});
     m_rules = makeList(tr("Rules"),

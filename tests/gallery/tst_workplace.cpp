@@ -53,6 +53,10 @@ private Q_SLOTS:
     void ownPaletteIsShown();
     void formKeepsItsSize_data();
     void formKeepsItsSize();
+    void everythingByKeyboard_data();
+    void everythingByKeyboard();
+    void partsByKeyboard();
+    void noLetterTwice();
     void openFile(const QUrl &url) { m_opened = url; } // what the desktop would do
 
 private:
@@ -835,6 +839,164 @@ void tst_Workplace::formKeepsItsSize()
     }
     m_window->reload();
     QCOMPARE(m_window->page()->size(), shown);
+}
+
+void tst_Workplace::everythingByKeyboard_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<int>("pane");
+    QTest::addColumn<QString>("theme");
+
+    for (const Page &page : pages())
+        QTest::newRow(qPrintable(page.name)) << page.name << int(Pane::Messages) << "dark";
+    QTest::newRow("inspector") << "tabs" << int(Pane::Inspector) << "dark";
+    QTest::newRow("findings") << "tabs" << int(Pane::Findings) << "dark";
+    QTest::newRow("light") << "tabs" << int(Pane::Findings) << "light";
+    QTest::newRow("contrast") << "tabs" << int(Pane::Findings) << "contrast";
+}
+
+// Tab reaches whatever is to be used, and of each it is told and seen that it has the focus.
+void tst_Workplace::everythingByKeyboard()
+{
+    QFETCH(QString, page);
+    QFETCH(int, pane);
+    QFETCH(QString, theme);
+    Options options = optionsFor(page);
+    options.pane = Pane(pane);
+    options.source.themeName = theme;
+    open(options);
+    m_window->resize(1800, 1600);
+    if (m_window->inspector()) // so that its lists have something
+        m_window->inspect(m_window->page()->findChild<QAbstractButton *>());
+    QCoreApplication::processEvents();
+    QSet<QWidget *> reached;
+    QList<QWidget *> order;
+    part<QComboBox>("themes")->setFocus(Qt::TabFocusReason);
+    constexpr int mostStops = 20; // in one widget: fields of a date
+    int stops = 0;
+    for (QWidget *focus = QApplication::focusWidget();
+         focus && (!reached.contains(focus) || (focus == order.constLast() && stops < mostStops));
+         focus = QApplication::focusWidget()) {
+        stops = reached.contains(focus) ? stops + 1 : 0;
+        if (stops == 0) {
+            reached.insert(focus);
+            order.append(focus);
+        }
+        QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
+    }
+    QCOMPARE(QApplication::focusWidget(), part<QComboBox>("themes")); // all the way round
+    QStringList problems;
+    const auto widgets = m_window->findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isUsable = widget->isVisible() && widget->isEnabled()
+            && (widget->focusPolicy() & Qt::TabFocus) && widget->window() == m_window.get();
+        if (!isUsable || qobject_cast<QMenuBar *>(widget)) // which Alt leads to
+            continue;
+        QWidget *proxied = widget;
+        while (proxied->focusProxy())
+            proxied = proxied->focusProxy();
+        if (widget->objectName().startsWith(QLatin1String("qt_")))
+            continue; // parts of a widget of Qt's
+        const QString name = nameOf(widget) + QLatin1String(" in ") + nameOf(widget->parent());
+        // Of radio buttons Tab reaches one, and the arrows the others.
+        if (!reached.contains(proxied) && !qobject_cast<QRadioButton *>(widget))
+            problems.append(QLatin1String("not reached: ") + name);
+        const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+        if (!told || told->text(QAccessible::Name).trimmed().isEmpty())
+            problems.append(QLatin1String("no name: ") + name);
+    }
+    for (QWidget *widget : qAsConst(order)) {
+        const bool isOfPage = m_window->page()->isAncestorOf(widget);
+        if (isOfPage && !qobject_cast<QLabel *>(widget))
+            continue; // what that looks like is the templates' business
+        if (isOfPage)
+            m_window->findChild<ZoomArea *>()->reveal(widget);
+        const QRect around =
+            QRect(widget->mapTo(m_window.get(), QPoint()), widget->size()).adjusted(-3, -3, 3, 3);
+        widget->setFocus(Qt::TabFocusReason);
+        const QImage focused = m_window->grab(around).toImage();
+        widget->clearFocus();
+        if (m_window->grab(around).toImage() == focused)
+            problems.append(QLatin1String("no visible focus: ") + nameOf(widget)
+                            + QLatin1String(" in ") + nameOf(widget->parent()));
+    }
+    problems.removeDuplicates();
+    for (const QString &problem : qAsConst(problems))
+        qInfo("%s", qPrintable(problem));
+    QVERIFY(problems.isEmpty());
+    QVERIFY(order.size() > 8);
+    // The page comes between the list of pages and the panes.
+    const int tabs = int(order.indexOf(part<QTabWidget>("panes")->tabBar()));
+    QVERIFY(tabs > 0);
+    for (int i = 0; i < order.size(); ++i) {
+        if (m_window->page()->isAncestorOf(order.at(i)))
+            QVERIFY(i < tabs && i > order.indexOf(part<QListWidget>("pages")));
+    }
+}
+
+void tst_Workplace::partsByKeyboard()
+{
+    open(QStringLiteral("buttons"));
+    const auto press = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(m_window->windowHandle(), key, modifiers);
+        return QApplication::focusWidget();
+    };
+    part<QListWidget>("pages")->setFocus();
+    QCOMPARE(press(Qt::Key_F6), part<QScrollArea>("page"));
+    QCOMPARE(press(Qt::Key_F6), part<QTabWidget>("panes")->tabBar());
+    QCOMPARE(press(Qt::Key_F6), part<QListWidget>("pages"));
+    QCOMPARE(press(Qt::Key_F6, Qt::ShiftModifier), part<QTabWidget>("panes")->tabBar());
+    const QVector<Pane> panes{Pane::Inspector, Pane::Findings, Pane::Messages};
+    for (const Pane pane : panes) {
+        press(Qt::Key(Qt::Key_1 + int(pane)), Qt::ControlModifier);
+        QCOMPARE(int(m_window->pane()), int(pane));
+    }
+    press(Qt::Key_I, Qt::ControlModifier); // nothing to inspect has the focus
+    QCOMPARE(int(m_window->pane()), int(Pane::Messages));
+    QVERIFY(m_window->statusBar()->currentMessage().startsWith(QLatin1String("Nothing on")));
+    QWidget *specimen = findSpecimen(m_window->page(), QStringLiteral("QPushButton:hover"));
+    const auto captions = m_window->page()->findChildren<QLabel *>();
+    for (QLabel *caption : captions) {
+        if (caption->property(specimenProperty) == QLatin1String("QPushButton:hover"))
+            caption->setFocus();
+    }
+    press(Qt::Key_I, Qt::ControlModifier);
+    QCOMPARE(m_window->inspector()->pickedWidget(), specimen);
+    // The inspector's own filter has Ctrl+F while the focus is there.
+    m_window->inspector()->findChild<QAbstractItemView *>()->setFocus();
+    QWidget *filter = press(Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(m_window->inspector()->isAncestorOf(filter));
+    part<QListWidget>("pages")->setFocus();
+    QCOMPARE(press(Qt::Key_F, Qt::ControlModifier), part<QLineEdit>("search"));
+}
+
+// Two parts with one Alt key would both be led to by turns.
+void tst_Workplace::noLetterTwice()
+{
+    open(QStringLiteral("tabs"));
+    QHash<QString, QString> users;
+    const auto note = [&](const QString &text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (key.isEmpty())
+            return;
+        QVERIFY2(!users.contains(key.toString()),
+                 qPrintable(text + QLatin1String(" and ") + users.value(key.toString())));
+        users.insert(key.toString(), text);
+    };
+    const auto menus = m_window->menuBar()->actions();
+    for (const QAction *menu : menus)
+        note(menu->text());
+    const auto buttons = m_window->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *button : buttons) {
+        if (button->isVisible() && !m_window->page()->isAncestorOf(button))
+            note(button->text());
+    }
+    const auto labels = m_window->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (label->isVisible() && label->buddy() && !m_window->page()->isAncestorOf(label))
+            note(label->text());
+    }
+    QVERIFY(users.size() > 3);
 }
 
 QTEST_MAIN(tst_Workplace)
