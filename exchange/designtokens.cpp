@@ -162,6 +162,11 @@ FoundToken Reader::resolved(const QString &name)
             return {found.type, QJsonValue()};
         }
         way.append(alias);
+        constexpr int longest = 64;
+        if (way.size() > longest) {
+            fail(name, QStringLiteral("aliases of aliases without end"));
+            return {found.type, QJsonValue()};
+        }
         const QString type = found.type;
         found = m_tokens.value(alias);
         if (found.type.isEmpty())

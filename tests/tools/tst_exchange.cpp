@@ -18,6 +18,9 @@ private Q_SLOTS:
     void exportRefused();
     void importRefused_data();
     void importRefused();
+    void importNowhere_data();
+    void importNowhere();
+    void fullDisk();
     void keepsWhatIsThere();
 };
 
@@ -138,6 +141,19 @@ void tst_Exchange::importRefused_data()
     QTest::newRow("circle")
         << QByteArray(R"({"color":{"a":{"$value":"{color.a}"}}})")
         << QByteArray("tokens.json: token color.a: it is an alias of itself: color.a -> color.a");
+    QByteArray chain = R"({"c0":{"$type":"color","$value":"#123"})";
+    for (int i = 1; i < 20000; ++i)
+        chain += ",\"c" + QByteArray::number(i) + R"(":{"$type":"color","$value":"{c)"
+            + QByteArray::number(i - 1) + "}\"}";
+    QTest::newRow("long-chain") << chain + "}" << QByteArray("aliases of aliases without end");
+    QTest::newRow("deep") << QByteArray(200000, '[') << QByteArray("tokens.json: no JSON: ");
+    QByteArray groups;
+    for (int i = 0; i < 200; ++i)
+        groups += "{\"a\":";
+    QTest::newRow("groups-in-groups") << groups + R"({"$type":"color","$value":"#123"})"
+            + QByteArray(200, '}') << QByteArray("groups within groups without end");
+    QTest::newRow("wrong-color") << QByteArray(R"({"a":{"$type":"color","$value":"bright"}})")
+                                 << QByteArray("tokens.json: token a: ");
 }
 
 void tst_Exchange::importRefused()
@@ -169,6 +185,54 @@ void tst_Exchange::keepsWhatIsThere()
     const CommandRun refused({"import", large.fileName(), place.filePath("made")});
     QCOMPARE(refused.exitCode, 2);
     QCOMPARE(refused.errors.count('\n'), 1);
+}
+
+void tst_Exchange::importNowhere_data()
+{
+    QTest::addColumn<QStringList>("target");
+    QTest::addColumn<QByteArray>("reason");
+    QTest::newRow("file-in-the-way")
+        << QStringList{"FILE"} << QByteArray("a file is in the way; name a folder");
+    QTest::newRow("read-only") << QStringList{"/proc"} << QByteArray("/proc/default.theme: ");
+    QTest::newRow("no-place") << QStringList{"/proc/made"}
+                              << QByteArray("/proc/made: the folder cannot be made: ");
+    QTest::newRow("name") << QStringList{"OUT", "--name", "a/b"} << QByteArray("a/b");
+}
+
+void tst_Exchange::importNowhere()
+{
+    QFETCH(QStringList, target);
+    QFETCH(QByteArray, reason);
+    const QTemporaryDir place;
+    const QString tokens = written(place, "t.json", R"({"a":{"$type":"color","$value":"#123"}})");
+    target.replaceInStrings("OUT", place.filePath("out"));
+    target.replaceInStrings("FILE", tokens);
+    const CommandRun run(QStringList{"import", tokens} + target);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.errors.contains(reason), run.errors.constData());
+    QCOMPARE(run.errors.count('\n'), 1);
+    QVERIFY(!QFileInfo::exists(place.filePath("out")));
+}
+
+// A limit on the size of files stands for a full disk.
+void tst_Exchange::fullDisk()
+{
+    const QTemporaryDir place;
+    const QString tokens = written(place, "t.json", R"({"a":{"$type":"color","$value":"#123"}})");
+    const QString out = place.filePath("out");
+    for (const QStringList &arguments :
+         {QStringList{"import", tokens, out},
+          QStringList{"export", HVTHEME_TEST_DIR "/../themes", "dark", "-o", out}}) {
+        QProcess shell;
+        shell.start("sh",
+                    QStringList{"-c", "trap '' XFSZ; ulimit -f 1; exec \"$@\"", "sh", commandPath()}
+                        + arguments);
+        QVERIFY(shell.waitForFinished(20000));
+        QCOMPARE(shell.exitCode(), 2);
+        QCOMPARE(shell.readAllStandardError().count('\n'), 1);
+        QVERIFY(!QFileInfo(out).isFile());
+        QCOMPARE(QDir(out).entryList(QDir::Files), QStringList());
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Exchange)

@@ -199,6 +199,11 @@ void tst_New::refused_data()
                                    << QByteArray("themes/dusk.theme: no such theme file");
     QTest::newRow("file-in-the-way") << QStringList{"OUT/file", "--brand", "red"}
                                      << QByteArray("a file is in the way; name a folder");
+    QTest::newRow("read-only") << QStringList{"/proc", "--brand", "red"}
+                               << QByteArray("/proc/default.theme: ");
+    QTest::newRow("name-with-umlaut")
+        << QStringList{"OUT", "--brand", "red", "--name", QString::fromUtf8("ü")}
+        << QByteArray("--name");
     QTest::newRow("no-place") << QStringList{"/proc/themes", "--brand", "red"}
                               << QByteArray("/proc/themes: the folder cannot be made: ");
 }
