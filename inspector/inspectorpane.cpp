@@ -253,6 +253,7 @@ void InspectorPane::refresh()
 
 void InspectorPane::look()
 {
+    m_later.stop();
     m_outline.clear();
     if (m_sheet->text() != qApp->styleSheet() || m_isSheetOld) {
         m_isSheetOld = false;

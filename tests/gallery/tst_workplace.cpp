@@ -223,12 +223,12 @@ void tst_Workplace::clickShowsKeys_data()
     QTest::addColumn<QString>("key");
 
     // clang-format off
-    QTest::newRow("alive") << "buttons" << "QPushButton[style=general]" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundNormal";
-    QTest::newRow("held") << "buttons" << "QPushButton[style=general]:hover" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundHover";
+    QTest::newRow("alive") << "buttons" << "QPushButton[style=general]" << 100 << "QPushButton" << "" << "AccentBackgroundColor";
+    QTest::newRow("held") << "buttons" << "QPushButton[style=general]:hover" << 100 << "QPushButton" << "" << "AccentHoverColor";
     QTest::newRow("disabled") << "buttons" << "QPushButton[style=general]:disabled" << 100 << "QPushButton" << "" << "GeneralButtonBackgroundDisabled";
     QTest::newRow("sub-control") << "sliders" << "QSlider:handle:horizontal" << 100 << "QSlider" << "handle" << "HighlightedForegroundColor";
     QTest::newRow("inner-widget") << "calendar" << "QCalendarWidget QToolButton" << 100 << "QPrevNextCalButton" << "" << "turn_prev";
-    QTest::newRow("larger") << "buttons" << "QPushButton[style=general]:hover" << 150 << "QPushButton" << "" << "GeneralButtonBackgroundHover";
+    QTest::newRow("larger") << "buttons" << "QPushButton[style=general]:hover" << 150 << "QPushButton" << "" << "AccentHoverColor";
     QTest::newRow("smaller") << "buttons" << "QPushButton[style=general]:disabled" << 67 << "QPushButton" << "" << "GeneralButtonBackgroundDisabled";
     // clang-format on
 }
@@ -340,7 +340,7 @@ void tst_Workplace::findingLeads_data()
     QTest::addColumn<QString>("selector");
 
     // clang-format off
-    QTest::newRow("color") << QByteArray("SliderAcrossBackgroundColor=Brand_5") << QByteArray("SliderAcrossBackgroundColor=redd") << QByteArray() << "invalid-color" << "dark.theme:82" << "sliders" << "dark" << "QSlider:handle:horizontal";
+    QTest::newRow("color") << QByteArray("SliderAcrossBackgroundColor=Brand_5") << QByteArray("SliderAcrossBackgroundColor=redd") << QByteArray() << "invalid-color" << "dark.theme:93" << "sliders" << "dark" << "QSlider:handle:horizontal";
     QTest::newRow("palette-entry") << QByteArray("[Palettes]\n") << QByteArray("[Palettes]\nOwn_1=#123456\n") << QByteArray() << "unused-palette" << "default.theme:29" << "colours" << "dark" << "";
     QTest::newRow("other-theme") << QByteArray("ThemeName=Light\n") << QByteArray("ThemeName=Light\n[Colors]\nOwn=#12\n") << QByteArray() << "invalid-color" << "light.theme:14" << "colours" << "light" << "";
     QTest::newRow("template") << QByteArray() << QByteArray() << QByteArray("\nQPushButton[style=assist]:hover {\n  colour: red;\n}\n") << "unknown-property" << "own.qss:3" << "buttons" << "dark" << "QPushButton[style=assist]:hover";
@@ -414,8 +414,8 @@ void tst_Workplace::findingOpensItsFile()
     QTest::keyClick(menu, Qt::Key_Return);
     const QString file = options.source.themesFolder + QLatin1String("/dark.theme");
     QCOMPARE(m_opened.toLocalFile(), file);
-    QCOMPARE(QGuiApplication::clipboard()->text(), file + QLatin1String(":82:29"));
-    QVERIFY(m_window->statusBar()->currentMessage().contains(QLatin1String("dark.theme:82:29")));
+    QCOMPARE(QGuiApplication::clipboard()->text(), file + QLatin1String(":93:29"));
+    QVERIFY(m_window->statusBar()->currentMessage().contains(QLatin1String("dark.theme:93:29")));
 }
 
 void tst_Workplace::search_data()
@@ -544,8 +544,8 @@ void tst_Workplace::contextMenu_data()
     // clang-format off
     QTest::newRow("selector") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy selector" << "^QPushButton\\[style=general\\]:hover$";
     QTest::newRow("property") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy setProperty" << "^widget->setProperty\\(\"style\", \"general\"\\);$";
-    QTest::newRow("key") << "buttons" << "QPushButton[style=general]:hover" << "Copy key" << "GeneralButtonBackgroundHover" << "^GeneralButtonBackgroundHover$";
-    QTest::newRow("place") << "buttons" << "QPushButton[style=general]:hover" << "Copy place" << "dark.theme:45  (GeneralButtonBackgroundHover)" << "/themes/dark.theme:45:1$";
+    QTest::newRow("key") << "buttons" << "QPushButton[style=general]:hover" << "Copy key" << "AccentHoverColor" << "^AccentHoverColor$";
+    QTest::newRow("place") << "buttons" << "QPushButton[style=general]:hover" << "Copy place" << "dark.theme:57  (AccentHoverColor)" << "/themes/dark.theme:57:1$";
     QTest::newRow("rule") << "buttons" << "QPushButton[style=general]:hover" << "Show rule" << "QPushButton[style=general]:hover  (" << "";
     QTest::newRow("inspect") << "buttons" << "QPushButton[style=general]:hover" << "" << "Inspect" << "";
     QTest::newRow("swatch-key") << "colours" << "EditBorderColor" << "" << "Copy key" << "^EditBorderColor$";
