@@ -3,6 +3,7 @@
 
 #include <analysis/messagelog.h>
 #include <analysis/theme/themefile.h>
+#include <hvtheme/inifile.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -75,7 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
     QStringList keys;
     {
         const MessageLog silence; // of keys that are empty
-        keys = QSettings(file.fileName(), QSettings::IniFormat).allKeys();
+        keys = QSettings(file.fileName(), HV::iniFormat(file.fileName())).allKeys();
     }
     file.remove();
     if (!theme)

@@ -3,6 +3,7 @@
 
 #include <analysis/theme/themefile.h>
 #include <analysis/theme/themefolder.h>
+#include <hvtheme/inifile.h>
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -251,7 +252,7 @@ void tst_ThemeFile::agreesWithSettings()
         }
         keys.sort();
 
-        const QSettings settings(path, QSettings::IniFormat);
+        const QSettings settings(path, HV::iniFormat(path));
         QStringList expected = settings.allKeys();
         expected.sort();
         if (keys != expected)

@@ -22,6 +22,9 @@ constexpr bool isQt6 = QT_VERSION >= QT_VERSION_CHECK(6, 0, 0);
 /*! The 8-bit encoding of the locale, as which the texts of some messages pass, is always UTF-8. */
 constexpr bool localeIsAlwaysUtf8 = isQt6;
 
+/*! A byte order mark makes UTF-8 of the keys of an INI file too, not only of its values. */
+constexpr bool markIsForKeysToo = isQt6;
+
 /*! Of how many pointers a QString consists. */
 constexpr int pointersOfText = isQt6 ? 3 : 1;
 
