@@ -60,7 +60,7 @@ int FindingList::count(Severity severity) const
 
 int FindingList::weightyCount() const
 {
-    return m_all.size() - count(Severity::Info);
+    return int(m_all.size()) - count(Severity::Info);
 }
 
 QString FindingList::summary() const
