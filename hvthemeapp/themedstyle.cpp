@@ -8,6 +8,7 @@
 #include "themedicon.h"
 #include "titlebar.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDockWidget>
 #include <QEvent>
@@ -430,8 +431,17 @@ int ThemedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                              const QWidget *widget) const
 {
     const int own = QProxyStyle::pixelMetric(metric, option, widget);
-    // The usual twelve leave six for the sign that there is more, which nobody sees.
-    return metric == PM_ToolBarExtensionExtent ? qMax(own, 20) : own;
+    switch (metric) {
+    case PM_ToolBarExtensionExtent:
+        // The usual twelve leave six for the sign that there is more, which nobody sees.
+        return qMax(own, 20);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        // With a rule for it, a style sheet draws whole items without asking this style.
+        return qobject_cast<const QAbstractItemView *>(widget) ? qMax(own, 16) : own;
+    default:
+        return own;
+    }
 }
 
 } // namespace HV

@@ -298,6 +298,8 @@ private Q_SLOTS:
     void drawnByStyle();
     void selectedRow_data();
     void selectedRow();
+    void selectedIcon_data();
+    void selectedIcon();
     void category_data();
     void category();
     void ownSeparator();
@@ -722,6 +724,35 @@ void tst_WidgetLook::selectedRow()
             mostIn(picture, part & picture.rect(), mainColor(picture, part & picture.rect()));
         QVERIFY2(sign >= 3, qUtf8Printable(QString("%1 on %2").arg(sign).arg(ground.name())));
     }
+}
+
+void tst_WidgetLook::selectedIcon_data()
+{
+    QTest::addColumn<QString>("look");
+
+    for (const QString &look : looks)
+        QTest::newRow(qUtf8Printable(look)) << look;
+}
+
+// Above the text an icon lies on the ground of the view, not on that of the selection.
+void tst_WidgetLook::selectedIcon()
+{
+    QFETCH(QString, look);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    QListWidget list;
+    list.setViewMode(QListView::IconMode);
+    auto *item =
+        new QListWidgetItem(QApplication::style()->standardIcon(QStyle::SP_FileIcon), "iii", &list);
+    list.resize(160, 120);
+    list.setCurrentItem(item);
+    list.grab();
+    QRect area = list.visualItemRect(item);
+    area.setHeight(list.iconSize().isValid() ? list.iconSize().height() : 24);
+    const QImage picture = list.viewport()->grab(area).toImage();
+    const double contrast = mostIn(picture, picture.rect(), mainColor(picture, picture.rect()));
+    QVERIFY2(contrast >= 3, qUtf8Printable(QString::number(contrast)));
 }
 
 void tst_WidgetLook::category_data()
