@@ -4,6 +4,7 @@
 #include <analysis/explanation.h>
 
 #include <analysis/suggestion.h>
+#include <format/applicationkeys.h>
 
 #include <QFileInfo>
 
@@ -215,5 +216,8 @@ void Explanation::tellTokens()
         add(Topic::Statement,
             QStringLiteral("Style sheets see neither palette entries nor gradients."));
     else if (count == 0)
-        add(Topic::Statement, QStringLiteral("No template uses it."));
+        add(Topic::Statement,
+            m_isDefined && isOptionalColor(m_key)
+                ? QStringLiteral("No template uses it; the application library takes it.")
+                : QStringLiteral("No template uses it."));
 }

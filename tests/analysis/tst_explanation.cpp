@@ -17,6 +17,7 @@ private Q_SLOTS:
     void initTestCase();
     void steps_data();
     void steps();
+    void colorOfTheApplicationLibrary();
     void elements_data();
     void elements();
     void elementsRefused_data();
@@ -100,6 +101,22 @@ void tst_Explanation::steps()
     for (const ExplanationStep &step : explanation.steps())
         told << shown(step);
     QCOMPARE(told, expected);
+}
+
+void tst_Explanation::colorOfTheApplicationLibrary()
+{
+    ThemeProjectOptions options;
+    options.folder = HVTHEME_SOURCE_DIR "/themes";
+    options.applicationFolder = QDir::currentPath();
+    options.templates = QStringList{HVTHEME_TEST_DIR "/data/explanation.qss"};
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    QVERIFY2(project, qPrintable(error));
+    for (const char *key : {"AccentBackgroundColor", "Palette_Highlight"}) {
+        const Explanation explanation(*project, project->theme("dark"), key);
+        QCOMPARE(explanation.steps().constLast().text,
+                 QString("No template uses it; the application library takes it."));
+    }
 }
 
 void tst_Explanation::elements_data()

@@ -276,7 +276,7 @@ void tst_ThemeMaker::passesTheCheck()
     QStringList found;
     const QVector<Finding> findings = runLintRules(*project);
     for (const Finding &finding : findings) {
-        if (finding.severity != Severity::Info)
+        if (finding.severity != Severity::Info || finding.rule == "unused-key")
             found.append(finding.rule + ": " + finding.message);
     }
     QVERIFY2(found.isEmpty(), qPrintable(found.join('\n')));
