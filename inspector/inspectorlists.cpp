@@ -272,7 +272,7 @@ void InspectorLists::showTheme(QTreeWidget *list, const InspectedSheet &sheet)
             if (value.isHidden)
                 continue;
             const bool isColor = value.value.userType() == QMetaType::QColor;
-            const QColor color = value.value.value<QColor>();
+            const auto color = value.value.value<QColor>();
             QString text = isColor
                 ? color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb)
                 : valueText(value.value);

@@ -203,7 +203,7 @@ ThemeSaving ProgramChanges::save(const QString &file)
 {
     m_continued.clear();
     const QByteArray content = m_editor.contents().value(file);
-    const ThemeSaving saving = m_editor.save(file);
+    ThemeSaving saving = m_editor.save(file);
     m_problem = saving.message;
     if (saving.isSaved()) {
         m_known.insert(file, content);

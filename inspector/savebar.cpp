@@ -22,12 +22,12 @@ SaveBar::SaveBar(ProgramChanges *changes, QWidget *shortcutOwner)
     , m_state(new QLabel)
     , m_message(new QLabel)
     , m_undo(makeButton(tr("Undo"), tr("Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z), shortcutOwner))
-    , m_redo(makeButton(tr("Redo"), tr("Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+    , m_redo(makeButton(tr("Redo"), tr("Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
                         shortcutOwner))
     , m_save(makeButton(tr("Save"), tr("Save the changes"), QKeySequence(Qt::CTRL | Qt::Key_S),
                         shortcutOwner))
     , m_saveAs(makeButton(tr("Save as a new theme…"), tr("Save as a new theme"),
-                          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), shortcutOwner))
+                          QKeySequence(QStringLiteral("Ctrl+Shift+S")), shortcutOwner))
 {
     m_state->setAccessibleName(tr("Unsaved changes"));
     m_message->setAccessibleName(tr("What came of saving"));
