@@ -34,7 +34,7 @@ QString decoded(const QByteArray &content)
     QByteArray bytes = content;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly | QIODevice::Text);
-    return QString::fromUtf8(buffer.readAll());
+    return QString::fromUtf8(buffer.readAll().constData());
 }
 
 } // namespace

@@ -87,16 +87,16 @@ void tst_StyleRules::positions()
 {
     const QString text = "A { b: c; }\n D { e: f }";
     const StyleRules rules(text);
-    QCOMPARE(rules.ruleAt(text.indexOf('A')), &rules.rules().at(0));
-    QCOMPARE(rules.ruleAt(text.indexOf('}')), &rules.rules().at(0));
-    QCOMPARE(rules.ruleAt(text.indexOf('\n')), nullptr);
-    QCOMPARE(rules.ruleAt(text.indexOf('f')), &rules.rules().at(1));
-    QCOMPARE(rules.ruleAt(text.size()), nullptr);
+    QCOMPARE(rules.ruleAt(int(text.indexOf('A'))), &rules.rules().at(0));
+    QCOMPARE(rules.ruleAt(int(text.indexOf('}'))), &rules.rules().at(0));
+    QCOMPARE(rules.ruleAt(int(text.indexOf('\n'))), nullptr);
+    QCOMPARE(rules.ruleAt(int(text.indexOf('f'))), &rules.rules().at(1));
+    QCOMPARE(rules.ruleAt(int(text.size())), nullptr);
 
     const StyleRule &first = rules.rules().constFirst();
-    QCOMPARE(first.declarationAt(text.indexOf('b')), &first.declarations.at(0));
-    QCOMPARE(first.declarationAt(text.indexOf('c')), &first.declarations.at(0));
-    QCOMPARE(first.declarationAt(text.indexOf(';')), nullptr);
+    QCOMPARE(first.declarationAt(int(text.indexOf('b'))), &first.declarations.at(0));
+    QCOMPARE(first.declarationAt(int(text.indexOf('c'))), &first.declarations.at(0));
+    QCOMPARE(first.declarationAt(int(text.indexOf(';'))), nullptr);
     QCOMPARE(first.declarationAt(0), nullptr);
 }
 
@@ -104,11 +104,11 @@ void tst_StyleRules::comments()
 {
     const QString text = "a /*b*/ c /*d";
     const StyleRules rules(text);
-    QVERIFY(!rules.isComment(text.indexOf('a')));
-    QVERIFY(rules.isComment(text.indexOf('/')));
-    QVERIFY(rules.isComment(text.indexOf('b')));
-    QVERIFY(!rules.isComment(text.indexOf('c')));
-    QVERIFY(rules.isComment(text.indexOf('d')));
+    QVERIFY(!rules.isComment(int(text.indexOf('a'))));
+    QVERIFY(rules.isComment(int(text.indexOf('/'))));
+    QVERIFY(rules.isComment(int(text.indexOf('b'))));
+    QVERIFY(!rules.isComment(int(text.indexOf('c'))));
+    QVERIFY(rules.isComment(int(text.indexOf('d'))));
 }
 
 QTEST_GUILESS_MAIN(tst_StyleRules)

@@ -5,6 +5,8 @@
 #include <analysis/theme/themefolder.h>
 #include <hvtheme/inifile.h>
 
+#include "qtversion.h"
+
 #include <QDir>
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -167,6 +169,19 @@ void tst_ThemeFile::agreesWithSettings_data()
         QTest::addRow("seed-%u", seed) << seed;
 }
 
+// The key as the Qt of this test has it.
+static QString keyAsRead(const ThemeFileEntry &entry)
+{
+    static const QRegularExpression end("[ \\t\\r\\n]*$");
+    static const QRegularExpression blanks("[ \\t]*$");
+    QString key = entry.key;
+    if (QtDifference::keysEndBeforeLineBreaks) {
+        const QString raw = QString::fromLatin1(entry.rawKey).remove(blanks);
+        key.chop(int(end.match(raw).capturedLength()));
+    }
+    return key;
+}
+
 // Files of random pieces, among them everything that the lexical rules speak of, and each value
 // different, so that the value tells which of several entries took effect.
 static QByteArray randomFile(QRandomGenerator *random)
@@ -239,7 +254,12 @@ void tst_ThemeFile::agreesWithSettings()
     QFETCH(quint32, seed);
     QRandomGenerator random(seed);
     for (int i = 0; i < 1000; ++i) {
-        const QByteArray content = randomFile(&random);
+        QByteArray content = randomFile(&random);
+        if (QtDifference::markIsForKeysToo && content.startsWith("\xEF\xBB\xBF")) {
+            for (int at = 3; at < content.size(); ++at)
+                content[at] = char(content.at(at) & 0x7f);
+            content.insert(3, '\n');
+        }
         // A name of its own each: QSettings keeps what it read under a name for a while.
         const QString path = write(QStringLiteral("random-%1-%2.theme").arg(seed).arg(i), content);
         QString error;
@@ -248,11 +268,14 @@ void tst_ThemeFile::agreesWithSettings()
         QStringList keys;
         for (const ThemeFileEntry &entry : file->entries()) {
             if (entry.isEffective)
-                keys << entry.key;
+                keys << keyAsRead(entry);
         }
+        keys.removeDuplicates();
         keys.sort();
 
-        const QSettings settings(path, HV::iniFormat(path));
+        const QString asRead =
+            write(QStringLiteral("read-%1-%2.theme").arg(seed).arg(i), HV::iniText(content));
+        const QSettings settings(asRead, QSettings::IniFormat);
         QStringList expected = settings.allKeys();
         expected.sort();
         if (keys != expected)
@@ -270,6 +293,7 @@ void tst_ThemeFile::agreesWithSettings()
                 QCOMPARE(mark.match(QString::fromLatin1(raw)).captured(), expectedMark);
         }
         QFile::remove(path);
+        QFile::remove(asRead);
     }
 }
 

@@ -25,6 +25,9 @@ constexpr bool localeIsAlwaysUtf8 = isQt6;
 /*! A byte order mark makes UTF-8 of the keys of an INI file too, not only of its values. */
 constexpr bool markIsForKeysToo = isQt6;
 
+/*! Line breaks at the end of a key of an INI file, which a backslash lets into it, are left out. */
+constexpr bool keysEndBeforeLineBreaks = isQt6;
+
 /*! Of how many pointers a QString consists. */
 constexpr int pointersOfText = isQt6 ? 3 : 1;
 
