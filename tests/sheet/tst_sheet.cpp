@@ -279,7 +279,7 @@ void tst_Sheet::largeImagesStayOut()
     QVERIFY(image.save(theme.path("large.png"), "PNG"));
     QProcess shell;
     shell.start("bash",
-                {"-c", "ulimit -v 2000000; exec \"$@\"", "bash", commandPath(), "sheet",
+                {"-c", "ulimit -v 3000000; exec \"$@\"", "bash", commandPath(), "sheet",
                  theme.path(), "default", "--app-dir", theme.path(), "-o", theme.path(output)});
     QVERIFY(shell.waitForFinished());
     QCOMPARE(QString(shell.readAllStandardError()),

@@ -233,7 +233,8 @@ void tst_Cli::badInput()
     const Result result = run(arguments);
     QCOMPARE(result.code, 2);
     QCOMPARE(result.output, QByteArray());
-    QVERIFY2(result.errors.startsWith("hvtheme: " + path.toUtf8()), result.errors.constData());
+    QVERIFY2(result.errors.startsWith(QByteArray("hvtheme: " + path.toUtf8())),
+             result.errors.constData());
     QVERIFY2(result.errors.endsWith(QByteArray(": " + reason.toUtf8() + '\n')),
              result.errors.constData());
     QCOMPARE(result.errors.count('\n'), 1);

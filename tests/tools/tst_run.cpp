@@ -68,7 +68,7 @@ QString valueSeen(const QStringList &options, const QProcessEnvironment &environ
 {
     const Run seen = run(options + QStringList{"--", "env"}, environment);
     for (const QByteArray &line : seen.output.split('\n')) {
-        if (line.startsWith(variable + '='))
+        if (line.startsWith(QByteArray(variable + '=')))
             return QString::fromLocal8Bit(line.mid(variable.size() + 1));
     }
     return {};
