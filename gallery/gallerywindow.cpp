@@ -101,7 +101,7 @@ void GalleryWindow::buildParts()
     m_splitter->addWidget(pagesAndPage);
     m_splitter->addWidget(m_panes);
     m_splitter->setStretchFactor(0, 1);
-    m_splitter->setSizes({470, 370});
+    m_splitter->setSizes({430, 410});
 
     auto *central = new QWidget;
     auto *column = new QVBoxLayout(central);
@@ -171,6 +171,10 @@ void GalleryWindow::connectParts()
 
 void GalleryWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_inspector && !m_inspector->mayClose(SaveBar::Closing::Program)) {
+        event->ignore();
+        return;
+    }
     if (m_inspector && !m_inspector->mayClose(SaveBar::Closing::Program)) {
         event->ignore();
         return;

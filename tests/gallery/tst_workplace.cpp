@@ -119,6 +119,18 @@ QByteArray form(int width, int height)
         .toUtf8();
 }
 
+// "dark.theme:LINE" of the line that begins with \a start.
+QString placeOf(const QByteArray &start)
+{
+    QFile file(samples + QLatin1String("/dark.theme"));
+    int line = 1;
+    if (file.open(QIODevice::ReadOnly)) {
+        while (!file.atEnd() && !file.readLine().startsWith(start))
+            ++line;
+    }
+    return QStringLiteral("dark.theme:%1").arg(line);
+}
+
 bool write(const QString &path, const QByteArray &content)
 {
     QFile file(path);
@@ -162,6 +174,8 @@ void tst_Workplace::open(const Options &options, QSettings *memory)
 {
     m_window.reset();
     m_window = std::make_unique<GalleryWindow>(options, memory);
+    if (!memory) // the screen is no larger, and what is outside cannot be clicked
+        m_window->resize(790, 780);
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -340,7 +354,7 @@ void tst_Workplace::findingLeads_data()
     QTest::addColumn<QString>("selector");
 
     // clang-format off
-    QTest::newRow("color") << QByteArray("SliderAcrossBackgroundColor=Brand_5") << QByteArray("SliderAcrossBackgroundColor=redd") << QByteArray() << "invalid-color" << "dark.theme:93" << "sliders" << "dark" << "QSlider:handle:horizontal";
+    QTest::newRow("color") << QByteArray("SliderAcrossBackgroundColor=Brand_5") << QByteArray("SliderAcrossBackgroundColor=redd") << QByteArray() << "invalid-color" << placeOf("SliderAcrossBackgroundColor") << "sliders" << "dark" << "QSlider:handle:horizontal";
     QTest::newRow("palette-entry") << QByteArray("[Palettes]\n") << QByteArray("[Palettes]\nOwn_1=#123456\n") << QByteArray() << "unused-palette" << "default.theme:29" << "colours" << "dark" << "";
     QTest::newRow("other-theme") << QByteArray("ThemeName=Light\n") << QByteArray("ThemeName=Light\n[Colors]\nOwn=#12\n") << QByteArray() << "invalid-color" << "light.theme:14" << "colours" << "light" << "";
     QTest::newRow("template") << QByteArray() << QByteArray() << QByteArray("\nQPushButton[style=assist]:hover {\n  colour: red;\n}\n") << "unknown-property" << "own.qss:3" << "buttons" << "dark" << "QPushButton[style=assist]:hover";
@@ -414,8 +428,10 @@ void tst_Workplace::findingOpensItsFile()
     QTest::keyClick(menu, Qt::Key_Return);
     const QString file = options.source.themesFolder + QLatin1String("/dark.theme");
     QCOMPARE(m_opened.toLocalFile(), file);
-    QCOMPARE(QGuiApplication::clipboard()->text(), file + QLatin1String(":93:29"));
-    QVERIFY(m_window->statusBar()->currentMessage().contains(QLatin1String("dark.theme:93:29")));
+    QCOMPARE(QGuiApplication::clipboard()->text(),
+             file + placeOf("SliderAcross").mid(10) + QLatin1String(":29"));
+    QVERIFY(m_window->statusBar()->currentMessage().contains(placeOf("SliderAcross")
+                                                             + QLatin1String(":29")));
 }
 
 void tst_Workplace::search_data()
@@ -542,14 +558,14 @@ void tst_Workplace::contextMenu_data()
     QTest::addColumn<QString>("copied"); // a regular expression
 
     // clang-format off
-    QTest::newRow("selector") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy selector" << "^QPushButton\\[style=general\\]:hover$";
-    QTest::newRow("property") << "buttons" << "QPushButton[style=general]:hover" << "" << "Copy setProperty" << "^widget->setProperty\\(\"style\", \"general\"\\);$";
-    QTest::newRow("key") << "buttons" << "QPushButton[style=general]:hover" << "Copy key" << "AccentHoverColor" << "^AccentHoverColor$";
-    QTest::newRow("place") << "buttons" << "QPushButton[style=general]:hover" << "Copy place" << "dark.theme:57  (AccentHoverColor)" << "/themes/dark.theme:57:1$";
-    QTest::newRow("rule") << "buttons" << "QPushButton[style=general]:hover" << "Show rule" << "QPushButton[style=general]:hover  (" << "";
-    QTest::newRow("inspect") << "buttons" << "QPushButton[style=general]:hover" << "" << "Inspect" << "";
+    QTest::newRow("selector") << "buttons" << "QPushButton[style=general]:disabled" << "" << "Copy selector" << "^QPushButton\\[style=general\\]:disabled$";
+    QTest::newRow("property") << "buttons" << "QPushButton[style=general]:disabled" << "" << "Copy setProperty" << "^widget->setProperty\\(\"style\", \"general\"\\);$";
+    QTest::newRow("key") << "buttons" << "QPushButton[style=general]:disabled" << "Copy key" << "GeneralButtonBackgroundDisabled" << "^GeneralButtonBackgroundDisabled$";
+    QTest::newRow("place") << "buttons" << "QPushButton[style=general]:disabled" << "Copy place" << placeOf("GeneralButtonBackgroundDisabled") + "  (GeneralButtonBackgroundDisabled)" << "/themes/" + placeOf("GeneralButtonBackgroundDisabled") + ":1$";
+    QTest::newRow("rule") << "buttons" << "QPushButton[style=general]:disabled" << "Show rule" << "QPushButton[style=general]:disabled  (" << "";
+    QTest::newRow("inspect") << "buttons" << "QPushButton[style=general]:disabled" << "" << "Inspect" << "";
     QTest::newRow("swatch-key") << "colours" << "EditBorderColor" << "" << "Copy key" << "^EditBorderColor$";
-    QTest::newRow("swatch-place") << "colours" << "EditBorderColor" << "" << "Copy place dark.theme:40" << "/themes/dark.theme:40:1$";
+    QTest::newRow("swatch-place") << "colours" << "EditBorderColor" << "" << "Copy place " + placeOf("EditBorderColor") << "/themes/" + placeOf("EditBorderColor") + ":1$";
     QTest::newRow("swatch-users") << "colours" << "EditBorderColor" << "" << "Show what uses it" << "";
     // clang-format on
 }
@@ -566,13 +582,9 @@ void tst_Workplace::contextMenu()
     open(options);
     QWidget *widget = page == QLatin1String("colours") ? findKey(m_window->page(), at)
                                                        : findSpecimen(m_window->page(), at);
-    QCoreApplication::processEvents(); // the page is laid out
     m_window->findChild<ZoomArea *>()->reveal(widget);
-    QPoint place = centerOf(widget);
-    if (page == QLatin1String("colours")) // captions are wide, and the screen of tests is not
-        place.rx() -= widget->width() / 2 - 8;
-    QWidget *under = QApplication::widgetAt(place);
-    QVERIFY(under);
+    QWidget *under = QApplication::widgetAt(centerOf(widget));
+    const QPoint place = centerOf(widget);
     QContextMenuEvent wanted(QContextMenuEvent::Mouse, under->mapFromGlobal(place), place);
     QCoreApplication::sendEvent(under, &wanted);
     auto *shown = qobject_cast<QMenu *>(QApplication::activePopupWidget());
@@ -726,8 +738,8 @@ void tst_Workplace::forgetsWhatIsGone()
 
 void tst_Workplace::opensAFolder()
 {
-    const QString themes =
-        copyOfThemes("AccentBackgroundColor=Brand_6", "AccentBackgroundColor=#123456");
+    const QString themes = copyOfThemes("GeneralButtonBackgroundDisabled=Brand_9",
+                                        "GeneralButtonBackgroundDisabled=#123456");
     QSettings settings(m_folder->filePath(QStringLiteral("memory.ini")), QSettings::IniFormat);
     open(optionsFor(QStringLiteral("buttons")), &settings);
     QTimer answer; // until the dialog is open
@@ -744,7 +756,8 @@ void tst_Workplace::opensAFolder()
     });
     answer.start(20);
     QTest::keyClick(m_window->windowHandle(), Qt::Key_O, Qt::ControlModifier);
-    auto *button = findSpecimen(m_window->page(), QStringLiteral("QPushButton[style=general]"));
+    auto *button =
+        findSpecimen(m_window->page(), QStringLiteral("QPushButton[style=general]:disabled"));
     part<QComboBox>("themes")->setCurrentText(QStringLiteral("dark"));
     Q_EMIT part<QComboBox>("themes")->textActivated(QStringLiteral("dark"));
     QCOMPARE(button->grab().toImage().pixelColor(4, button->height() / 2), QColor(0x123456));
