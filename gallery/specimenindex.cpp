@@ -60,7 +60,7 @@ SpecimenIndex::SpecimenIndex(const ThemeProject *project)
             for (const SpecimenRow &row : section.rows) {
                 for (const Specimen &specimen : row.specimens) {
                     if (!m_specimenOf.contains(specimen.selector))
-                        m_specimenOf.insert(specimen.selector, m_specimens.size());
+                        m_specimenOf.insert(specimen.selector, int(m_specimens.size()));
                     m_specimens.append({page.name, specimen.selector, {}});
                 }
             }
