@@ -27,15 +27,15 @@ void GalleryWindow::buildMenus()
     m_recent->setObjectName(QStringLiteral("recent"));
     connect(menu, &QMenu::aboutToShow, this, &GalleryWindow::listRecentFolders);
     menu->addAction(QStringLiteral("Open f&orm…"), this, &GalleryWindow::chooseForm,
-                    QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+                    QKeySequence(QStringLiteral("Ctrl+Shift+O")));
     menu->addSeparator();
     m_find = menu->addAction(QStringLiteral("&Search"), m_navigation, &Navigation::beginSearch,
                              QKeySequence::Find);
     menu->addAction(QStringLiteral("&Inspect what has the focus"), this,
-                    &GalleryWindow::inspectFocused, QKeySequence(Qt::CTRL | Qt::Key_I));
+                    &GalleryWindow::inspectFocused, QKeySequence(QStringLiteral("Ctrl+I")));
     menu->addSeparator();
     menu->addAction(QStringLiteral("&Quit"), this, &QWidget::close,
-                    QKeySequence(Qt::CTRL | Qt::Key_Q));
+                    QKeySequence(QStringLiteral("Ctrl+Q")));
     buildViewMenu();
     // Its own filter has this key while the inspector has the focus.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
@@ -49,12 +49,12 @@ void GalleryWindow::buildViewMenu()
     QMenu *menu = menuBar()->addMenu(QStringLiteral("&View"));
     auto *larger = menu->addAction(QStringLiteral("Zoom &in"), this, [this] { m_area->zoomBy(1); });
     larger->setShortcuts(
-        {QKeySequence(QKeySequence::ZoomIn), QKeySequence(Qt::CTRL | Qt::Key_Equal)});
+        {QKeySequence(QKeySequence::ZoomIn), QKeySequence(QStringLiteral("Ctrl+="))});
     menu->addAction(
         QStringLiteral("Zoom &out"), this, [this] { m_area->zoomBy(-1); }, QKeySequence::ZoomOut);
     menu->addAction(
         QStringLiteral("&As it is"), this, [this] { m_area->setZoom(100); },
-        QKeySequence(Qt::CTRL | Qt::Key_0));
+        QKeySequence(QStringLiteral("Ctrl+0")));
     menu->addSeparator();
     for (const Pane pane : {Pane::Inspector, Pane::Findings, Pane::Messages}) {
         const int number = int(pane) + 1;
@@ -64,7 +64,7 @@ void GalleryWindow::buildViewMenu()
                 showPane(pane);
                 m_panes->tabBar()->setFocus(Qt::ShortcutFocusReason);
             },
-            QKeySequence(Qt::CTRL | (Qt::Key_0 + number)));
+            QKeySequence(QStringLiteral("Ctrl+%1").arg(number)));
     }
     menu->addSeparator();
     menu->addAction(
@@ -72,7 +72,7 @@ void GalleryWindow::buildViewMenu()
         QKeySequence(Qt::Key_F6));
     menu->addAction(
         QStringLiteral("&Previous part of the window"), this, [this] { visitNextPart(-1); },
-        QKeySequence(Qt::SHIFT | Qt::Key_F6));
+        QKeySequence(QStringLiteral("Shift+F6")));
 }
 
 void GalleryWindow::listRecentFolders()

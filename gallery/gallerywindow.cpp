@@ -61,6 +61,8 @@ GalleryWindow::GalleryWindow(const Options &options, QSettings *memory)
     m_log.setPlaceFinder([this](const QString &text) { return m_applied.placesFor(text); });
     m_checkTimer.setSingleShot(true);
     m_checkTimer.setInterval(checkDelayMs);
+    m_refreshTimer.setSingleShot(true);
+    m_refreshTimer.setInterval(0);
     m_navigation = new Navigation(
         listedPages(), [this](const QString &text) { return index().search(text, listedPages()); });
     const QString first =
@@ -167,6 +169,10 @@ void GalleryWindow::connectParts()
     connect(&m_log, &QAbstractItemModel::modelReset, this, &GalleryWindow::titlePanes);
     connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
     connect(&m_checkTimer, &QTimer::timeout, this, &GalleryWindow::check);
+    connect(&m_refreshTimer, &QTimer::timeout, this, [this] {
+        if (m_inspector && pane() == Pane::Inspector)
+            m_inspector->refresh();
+    });
 }
 
 void GalleryWindow::closeEvent(QCloseEvent *event)
@@ -367,8 +373,7 @@ bool GalleryWindow::focusNextPrevChild(bool next)
 
 void GalleryWindow::refreshInspector()
 {
-    if (m_inspector && pane() == Pane::Inspector)
-        QTimer::singleShot(0, m_inspector, &InspectorPane::refresh);
+    m_refreshTimer.start(); // once all is laid out
 }
 
 QWidget *GalleryWindow::page() const

@@ -128,6 +128,7 @@ private:
     bool m_isIndexed = false;
     Problem m_problem = Problem::None;
     QTimer m_checkTimer;
+    QTimer m_refreshTimer; //!< of the inspector
     Outline m_marker;
     QPointer<QWidget> m_led; //!< where the user was led to last
 
