@@ -26,7 +26,7 @@ private Q_SLOTS:
     void pathStays();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

@@ -24,7 +24,7 @@ private Q_SLOTS:
     void path();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

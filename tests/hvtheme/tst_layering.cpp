@@ -37,7 +37,7 @@ private Q_SLOTS:
     void groupIsLeftAsFound();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

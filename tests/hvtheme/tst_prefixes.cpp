@@ -25,7 +25,7 @@ private Q_SLOTS:
     void invalidExpression();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

@@ -35,7 +35,7 @@ private Q_SLOTS:
     void sections();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

@@ -35,7 +35,7 @@ private Q_SLOTS:
     void flagsAreLookedForAmongFlags();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

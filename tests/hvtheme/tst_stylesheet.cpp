@@ -35,7 +35,7 @@ private Q_SLOTS:
     void parses();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

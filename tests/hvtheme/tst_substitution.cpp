@@ -232,7 +232,7 @@ private:
     void compare(CaseSource &source, const QVector<Prefix> &prefixes, int count,
                  bool hasSurrogates);
 
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 void tst_Substitution::compare(CaseSource &source, const QVector<Prefix> &prefixes, int count,

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void linksAndFolders();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

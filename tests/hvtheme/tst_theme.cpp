@@ -41,7 +41,7 @@ private Q_SLOTS:
     void valuesAreOneObject();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

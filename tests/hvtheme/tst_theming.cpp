@@ -43,7 +43,7 @@ private Q_SLOTS:
     void findStyleSheetWithoutTheme();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 void tst_Theming::dpiSpecificImageFile_data()

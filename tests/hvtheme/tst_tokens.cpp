@@ -31,7 +31,7 @@ private Q_SLOTS:
     void imageExistence();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

@@ -46,7 +46,7 @@ private Q_SLOTS:
     void changeAppStyleSheetOfAnEmptyTheme();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

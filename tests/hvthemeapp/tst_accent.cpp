@@ -46,7 +46,7 @@ private Q_SLOTS:
     void deletedByASlot();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 void tst_Accent::init()

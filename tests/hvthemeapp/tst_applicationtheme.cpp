@@ -57,7 +57,7 @@ void writeThemes(const TemporaryFolder &folder, const QByteArray &more = QByteAr
 }
 
 // What the library has logged, with severity and category.
-QStringList logged(MessageLog &log)
+QStringList logged(CapturedMessages &log)
 {
     QStringList lines;
     const Messages messages = log.take();
@@ -120,7 +120,7 @@ private Q_SLOTS:
     void properties();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 void tst_ApplicationTheme::initTestCase()

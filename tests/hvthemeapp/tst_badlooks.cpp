@@ -113,7 +113,7 @@ private:
     // Compares the problem with what was logged, once, and the look with what it was.
     void compareProblem(const ApplicationTheme &theme, const QString &begin, const QString &end);
 
-    MessageLog m_log;
+    CapturedMessages m_log;
     std::unique_ptr<ApplicationTheme> m_theme;
     QString m_styleSheet;
     QPalette m_palette;

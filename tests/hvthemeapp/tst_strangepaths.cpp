@@ -28,7 +28,7 @@ private Q_SLOTS:
     void suffixInOtherCase();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

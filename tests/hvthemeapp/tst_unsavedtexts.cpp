@@ -34,7 +34,7 @@ private Q_SLOTS:
     void time();
 
 private:
-    MessageLog m_log;
+    CapturedMessages m_log;
 };
 
 namespace

@@ -64,13 +64,13 @@ inline QByteArray difference(const Messages &actual, const Messages &expected)
  * order. A test class starts it in init() and ends cleanup() with REPORT_STRAY_MESSAGES: what no
  * test took by then fails the run.
  */
-class MessageLog
+class CapturedMessages
 {
-    Q_DISABLE_COPY(MessageLog)
+    Q_DISABLE_COPY(CapturedMessages)
 
 public:
-    MessageLog() = default;
-    ~MessageLog() { stop(); }
+    CapturedMessages() = default;
+    ~CapturedMessages() { stop(); }
 
     void start()
     {
@@ -89,9 +89,9 @@ public:
     Messages take() { return std::exchange(m_messages, Messages()); }
 
 private:
-    static MessageLog *&current()
+    static CapturedMessages *&current()
     {
-        static MessageLog *log = nullptr;
+        static CapturedMessages *log = nullptr;
         return log;
     }
 
