@@ -321,7 +321,9 @@ void tst_Gallery::eyes()
         return window.centralWidget()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     };
     const auto *page = window.page();
-    const QRect specimens(page->mapTo(window.centralWidget(), QPoint(0, 0)), QSize(600, 400));
+    const QRect specimens(page->mapTo(window.centralWidget(), QPoint(0, 0)),
+                          page->visibleRegion().boundingRect().size().boundedTo({600, 400}));
+    QVERIFY(!specimens.isEmpty());
     const QImage before = shown().copy(specimens);
     auto *eyes = window.findChild<QComboBox *>(QStringLiteral("eyes"));
     QCOMPARE(eyes->currentIndex(), 0);
