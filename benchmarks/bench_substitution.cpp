@@ -133,7 +133,8 @@ void measureMemory()
                                      theme().values();
                                      for (auto iteration : state) {
                                          QString text = withTokens(64 << 20);
-                                         const double textKilobytes = 2.0 * text.size() / 1024;
+                                         const double textKilobytes =
+                                             2.0 * double(text.size()) / 1024;
                                          const double before = statusKilobytes("VmRSS");
                                          resetPeak();
                                          HV::replaceStyleSheet(&theme(), prefix, text);

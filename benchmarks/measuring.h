@@ -31,7 +31,7 @@ inline double statusKilobytes(const QByteArray &name)
     if (!file.open(QIODevice::ReadOnly))
         return 0;
     const QByteArray text = file.readAll();
-    const int start = int(text.indexOf(name + ':') + name.size() + 1);
+    const auto start = text.indexOf(QByteArray(name + ':')) + name.size() + 1;
     return text.mid(start, text.indexOf(" kB", start) - start).trimmed().toDouble();
 }
 
