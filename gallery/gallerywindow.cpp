@@ -85,6 +85,8 @@ GalleryWindow::GalleryWindow(const Options &options, QSettings *memory)
 // Its look is not to be looked at when the pages are gone.
 GalleryWindow::~GalleryWindow()
 {
+    // Widgets that go with the window give the focus away when its own members are gone already.
+    disconnect(qApp, nullptr, this, nullptr);
     delete m_inspector;
 }
 
