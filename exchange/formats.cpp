@@ -81,7 +81,7 @@ QByteArray gimpPalette(const ThemeContent &theme)
         return text.replace(QLatin1Char('\n'), QLatin1Char(' ')).toUtf8();
     };
     QByteArray text = "GIMP Palette\nName: " + oneLine(theme.displayName) + "\nColumns: 10\n#\n";
-    QCollator collator(QLocale(QLocale::English));
+    QCollator collator{QLocale(QLocale::English)};
     collator.setNumericMode(true); // a run in its order: Brand_2 before Brand_10
     QStringList keys = theme.palette.keys();
     std::sort(keys.begin(), keys.end(), collator);
