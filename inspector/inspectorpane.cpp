@@ -107,7 +107,7 @@ QWidget *InspectorPane::makeTools()
     row->setContentsMargins(0, 0, 0, 0);
     m_pick = new QToolButton;
     m_pick->setText(tr("&Pick"));
-    m_pick->setShortcut(QKeySequence(Qt::ALT | Qt::Key_P));
+    m_pick->setShortcut(QKeySequence(QStringLiteral("Alt+P")));
     m_pick->setCheckable(true);
     m_pick->setAccessibleName(tr("Pick a widget with the mouse"));
     m_pick->setToolTip(

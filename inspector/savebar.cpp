@@ -21,10 +21,11 @@ SaveBar::SaveBar(ProgramChanges *changes, QWidget *shortcutOwner)
     : m_changes(changes)
     , m_state(new QLabel)
     , m_message(new QLabel)
-    , m_undo(makeButton(tr("Undo"), tr("Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z), shortcutOwner))
+    , m_undo(
+          makeButton(tr("Undo"), tr("Undo"), QKeySequence(QStringLiteral("Ctrl+Z")), shortcutOwner))
     , m_redo(makeButton(tr("Redo"), tr("Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
                         shortcutOwner))
-    , m_save(makeButton(tr("Save"), tr("Save the changes"), QKeySequence(Qt::CTRL | Qt::Key_S),
+    , m_save(makeButton(tr("Save"), tr("Save the changes"), QKeySequence(QStringLiteral("Ctrl+S")),
                         shortcutOwner))
     , m_saveAs(makeButton(tr("Save as a new theme…"), tr("Save as a new theme"),
                           QKeySequence(QStringLiteral("Ctrl+Shift+S")), shortcutOwner))
