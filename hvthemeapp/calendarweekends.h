@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QObject>
 
+class QAbstractItemView;
 class QApplication;
 class QCalendarWidget;
 
@@ -14,7 +15,8 @@ namespace HV
 {
 
 /*!
- * \brief Gives the weekends of calendars a colour of the look.
+ * \brief Gives the weekends of calendars a colour of the look, and those of disabled ones that of
+ *        other days.
  *
  * Qt writes its red into the text formats of each calendar, where neither palette nor style sheet
  * reaches it. Formats in another colour are the program's and stay. Internal.
@@ -30,7 +32,7 @@ public:
 
 private:
     using QObject::QObject;
-    void paint(QCalendarWidget *calendar) const;
+    void paint(QCalendarWidget *calendar, const QAbstractItemView &days) const;
 
     QColor m_color;
 };

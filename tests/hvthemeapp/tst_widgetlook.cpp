@@ -220,10 +220,10 @@ QColor mainColor(const QImage &image, const QRect &rect)
     return QColor(most.key());
 }
 
-/*! Links, selected text and what Qt, a program or a scene has coloured itself are the same when disabled. */
-bool keepsColor(const QColor &pen, const QColor &weekend, const QPalette &palette)
+/*! Links, selected text and what a program or a scene has coloured itself are the same when disabled. */
+bool keepsColor(const QColor &pen, const QPalette &palette)
 {
-    return pen == weekend || pen == QColor(200, 40, 40) || pen == palette.color(QPalette::Link)
+    return pen == QColor(200, 40, 40) || pen == palette.color(QPalette::Link)
         || pen == palette.color(QPalette::HighlightedText);
 }
 
@@ -291,6 +291,8 @@ private Q_SLOTS:
     void handle();
     void disabled_data();
     void disabled();
+    void weekends_data();
+    void weekends();
     void sizeHint_data();
     void sizeHint();
     void narrowButton();
@@ -511,21 +513,63 @@ void tst_WidgetLook::disabled()
     const auto enabledPens = pensOf(true);
     const auto disabledPens = pensOf(false);
     QVERIFY(!enabledPens.isEmpty());
-    QCalendarWidget calendar;
-    calendar.ensurePolished();
-    const QColor weekend = calendar.weekdayTextFormat(Qt::Sunday).foreground().color();
     QStringList same;
     int compared = 0;
     for (auto it = enabledPens.cbegin(); it != enabledPens.cend(); ++it) {
         if (!disabledPens.contains(it.key()))
             continue;
         ++compared;
-        if (!it.key().startsWith("scene") && !keepsColor(it.value(), weekend, theme.palette())
+        if (!it.key().startsWith("scene") && !keepsColor(it.value(), theme.palette())
             && disabledPens.contains(it.key(), it.value()))
             same.append(it.key());
     }
     QVERIFY(compared > 0);
     QVERIFY2(same.isEmpty(), qUtf8Printable(same.join(", ")));
+}
+
+void tst_WidgetLook::weekends_data()
+{
+    QTest::addColumn<QString>("look");
+    for (const QString &look : looks)
+        QTest::newRow(qUtf8Printable(look)) << look;
+}
+
+// A calendar that is disabled for a while, and one whose Sundays are the program's.
+void tst_WidgetLook::weekends()
+{
+    QFETCH(QString, look);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const auto colorOf = [](const QCalendarWidget &calendar, Qt::DayOfWeek day) {
+        return calendar.weekdayTextFormat(day).foreground().color();
+    };
+    QWidget window;
+    QCalendarWidget calendar(&window);
+    QCalendarWidget own(&window);
+    QTextCharFormat green;
+    green.setForeground(QColor(0, 128, 0));
+    own.setWeekdayTextFormat(Qt::Sunday, green);
+    Zoo::settle(&window);
+    const QColor enabled = colorOf(calendar, Qt::Sunday);
+    QVERIFY(enabled != QColor(Qt::red));
+
+    window.setEnabled(false);
+    const auto *days = calendar.findChild<QAbstractItemView *>();
+    const QColor day = days->palette().color(QPalette::Disabled, QPalette::Text);
+    QVERIFY(day != enabled);
+    QCOMPARE(colorOf(calendar, Qt::Sunday), day);
+    QCOMPARE(colorOf(calendar, Qt::Saturday), day);
+    QCOMPARE(colorOf(own, Qt::Sunday), QColor(0, 128, 0));
+
+    // A switch in between leads to the other look's colours.
+    QVERIFY(theme.setName(look == "light" ? "dark" : "light"));
+    QCOMPARE(colorOf(calendar, Qt::Sunday),
+             days->palette().color(QPalette::Disabled, QPalette::Text));
+    QVERIFY(theme.setName(look));
+    window.setEnabled(true);
+    QCOMPARE(colorOf(calendar, Qt::Sunday), enabled);
+    QCOMPARE(colorOf(calendar, Qt::Saturday), enabled);
 }
 
 void tst_WidgetLook::sizeHint_data()
