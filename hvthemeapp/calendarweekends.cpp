@@ -51,9 +51,8 @@ bool CalendarWeekends::eventFilter(QObject *object, QEvent *event)
 void CalendarWeekends::paint(QCalendarWidget *calendar, const QAbstractItemView &days) const
 {
     const auto former = calendar->property(colorProperty).value<QColor>();
-    const QColor color = days.isEnabled()
-        ? m_color
-        : days.palette().color(QPalette::Disabled, QPalette::Text);
+    const QColor color =
+        days.isEnabled() ? m_color : days.palette().color(QPalette::Disabled, QPalette::Text);
     for (const auto day : {Qt::Saturday, Qt::Sunday}) {
         QTextCharFormat format = calendar->weekdayTextFormat(day);
         const QColor own = format.foreground().color();

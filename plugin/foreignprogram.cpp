@@ -3,17 +3,41 @@
 
 #include <plugin/foreignprogram.h>
 
+#include <colormath/contrast.h>
+#include <hvtheme/theme.h>
+#include <hvthemeapp/desktoptheme.h>
+
 #include <QApplication>
 #include <QEvent>
+
+#include <optional>
 
 namespace
 {
 
 const QPalette::ColorGroup groups[] = {QPalette::Active, QPalette::Inactive, QPalette::Disabled};
 
+// Whether what stands on the palette is dark; nothing if windows and pages differ in that, or text
+// hardly stands out from them.
+std::optional<bool> isDarkPalette(const QPalette &palette)
+{
+    const auto isDark = [&](QPalette::ColorRole ground, QPalette::ColorRole text) {
+        return palette.color(ground).lightness() < palette.color(text).lightness();
+    };
+    const auto isLegible = [&](QPalette::ColorRole ground, QPalette::ColorRole text) {
+        return ColorMath::contrastRatio(palette.color(ground), palette.color(text)) >= 3;
+    };
+    const bool isWindowDark = isDark(QPalette::Window, QPalette::WindowText);
+    const bool isClear = isWindowDark == isDark(QPalette::Base, QPalette::Text)
+        && isLegible(QPalette::Window, QPalette::WindowText)
+        && isLegible(QPalette::Base, QPalette::Text);
+    return isClear ? std::optional<bool>(isWindowDark) : std::nullopt;
+}
+
 } // namespace
 
 ForeignProgram::ForeignProgram(const Options &options)
+    : m_options(options)
 {
     // An application style sheet wants a style to stand on, and makes none itself.
     QApplication::style();
@@ -27,10 +51,7 @@ ForeignProgram::ForeignProgram(const Options &options)
     const QString builtIn = QStringLiteral(":/hvthemeapp/themes");
     if (!setFolder(options.folder.isEmpty() ? builtIn : options.folder))
         return; // it has said why
-    if (options.theme.isEmpty())
-        followDesktop();
-    else
-        setName(options.theme);
+    takeWantedTheme();
     qApp->installEventFilter(this);
 }
 
@@ -82,7 +103,39 @@ void ForeignProgram::look()
     }
     m_ownStyleSheet = ownStyleSheet;
     m_ownBrushes = ownBrushes;
-    restyleAgain();
+    if (!takeThemeLike(palette))
+        restyleAgain();
+}
+
+bool ForeignProgram::takeWantedTheme()
+{
+    m_isThemeLikeProgram = false;
+    return m_options.theme.isEmpty() ? followDesktop() : setName(m_options.theme);
+}
+
+/*
+ * The look of a program with a palette of its own would be neither its nor the theme's, with white
+ * pages between black bars. Returns false if the theme in force suits the program.
+ */
+bool ForeignProgram::takeThemeLike(const QPalette &palette)
+{
+    const std::optional<bool> isDark = isDarkPalette(palette);
+    const auto suits = [&] { return !isDark || isDarkPalette(m_themePalette) == isDark; };
+    if (suits())
+        return false;
+    if (m_isThemeLikeProgram && takeWantedTheme() && suits())
+        return true;
+    using HV::DesktopSettings;
+    const bool isContrast = theme()->values().value(QStringLiteral("HighContrast")).toBool();
+    const auto scheme =
+        *isDark ? DesktopSettings::ColorScheme::Dark : DesktopSettings::ColorScheme::Light;
+    const auto contrast =
+        isContrast ? DesktopSettings::Contrast::High : DesktopSettings::Contrast::Normal;
+    const QString fitting = HV::themeForDesktop(folder(), names(), scheme, contrast);
+    if (fitting == name() || !setName(fitting))
+        return false;
+    m_isThemeLikeProgram = true;
+    return suits() || takeWantedTheme();
 }
 
 ForeignProgram::Brushes ForeignProgram::ownBrushesOf(const QPalette &palette) const

@@ -16,7 +16,8 @@
  * \brief The look of a program that knows nothing of it.
  *
  * Lays the theme below what the program sets itself: its application style sheet comes behind the
- * theme's, and the roles that it sets in the application's palette keep its colours. Qt tells nobody
+ * theme's, and the roles that it sets in the application's palette keep its colours. A program that
+ * is light by a palette of its own gets a light theme, and one that is dark a dark one. Qt tells nobody
  * that an application style sheet was replaced. So what is told is taken for a sign to look: a
  * widget that is polished or changes its style.
  */
@@ -42,11 +43,15 @@ protected:
 private:
     using Brushes = QHash<QPair<QPalette::ColorGroup, QPalette::ColorRole>, QBrush>;
 
+    bool takeWantedTheme();
+    bool takeThemeLike(const QPalette &palette);
     void look();
     void lookSoon();
     Brushes ownBrushesOf(const QPalette &palette) const;
     QString withoutTheme(const QString &styleSheet) const;
 
+    Options m_options;
+    bool m_isThemeLikeProgram = false; // instead of the one that is asked for
     QPalette m_themePalette; // as the theme has it
     QStringList m_themeStyleSheets; // of all themes so far, the one in force last
     QPalette m_palette; // what the application has since the last look

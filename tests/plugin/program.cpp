@@ -108,6 +108,29 @@ void setHighlight()
     QApplication::setPalette(palette);
 }
 
+void setWholePalette(const QColor &ground, const QColor &text)
+{
+    QPalette palette(ground);
+    palette.setColor(QPalette::Base, ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, text);
+    QApplication::setPalette(palette);
+}
+
+void setLightPalette()
+{
+    setWholePalette("#f8f8f0", "#202020");
+}
+
+// What an item of the user's choice does: the light palette first, then that which was there.
+QJsonObject darkAgain()
+{
+    return withLabel(setLightPalette, [] {
+        QCoreApplication::processEvents();
+        setWholePalette("#181818", "#f0f0f0");
+    });
+}
+
 QJsonObject replacedSheet()
 {
     return withLabel(setSheet, [] {
@@ -226,6 +249,9 @@ int report(const QString &name)
         {"sheet-insistent", insistent},
         {"palette-before", [] { return withLabel(setHighlight, nothing); }},
         {"palette-after", [] { return withLabel(nothing, setHighlight); }},
+        {"palette-light", [] { return withLabel(setLightPalette, nothing); }},
+        {"palette-light-after", [] { return withLabel(nothing, setLightPalette); }},
+        {"palette-dark-again", darkAgain},
         {"palette-of-widget", widgetPalette},
         {"style", [] { return withLabel(nothing, [] { QApplication::setStyle("windows"); }); }},
         {"items", items},

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void programThatInsists();
     void palette_data();
     void palette();
+    void wholePalette_data();
+    void wholePalette();
     void style_data();
     void style();
     void nothingToTheme_data();
@@ -190,6 +192,36 @@ void tst_Plugin::palette()
     QCOMPARE(facts.object["window"], m_plain["window"]);
     QCOMPARE(facts.object["text"], m_plain["text"]);
     QCOMPARE(facts.object["sheet"], m_plain["sheet"]);
+}
+
+void tst_Plugin::wholePalette_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("window");
+    QTest::addColumn<QString>("inForce"); // the theme whose style sheet the program has
+
+    // clang-format off
+    QTest::newRow("light-in-dark") << "dark" << "palette-light" << "#f8f8f0" << "light";
+    QTest::newRow("after-windows") << "dark" << "palette-light-after" << "#f8f8f0" << "light";
+    QTest::newRow("dark-again") << "dark" << "palette-dark-again" << "#181818" << "dark";
+    QTest::newRow("dark-in-light") << "light" << "palette-dark-again" << "#181818" << "dark";
+    QTest::newRow("light-in-light") << "light" << "palette-light" << "#f8f8f0" << "light";
+    QTest::newRow("high-contrast") << "contrast" << "palette-light" << "#f8f8f0" << "contrast";
+    // clang-format on
+}
+
+// A program that is light by itself is not given black bars.
+void tst_Plugin::wholePalette()
+{
+    QFETCH(QString, theme);
+    QFETCH(QString, name);
+    QFETCH(QString, window);
+    QFETCH(QString, inForce);
+    const Facts facts = ::themed(name, {"--theme", theme});
+    QCOMPARE(facts.errors, QByteArray());
+    QCOMPARE(facts.object["window"].toString(), window);
+    QCOMPARE(facts.object["sheet"], ::themed("plain", {"--theme", inForce}).object["sheet"]);
 }
 
 void tst_Plugin::style_data()
