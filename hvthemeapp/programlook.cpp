@@ -91,6 +91,17 @@ void renewKeptColors(const QPalette &before, const QPalette &after)
     }
 }
 
+// Of what is marked to be painted Qt paints an opaque widget by itself, unless something on it was marked
+// before, and after that what is on it: a window that is marked first is painted twice.
+void markContents()
+{
+    const QWidgetList all = QApplication::allWidgets();
+    for (QWidget *widget : all) {
+        if (!widget->isWindow())
+            widget->update();
+    }
+}
+
 QColor weekendColor(const QPalette &palette, const QVariantMap &values)
 {
     const auto color = values.value(QStringLiteral("ErrorHintForegroundColor")).value<QColor>();
@@ -132,6 +143,7 @@ void setProgramLook(const QPalette &palette, const QVariantMap &values, const QS
     Placeholders::install(qApp);
     CalendarWeekends::install(qApp, weekendColor(palette, values));
     const QPalette before = QApplication::palette();
+    markContents();
     restyle(*qApp, styleSheet, [&] {
         QApplication::setPalette(palette); // forgets the palettes of classes, so it comes first
         QToolTip::setPalette(palette);

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "messages.h"
+#include "quietplatform.h"
 #include "temporaryfolder.h"
 
 #include <hvtheme/workabletheming.h>
 #include <hvthemeapp/applicationtheme.h>
 
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
@@ -17,6 +19,7 @@
 #include <QSignalSpy>
 #include <QTextBrowser>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <QtTest>
 
 using HV::ApplicationTheme;
@@ -109,6 +112,7 @@ private Q_SLOTS:
     void missingKeyOfOwnVocabulary();
     void ownTemplates();
     void everythingInForceWhenChanged();
+    void paintedOnce();
     void ownStyleSheetStays();
     void whatPalettesDoNotReach();
     void titleBarsFollow();
@@ -290,6 +294,45 @@ void tst_ApplicationTheme::everythingInForceWhenChanged()
     });
     QVERIFY(theme.setName("dark"));
     QCOMPARE(calls, 1);
+}
+
+// An opaque window is easily painted by itself, and once more with what is on it.
+void tst_ApplicationTheme::paintedOnce()
+{
+    class Counter : public QObject
+    {
+    public:
+        QHash<const QObject *, int> paints;
+        bool eventFilter(QObject *object, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint)
+                ++paints[object];
+            return false;
+        }
+    };
+    const QuietPlatform quiet;
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("light"));
+    QWidget window;
+    auto *column = new QVBoxLayout(&window);
+    auto *box = new QGroupBox("Box");
+    auto *inBox = new QVBoxLayout(box);
+    inBox->addWidget(new QLabel("Label"));
+    inBox->addWidget(new QPushButton("Button"));
+    column->addWidget(box);
+    column->addWidget(new QLineEdit("Edit"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+    Counter counter;
+    const auto all = window.findChildren<QWidget *>() << &window;
+    for (QWidget *widget : all)
+        widget->installEventFilter(&counter);
+    QVERIFY(theme.setName("dark"));
+    QTRY_COMPARE(counter.paints.size(), all.size());
+    QCoreApplication::processEvents();
+    for (const QWidget *widget : all)
+        QVERIFY2(counter.paints.value(widget) == 1, widget->metaObject()->className());
 }
 
 void tst_ApplicationTheme::ownStyleSheetStays()
