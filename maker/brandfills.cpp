@@ -60,7 +60,7 @@ bool BrandFills::setWherePossible(const QString &key, const QString &consequence
     const QString former = m_colors.text(key);
     if (former.isEmpty())
         return false;
-    if (!m_pairs.canHave(key, m_brandText)) {
+    if (!m_pairs.isNoWorse(key, m_brandText)) {
         m_note(consequence % ColorMath::contrastText(m_pairs.worstRatio(key, m_brandText))
                % QLatin1String("; ") % key % QLatin1String(" is ") % former);
         return false;

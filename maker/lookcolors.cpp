@@ -44,7 +44,10 @@ public:
 
 private:
     QStringList alternatives(const QString &key) const;
+    void followBrand();
     void mend(const ColorPair &pair);
+    void approach(const ColorPair &edge);
+    QString whyNot(const ColorPair &pair) const;
     void separate();
     void noteWhatFallsShort();
     void note(const QString &sentence)
@@ -68,6 +71,11 @@ bool isSurface(const QString &key)
         || key == QLatin1String("MenuBackgroundColor");
 }
 
+bool isBrandTone(const QString &text)
+{
+    return text.startsWith(QLatin1String("Brand"));
+}
+
 bool isPlainText(const QString &key)
 {
     return key == QLatin1String("DefaultForegroundColor") || key == QLatin1String("Color_W100")
@@ -80,6 +88,18 @@ void Designer::setLightSurfaces()
     for (int n = 0; n < surfaces.size(); ++n)
         m_colors.setText(key("BackgroundColor_") % QString::number(n), hexadecimal(surfaces.at(n)));
     m_colors.setText(key("EditDisabledBackgroundColor"), m_colors.text(key("BackgroundColor_2")));
+}
+
+// A colour between two tones was mended for another brand: begin with the nearer one.
+void Designer::followBrand()
+{
+    const QStringList keys = m_colors.keys();
+    for (const QString &key : keys) {
+        const QColor color = colorFromText(m_colors.text(key));
+        if (key.startsWith(QLatin1String("Color_Brand_")) && color.alpha() == 255
+            && color.isValid())
+            m_colors.setText(key, QLatin1String("Brand_") % QString::number(nearestStep(color)));
+    }
 }
 
 // The texts that a key may change to, the nearest first: tones of the same run, which have names,
@@ -132,6 +152,23 @@ void Designer::mend(const ColorPair &pair)
             return;
         }
     }
+    if (pair.need == Need::EdgeOfGround)
+        approach(pair);
+}
+
+// As far as the texts on it let an edge go. In tones: no lightness between them is enough either.
+void Designer::approach(const ColorPair &edge)
+{
+    if (!isBrandTone(m_colors.text(edge.foreground))) // a theme may frame in any colour
+        return;
+    for (int step = 1; step <= toneCount; ++step) {
+        const QString tone = QLatin1String("Brand_") % QString::number(step);
+        LookColors changed = m_colors;
+        changed.setText(edge.foreground, tone);
+        if (changed.color(edge.foreground).isValid() && changed.ratio(edge) > m_colors.ratio(edge)
+            && m_pairs.isNoWorse(edge.foreground, tone))
+            m_colors.setText(edge.foreground, tone);
+    }
 }
 
 void Designer::separate()
@@ -146,6 +183,7 @@ void Designer::separate()
 
 void Designer::design()
 {
+    followBrand();
     m_brandFills.setOwnTexts();
     for (const ColorPair &pair : m_pairs.pairs())
         mend(pair);
@@ -161,8 +199,24 @@ void Designer::noteWhatFallsShort()
             note(pair.foreground % QLatin1String(" on ")
                  % pair.layers.join(QLatin1String(" under ")) % QLatin1String(" reaches ")
                  % ColorMath::contrastText(m_colors.ratio(pair)) % QLatin1String(" and not ")
-                 % ColorMath::contrastText(m_pairs.required(pair)));
+                 % ColorMath::contrastText(m_pairs.required(pair)) % whyNot(pair));
     }
+}
+
+// Where the room is just what is called for, a single lightness would do, which no colour of eight bits
+// has.
+QString Designer::whyNot(const ColorPair &pair) const
+{
+    if (pair.need != Need::EdgeOfGround)
+        return {};
+    const QString where = QLatin1String(" (the edge of ") % pair.selector % QLatin1Char(')');
+    const LookPairs::Room room = m_pairs.roomFor(pair);
+    constexpr double rounding = 1e-9;
+    if (room.text.isEmpty() || room.ratio > m_pairs.required(pair) + rounding)
+        return where;
+    return where % QLatin1String(": what carries ") % room.text % QLatin1String(" at ")
+        % ColorMath::contrastText(m_pairs.required(Need::Text)) % QLatin1String(" stays below ")
+        % ColorMath::contrastText(room.ratio + rounding) % QLatin1String(" there");
 }
 
 } // namespace
@@ -215,12 +269,11 @@ double requiredRatio(Need need, Look look, double textContrast)
     switch (need) {
     case Need::Text:
         return look == Look::Contrast ? std::max(7.0, textContrast) : textContrast;
-    case Need::SelectedFrame:
-        return look == Look::Contrast ? 1.5 : 3.0;
     case Need::Line:
         return look == Look::Contrast ? 3.0 : 1.3;
     case Need::Disabled:
     case Need::Mark:
+    case Need::EdgeOfGround:
         break;
     }
     return 3.0;

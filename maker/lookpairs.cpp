@@ -3,7 +3,11 @@
 
 #include <maker/lookpairs.h>
 
+#include <colormath/contrast.h>
+
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace Maker
 {
@@ -14,6 +18,13 @@ namespace
 bool concerns(const ColorPair &pair, const QString &key)
 {
     return pair.foreground == key || pair.layers.contains(key);
+}
+
+constexpr double flare = 0.05; // what WCAG adds to a luminance
+
+double between(double one, double other)
+{
+    return std::max(one, other) / std::min(one, other);
 }
 
 } // namespace
@@ -51,6 +62,21 @@ double LookPairs::worstRatio(const QString &key, const QString &text) const
     return worst;
 }
 
+bool LookPairs::isWorse(const ColorPair &pair, const LookColors &changed) const
+{
+    const double ratio = changed.ratio(pair);
+    return ratio < required(pair) && ratio < m_colors.ratio(pair);
+}
+
+bool LookPairs::isNoWorse(const QString &key, const QString &text) const
+{
+    LookColors changed = m_colors;
+    changed.setText(key, text);
+    return std::none_of(m_pairs.cbegin(), m_pairs.cend(), [&](const ColorPair &pair) {
+        return concerns(pair, key) && isWorse(pair, changed);
+    });
+}
+
 bool LookPairs::isRemedy(const ColorPair &pair, const QString &key, const QString &text) const
 {
     LookColors changed = m_colors;
@@ -58,11 +84,46 @@ bool LookPairs::isRemedy(const ColorPair &pair, const QString &key, const QStrin
     if (changed.ratio(pair) < required(pair))
         return false;
     return std::none_of(m_pairs.cbegin(), m_pairs.cend(), [&](const ColorPair &other) {
-        if (!concerns(other, key))
-            return false;
-        const double ratio = changed.ratio(other);
-        return ratio < required(other) && ratio < m_colors.ratio(other);
+        const bool givesWay = other.need == Need::EdgeOfGround && pair.need != other.need;
+        return !givesWay && concerns(other, key) && isWorse(other, changed);
     });
+}
+
+// A ratio is that of two luminances, so each text bars the luminances around its own, and what is left
+// reaches furthest at an end: black, white, or where a text just reaches its ratio. A translucent text
+// counts as opaque, which leaves more room than there is.
+LookPairs::Room LookPairs::roomFor(const ColorPair &edge) const
+{
+    const auto luminance = [](const QColor &color) {
+        return ColorMath::relativeLuminance(color) + flare;
+    };
+    const double ground = luminance(m_colors.composite(edge.layers));
+    QVector<double> ends{flare, 1 + flare};
+    QVector<std::pair<double, double>> texts; // luminance and ratio
+    Room room{0, {}};
+    double least = std::numeric_limits<double>::max();
+    for (const ColorPair &pair : m_pairs) {
+        if (pair.layers.constLast() != edge.foreground)
+            continue;
+        const double text = luminance(m_colors.color(pair.foreground));
+        texts.append({text, required(pair)});
+        ends << text * required(pair) << text / required(pair);
+        const double left = between(text, ground) / required(pair);
+        if (left < least) {
+            least = left;
+            room.text = pair.foreground;
+        }
+    }
+    for (const double end : qAsConst(ends)) {
+        constexpr double rounding = 1e-9;
+        const auto bars = [&](const std::pair<double, double> &text) {
+            return between(text.first, end) < text.second - rounding;
+        };
+        if (end >= flare - rounding && end <= 1 + flare + rounding
+            && std::none_of(texts.cbegin(), texts.cend(), bars))
+            room.ratio = std::max(room.ratio, between(end, ground));
+    }
+    return room;
 }
 
 } // namespace Maker

@@ -27,14 +27,28 @@ public:
     /*! \brief Tells whether all pairs of \a key hold with another text. */
     bool canHave(const QString &key, const QString &text) const;
 
+    /*! \brief Tells whether no pair of \a key that has to hold would fall short by more than now. */
+    bool isNoWorse(const QString &key, const QString &text) const;
+
     /*! \brief Returns the least ratio of those pairs of \a key that would not hold, else 21. */
     double worstRatio(const QString &key, const QString &text) const;
 
     /*! \brief Tells whether the change makes \a pair hold, and none of the key's others worse that
-     *         has to hold. */
+     *         has to hold; the edge of a ground gives way to the text on it. */
     bool isRemedy(const ColorPair &pair, const QString &key, const QString &text) const;
 
+    /*! \brief What the texts on a colour leave to an edge of the same colour. */
+    struct Room {
+        double ratio; //!< the most that a colour of any lightness has; 0 if none carries the texts
+        QString text; //!< the key that takes most of it, or empty
+    };
+
+    /*! \brief Returns the room of an edge whose colour is the ground of text as well. */
+    Room roomFor(const ColorPair &edge) const;
+
 private:
+    bool isWorse(const ColorPair &pair, const LookColors &changed) const;
+
     const Look m_look;
     const double m_textContrast;
     const LookColors &m_colors;

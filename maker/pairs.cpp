@@ -13,6 +13,7 @@ struct Row {
     const char *foreground;
     const char *layers; // the lowest first, joined by "+"; "*" stands for each BackgroundColor_n
     Need need;
+    const char *selector = nullptr;
 };
 
 // The text of a disabled button is DefaultForegroundColor and that of a disabled field Color_W100,
@@ -71,7 +72,10 @@ const Row rows[] = {
     {"DisabledForegroundColor",     "EditBackgroundColor+AssistButtonBackgroundNormal",Need::Disabled},
     {"DisabledForegroundColor",     "Palette_Disabled_Highlight",             Need::Disabled},
     {"EditBorderColor",            "EditBackgroundColor",                    Need::Mark},
-    {"EditHighlightBorderColor",   "EditBackgroundColor",                    Need::SelectedFrame},
+    {"EditHighlightBorderColor",   "EditBackgroundColor",                    Need::EdgeOfGround,
+     "QLineEdit:focus"},
+    {"Color_Brand_8",              "BackgroundColor_2",                      Need::EdgeOfGround,
+     "QPushButton[style=editButton]:hover"},
     {"Color_Red_6",                "EditBackgroundColor",                    Need::Mark},
     {"Color_Green_6",              "EditBackgroundColor",                    Need::Mark},
     {"Color_Brand_6",              "*",                                      Need::Mark},
@@ -114,8 +118,8 @@ QVector<ColorPair> allPairs()
         for (int n = 0; n < (isOnAnySurface ? surfaceCount : 1); ++n) {
             QString names = layers;
             names.replace(QLatin1Char('*'), QLatin1String("BackgroundColor_") % QString::number(n));
-            pairs.append(
-                {QString::fromLatin1(row.foreground), names.split(QLatin1Char('+')), row.need});
+            pairs.append({QString::fromLatin1(row.foreground), names.split(QLatin1Char('+')),
+                          row.need, QString::fromLatin1(row.selector)});
         }
     }
     return pairs;

@@ -26,7 +26,7 @@ enum class Need {
     Disabled, //!< 3:1
     Mark, //!< an edge, a sign, the focus: 3:1
     Line, //!< what only divides or frames others, 1.3:1; 3:1 in the contrast look
-    SelectedFrame, //!< the frame of a field in use: 3:1, and 1.5:1 in the contrast look
+    EdgeOfGround, //!< an edge in a colour that is the ground of text as well: 3:1 where text leaves it
 };
 
 /*! \brief Two colour keys that the templates put together. */
@@ -34,6 +34,7 @@ struct ColorPair {
     QString foreground;
     QStringList layers; //!< what lies behind it, the lowest first; opaque together
     Need need;
+    QString selector; //!< of an EdgeOfGround: a rule that draws the edge
 };
 
 /*!

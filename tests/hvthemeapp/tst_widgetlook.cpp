@@ -899,7 +899,8 @@ void tst_WidgetLook::templateProperty_data()
 }
 
 // Buttons that carry a property of the built-in templates look as these say, to the pixel; the button
-// of the main action is the brand, with the text that stands on it.
+// of the main action is the brand, with the text that stands on it, and an edit button under the pointer
+// has an edge that stands out in every look.
 void tst_WidgetLook::templateProperty()
 {
     QFETCH(QString, look);
@@ -933,9 +934,16 @@ void tst_WidgetLook::templateProperty()
         QCOMPARE(mainColor(whole, place), theme.theme()->color(key));
         return;
     }
+    QRect same = whole.rect();
+    if (value == "editButton" && state == "hovered") {
+        const QColor edge = whole.pixelColor(place.left(), place.center().y());
+        QCOMPARE(edge, theme.theme()->color("Color_Brand_6"));
+        QVERIFY(ColorMath::contrastRatio(edge, theme.theme()->color("BackgroundColor_2")) >= 3.0);
+        same = place.adjusted(2, 2, -2, -2); // the corners are round
+    }
     qApp->setStyleSheet(
         HV::findStyleSheet(theme.theme(), QStringLiteral(":/stylesheet"), "global"));
-    QCOMPARE(whole, picture());
+    QCOMPARE(whole.copy(same), picture().copy(same));
 }
 
 Q_DECLARE_METATYPE(Make)

@@ -32,8 +32,7 @@ QString keyOf(const QString &value)
             return it.value();
     }
     static const QRegularExpression token(QStringLiteral("global\\.theme\\.color\\.(\\w+)"));
-    const QString key = token.match(value).captured(1);
-    return key.startsWith(QLatin1String("BackgroundColor_")) ? QStringLiteral("*") : key;
+    return token.match(value).captured(1);
 }
 
 // Colours that let nothing through, in every look.
@@ -78,12 +77,6 @@ bool isGroundAlone(const QString &key)
     return keys.contains(key);
 }
 
-// Under the pointer only, which tells of the button; in the built-in templates.
-bool isHoverAlone(const QString &key)
-{
-    return key == QLatin1String("Color_Brand_8");
-}
-
 class Derivation
 {
 public:
@@ -99,6 +92,21 @@ public:
             for (const StyleSelector &selector : rule.selectors)
                 visit(selector);
         }
+    }
+
+    /*! \brief Tells whether an object that \a selector describes, and no more, has an edge in a colour. */
+    bool hasEdge(const QString &selector, const QString &key) const
+    {
+        const StyleRules rules(selector + "{}");
+        if (rules.rules().isEmpty())
+            return false;
+        const StyleSelector parsed = rules.rules().constFirst().selectors.constFirst();
+        StyleElement element;
+        element.path.append(node(parsed.subject(), parsed.subject().type));
+        for (const StyleSelector::Pseudo &state : parsed.states())
+            element.states.insert(state.name.toLower());
+        element.states.insert("enabled");
+        return keyOf(valuesOf(element).value("border-left-color")) == key;
     }
 
     const QMap<QString, Pair> &texts() const { return m_texts; }
@@ -292,7 +300,8 @@ private:
                     const QStringList &behind, bool isDisabled, const QString &where)
     {
         const QString key = keyOf(value);
-        if (key.isEmpty() || key == QLatin1String("*"))
+        if (key.isEmpty() || key == QLatin1String("*")
+            || key.startsWith(QLatin1String("BackgroundColor_")))
             return;
         const Pair pair{key, layers, behind, isDisabled, where};
         if (pairs->contains(pair.text()))
@@ -307,23 +316,41 @@ private:
     QMap<QString, Pair> m_marks;
 };
 
-bool isCovered(const Pair &pair, bool isText)
+// What is seen of layers, the lowest first: all from the topmost opaque one on.
+QStringList seenLayers(const QStringList &layers)
+{
+    const auto top = std::find_if(layers.crbegin(), layers.crend(), isOpaque);
+    return top == layers.crend() ? layers : QStringList(layers.mid(int(layers.crend() - top) - 1));
+}
+
+bool hasRow(const Pair &pair, bool isText, const QStringList &layers)
 {
     const auto covers = [&](const Maker::ColorPair &row) {
         const bool isEnough = row.need == Maker::Need::Text
             || (row.need == Maker::Need::Disabled ? pair.isDisabled : !isText);
-        if (row.foreground != pair.foreground || !isEnough)
-            return false;
-        QStringList layers = row.layers;
-        if (layers.constFirst().startsWith("BackgroundColor_"))
-            layers[0] = "*";
-        const auto top = std::find_if(layers.crbegin(), layers.crend(), isOpaque);
-        if (top != layers.crend()) // what lies below it is not seen
-            layers = layers.mid(int(layers.crend() - top) - 1);
-        return layers == pair.layers || layers == pair.behind;
+        return isEnough && row.foreground == pair.foreground && seenLayers(row.layers) == layers;
     };
     const auto &rows = Maker::colorPairs();
     return std::any_of(rows.cbegin(), rows.cend(), covers);
+}
+
+// On any surface means on each.
+bool isCoveredOn(const Pair &pair, bool isText, const QStringList &layers)
+{
+    if (layers.isEmpty() || layers.constFirst() != "*")
+        return hasRow(pair, isText, layers);
+    for (int n = 0; n < 8; ++n) {
+        QStringList exact = layers;
+        exact[0] = "BackgroundColor_" + QString::number(n);
+        if (!hasRow(pair, isText, exact))
+            return false;
+    }
+    return true;
+}
+
+bool isCovered(const Pair &pair, bool isText)
+{
+    return isCoveredOn(pair, isText, pair.layers) || isCoveredOn(pair, isText, pair.behind);
 }
 
 QStringList missingPairs(const Derivation &derived)
@@ -334,8 +361,7 @@ QStringList missingPairs(const Derivation &derived)
             missing.append(pair.text() + ", " + pair.where);
     }
     for (const Pair &pair : derived.marks()) {
-        if (!isGroundAlone(pair.foreground) && !isHoverAlone(pair.foreground)
-            && !isCovered(pair, false))
+        if (!isGroundAlone(pair.foreground) && !isCovered(pair, false))
             missing.append(pair.text() + ", " + pair.where);
     }
     return missing;
@@ -357,6 +383,7 @@ private Q_SLOTS:
     void templates();
     void newRules_data();
     void newRules();
+    void edgesOfGrounds();
 };
 
 void tst_Pairs::templates_data()
@@ -405,6 +432,26 @@ void tst_Pairs::newRules()
     QFETCH(QStringList, missing);
     const TemporaryFolder folder;
     QCOMPARE(missingPairs(Derivation({folder.write("new.qss", rules)})), missing);
+}
+
+// The rules that notes name for an edge that cannot reach its ratio, and the text that is why.
+void tst_Pairs::edgesOfGrounds()
+{
+    const Derivation derived({builtIn});
+    QStringList found;
+    for (const Maker::ColorPair &pair : Maker::colorPairs()) {
+        if (pair.need != Maker::Need::EdgeOfGround)
+            continue;
+        found.append(pair.selector);
+        QVERIFY2(derived.hasEdge(pair.selector, pair.foreground), qPrintable(pair.selector));
+        const auto stands = [&](const Pair &text) {
+            return text.layers.constLast() == pair.foreground;
+        };
+        const QList<Pair> texts = derived.texts().values();
+        QVERIFY(std::any_of(texts.cbegin(), texts.cend(), stands));
+    }
+    QCOMPARE(found, (QStringList{"QLineEdit:focus", "QPushButton[style=editButton]:hover"}));
+    QVERIFY(!derived.hasEdge("QPushButton[style=editButton]", "Color_Brand_8"));
 }
 
 QTEST_MAIN(tst_Pairs)

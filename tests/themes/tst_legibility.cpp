@@ -158,9 +158,11 @@ const Pair pairs[] = {
     {"DisabledForegroundColor",    "EditDisabledBackgroundColor",            3.0, 3.0},
     {"DisabledForegroundColor",    "MenuBackgroundColor",                    3.0, 3.0},
     {"DisabledForegroundColor",    "MenuHighlightBackgroundColor",           3.0, 3.0},
-    // Frames and marks. In contrast the text of a selected row comes first, see contrast.theme.
+    // Frames and marks. In contrast 7:1 for text leaves less than 3:1 to an edge in the colour of its
+    // ground, so text comes first.
     {"EditBorderColor",            "EditBackgroundColor",                    3.0, 3.0},
-    {"EditHighlightBorderColor",   "EditBackgroundColor",                    3.0, 1.5},
+    {"EditHighlightBorderColor",   "EditBackgroundColor",                    3.0, 1.9},
+    {"Color_Brand_8",              "BackgroundColor_2",                      3.0, 2.9},
     {"Color_Red_6",                "EditBackgroundColor",                    3.0, 3.0},
     {"Color_Green_6",              "EditBackgroundColor",                    3.0, 3.0},
     {"Color_Brand_6",              "BackgroundColor_4",                      3.0, 3.0},
