@@ -51,6 +51,45 @@ bool isHexadecimalDigit(ushort code)
         || (code >= 'A' && code <= 'F');
 }
 
+// Returns what the backslash in front of position says and moves position behind it: a character, or
+// nothing for the end of a line and for letters that mean nothing.
+QString unescaped(const QByteArray &text, int *position)
+{
+    const auto number = [&](int base) {
+        int code = 0;
+        for (int digit = 0; *position < text.size(); ++*position) {
+            bool isDigit = false;
+            digit = text.mid(*position, 1).toInt(&isDigit, base);
+            if (!isDigit)
+                break;
+            code = (code * base + digit) & 0xffff;
+        }
+        return QString(QChar(ushort(code)));
+    };
+    if (*position >= text.size())
+        return {};
+    const char letter = text.at(*position);
+    static const QByteArray letters("abfnrtv\"?'\\");
+    static const QByteArray characters("\a\b\f\n\r\t\v\"?'\\");
+    const int plain = int(letters.indexOf(letter));
+    if (letter >= '0' && letter <= '7')
+        return number(8);
+    if (letter == 'x' && *position + 1 < text.size()
+        && isHexadecimalDigit(uchar(text.at(*position + 1)))) {
+        ++*position;
+        return number(16);
+    }
+    *position = behindEscape(text, *position);
+    return plain < 0 ? QString() : QString(QLatin1Char(characters.at(plain)));
+}
+
+QString chopped(QString text)
+{
+    while (text.endsWith(QLatin1Char(' ')) || text.endsWith(QLatin1Char('\t')))
+        text.chop(1);
+    return text;
+}
+
 // Returns how many code units from position on stand for one character that can be seen, or 0: half
 // characters and marks of byte order do not survive a conversion.
 int seenLength(const QString &text, int position)
@@ -154,6 +193,62 @@ QByteArray IniSyntax::escapedKey(const QString &key)
             escaped += "%U" + QByteArray::number(code, 16).toUpper().rightJustified(4, '0');
     }
     return escaped;
+}
+
+QStringList IniSyntax::unescapedValue(const QByteArray &escaped, Encoding encoding)
+{
+    QStringList parts;
+    QString part;
+    bool inQuotes = false;
+    bool hasQuotes = false;
+    bool skipsSpace = true;
+    const auto finish = [&] {
+        part = hasQuotes ? part : chopped(part);
+        parts.append(part.startsWith(QLatin1String("@@")) ? part.mid(1) : part);
+        part.clear();
+        hasQuotes = false;
+        skipsSpace = true;
+    };
+    for (int i = 0; i < escaped.size();) {
+        const char character = escaped.at(i);
+        const bool isBlank = character == ' ' || character == '\t';
+        if (isBlank && skipsSpace) {
+            ++i;
+            continue;
+        }
+        skipsSpace = false;
+        if (character == '\\') {
+            part += unescaped(escaped, &++i);
+        } else if (character == '"') {
+            inQuotes = !inQuotes;
+            hasQuotes = true;
+            skipsSpace = !inQuotes;
+            ++i;
+        } else if (character == ',' && !inQuotes) {
+            finish();
+            ++i;
+        } else {
+            int end = i + 1;
+            while (end < escaped.size() && escaped.at(end) != '\\' && escaped.at(end) != '"'
+                   && escaped.at(end) != ',')
+                ++end;
+            const QByteArray run = escaped.mid(i, end - i);
+            part += encoding == Encoding::Utf8 ? QString::fromUtf8(run) : QString::fromLatin1(run);
+            i = end;
+        }
+    }
+    finish();
+    return parts;
+}
+
+bool IniSyntax::isQuoted(const QByteArray &escaped)
+{
+    if (escaped.size() < 2 || !escaped.startsWith('"'))
+        return false;
+    int i = 1;
+    while (i < escaped.size() && escaped.at(i) != '"')
+        i += escaped.at(i) == '\\' ? 2 : 1;
+    return i == escaped.size() - 1;
 }
 
 QByteArray IniSyntax::escapedValue(const QString &value, Encoding encoding, Quotes quotes)

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 /*!
  * \brief The lexical rules of INI files as QSettings reads them: where a line ends, what a key is.
@@ -47,6 +48,18 @@ enum class Quotes {
     AsNeeded,
     Always,
 };
+
+/*!
+ * \brief Returns what \a escaped, all that stands between "=" and the end of the logical line, says:
+ *        the parts of a list, and one for a plain value.
+ *
+ * Bytes beyond ASCII are Latin-1, or UTF-8 as \a encoding has it. A type that is written into the
+ * value, `@Size(3 4)`, stays text.
+ */
+QStringList unescapedValue(const QByteArray &escaped, Encoding encoding);
+
+/*! \brief Tells whether one pair of quotation marks stands around all of the value \a escaped. */
+bool isQuoted(const QByteArray &escaped);
 
 /*! \brief Returns \a value, a text, so that QSettings reads back exactly that, and no list. */
 QByteArray escapedValue(const QString &value, Encoding encoding, Quotes quotes);

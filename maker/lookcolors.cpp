@@ -259,7 +259,7 @@ void setPaletteEntries(ThemeText *text, const QVector<PaletteEntry> &entries)
     const QString section = QStringLiteral("Palettes");
     for (const PaletteEntry &entry : entries) {
         const QColor color = colorFromText(text->value(section, entry.first));
-        if (!color.isValid() || color.rgba() != entry.second.rgba())
+        if (entry.second.isValid() && (!color.isValid() || color.rgba() != entry.second.rgba()))
             text->setValue(section, entry.first, hexadecimal(entry.second));
     }
 }

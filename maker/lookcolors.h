@@ -46,7 +46,10 @@ class ThemeText;
 /*! \brief Returns the colour of `#RRGGBB`, `#AARRGGBB` and the same without `#`; else an invalid one. */
 QColor colorFromText(const QString &text);
 
-/*! \brief Sets the palette of a theme file; an entry that has its colour already keeps its spelling. */
+/*!
+ * \brief Sets the palette of a theme file; an entry that has its colour already keeps its spelling,
+ *        and one whose colour is invalid is left as it is.
+ */
 void setPaletteEntries(ThemeText *text, const QVector<PaletteEntry> &entries);
 
 /*! \brief Returns the ratio that \a need means in \a look. */

@@ -44,6 +44,25 @@ void addAccent(QMap<QString, QString> *colors)
     }
 }
 
+// The entries of the brand. What is called Brand is the brand, even if one of its tones is just that.
+QVector<PaletteEntry> brandEntries(const ThemeText &holder, const QColor &brand)
+{
+    const QString whole = QStringLiteral("Brand");
+    QVector<PaletteEntry> entries;
+    bool hasWhole = false;
+    Parameters parameters;
+    parameters.brand = brand;
+    const QVector<PaletteEntry> made = palette(parameters);
+    for (const PaletteEntry &entry : made) {
+        if (entry.first.startsWith(whole))
+            entries.append(entry);
+        hasWhole = hasWhole || entry.first == whole;
+    }
+    if (!hasWhole && !holder.value(sectionName(Kind::Palette), whole).isNull())
+        entries.append({whole, brand.toRgb()});
+    return entries;
+}
+
 // The entries that the text has, and those that a colour has come to name.
 QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const ThemeText &text,
                                   const LookColors &colors)
@@ -58,24 +77,34 @@ QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const Th
     return used;
 }
 
-// The palette of a theme with the tones of another brand. An entry may name one before it.
-QVector<PaletteEntry> paletteWithBrand(const ThemeText &text, const QColor &brand)
+// Resolves entries as the library does: in the order of their names, and an entry may name one that
+// is known by then. What is neither that nor a colour is black.
+void resolve(const QMap<QString, QString> &texts, QMap<QString, QColor> *known)
 {
-    const LookColors known({}, text.values(sectionName(Kind::Palette)));
-    QVector<PaletteEntry> entries;
-    Parameters parameters;
-    parameters.brand = brand;
-    const QVector<PaletteEntry> made = palette(parameters);
-    std::copy_if(
-        made.cbegin(), made.cend(), std::back_inserter(entries),
-        [](const PaletteEntry &entry) { return entry.first.startsWith(QLatin1String("Brand")); });
-    for (const QString &key : text.keys(sectionName(Kind::Palette))) {
-        if (key.startsWith(QLatin1String("Brand")))
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        if (known->contains(it.key()))
             continue;
-        const QString value = known.text(key);
-        const QString named = known.text(value);
-        entries.append({key, colorFromText(named.isNull() ? value : named)});
+        const QColor color = known->value(it.value(), colorFromText(it.value()));
+        known->insert(it.key(), color.isValid() ? color : QColor(Qt::black));
     }
+}
+
+// The palette of both files, of which holder has the tones of the brand.
+QVector<PaletteEntry> wholePalette(const ThemeText &base, const ThemeText &own,
+                                   const ThemeText &holder, const QVector<PaletteEntry> &brand)
+{
+    QMap<QString, QColor> known;
+    for (const ThemeText *text : {&base, &own}) {
+        QMap<QString, QString> texts = text->values(sectionName(Kind::Palette));
+        if (text == &holder) {
+            for (const PaletteEntry &entry : brand)
+                texts.insert(entry.first, hexadecimal(entry.second));
+        }
+        resolve(texts, &known);
+    }
+    QVector<PaletteEntry> entries;
+    for (auto it = known.cbegin(); it != known.cend(); ++it)
+        entries.append({it.key(), it.value()});
     return entries;
 }
 
@@ -100,13 +129,14 @@ ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *
     addAccent(&colors);
 
     ThemeText &paletteText = hasBrand(own) && !hasBrand(base) ? own : base;
-    const QVector<PaletteEntry> entries = paletteWithBrand(paletteText, brand);
+    const QVector<PaletteEntry> tones = brandEntries(paletteText, brand);
+    const QVector<PaletteEntry> entries = wholePalette(base, own, paletteText, tones);
     const LookColors before(entries, colors);
     Parameters parameters;
     parameters.brand = brand;
     const LookColors designed = recoloredLook(lookOf(before, own.values(QStringLiteral("Flags"))),
                                               parameters, entries, colors, notes);
-    setPaletteEntries(&paletteText, usedEntries(entries, paletteText, designed));
+    setPaletteEntries(&paletteText, usedEntries(tones, paletteText, designed));
     for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
         const bool isOfBase = baseColors.contains(it.key()) || theme.own.isEmpty();
         ThemeText &holder = isOfBase ? base : own;

@@ -3,7 +3,11 @@
 
 #include <maker/themetext.h>
 
-#include <QVector>
+#include <format/inisyntax.h>
+
+#include <QSet>
+
+#include <iterator>
 
 namespace Maker
 {
@@ -11,36 +15,106 @@ namespace Maker
 namespace
 {
 
+const char byteOrderMark[] = "\xEF\xBB\xBF";
+
+bool isLineEnd(char character)
+{
+    return character == '\n' || character == '\r';
+}
+
+bool isBlank(char character)
+{
+    return character == ' ' || character == '\t';
+}
+
 QByteArray lineEndOf(const QByteArray &line)
 {
     if (line.endsWith("\r\n"))
         return QByteArrayLiteral("\r\n");
-    return line.endsWith('\n') ? QByteArrayLiteral("\n") : QByteArray();
+    return !line.isEmpty() && isLineEnd(line.back()) ? line.right(1) : QByteArray();
 }
 
-QByteArray withValue(const QByteArray &line, const QString &value)
+// Returns where the next line begins after position.
+int behindLine(const QByteArray &text, int position)
 {
-    return line.left(line.indexOf('=') + 1) + value.toLatin1() + lineEndOf(line);
+    while (position < text.size() && !isLineEnd(text.at(position)))
+        ++position;
+    if (position < text.size())
+        position += text.mid(position, 2) == "\r\n" ? 2 : 1;
+    return position;
+}
+
+QString rootSection()
+{
+    return QStringLiteral("General");
+}
+
+QString sectionOf(const QByteArray &header)
+{
+    const auto bracket = header.indexOf(']');
+    const QByteArray name = header.mid(1, bracket < 0 ? -1 : bracket - 1).trimmed();
+    return name.toLower() == "general" ? rootSection() : IniSyntax::unescapedKey(name);
+}
+
+IniSyntax::Encoding encoding(bool isUtf8)
+{
+    return isUtf8 ? IniSyntax::Encoding::Utf8 : IniSyntax::Encoding::Escaped;
 }
 
 } // namespace
 
 ThemeText::ThemeText(const QByteArray &text)
+    : m_isUtf8(text.startsWith(byteOrderMark))
 {
-    QString section;
-    decltype(text.size()) start = 0;
-    while (start < text.size()) {
-        const auto end = text.indexOf('\n', start);
-        const QByteArray whole = text.mid(start, end < 0 ? -1 : end + 1 - start);
-        start += whole.size();
-        const QByteArray line = whole.trimmed();
-        QString key;
-        if (line.startsWith('[') && line.endsWith(']'))
-            section = QString::fromLatin1(line.mid(1, line.size() - 2));
-        else if (!line.startsWith(';') && line.contains('='))
-            key = QString::fromLatin1(line.left(line.indexOf('=')).trimmed());
-        m_lines.append({whole, section, key});
+    QString section = rootSection();
+    int position = m_isUtf8 ? 3 : 0;
+    int start = 0; // of what is in no line yet
+    IniSyntax::Line found;
+    while (IniSyntax::nextLine(text, &position, &found)) {
+        int first = found.start; // blanks in front of a key belong to its line
+        while (first > start && isBlank(text.at(first - 1)))
+            --first;
+        addPlainLines(text.mid(start, first - start), section);
+        start = position = behindLine(text, found.end);
+        Line line;
+        line.text = text.mid(first, start - first);
+        line.isHeader = text.at(found.start) == '[';
+        if (line.isHeader) {
+            section = sectionOf(text.mid(found.start, found.end - found.start));
+        } else if (found.equals >= 0) {
+            const QByteArray key = text.mid(found.start, found.equals - found.start).trimmed();
+            line.key = IniSyntax::unescapedKey(key);
+            line.valueStart = found.equals + 1 - first;
+            line.valueEnd = found.end - first;
+            while (line.valueStart < line.valueEnd && isBlank(line.text.at(line.valueStart)))
+                ++line.valueStart;
+            while (line.valueEnd > line.valueStart && isBlank(line.text.at(line.valueEnd - 1)))
+                --line.valueEnd;
+        }
+        line.section = section;
+        note(m_lines.insert(m_lines.end(), line));
     }
+    addPlainLines(text.mid(start), section);
+}
+
+void ThemeText::addPlainLines(const QByteArray &text, const QString &section)
+{
+    for (int start = 0; start < text.size();) {
+        const int end = behindLine(text, start);
+        Line line;
+        line.text = text.mid(start, end - start);
+        line.section = section;
+        m_lines.push_back(line);
+        start = end;
+    }
+}
+
+void ThemeText::note(Lines::iterator line)
+{
+    if (!line->key.isEmpty())
+        m_entries.insert({line->section, line->key}, line);
+    if (line->isHeader || !line->key.isEmpty())
+        m_ends.insert(line->section, line);
 }
 
 QByteArray ThemeText::text() const
@@ -54,9 +128,12 @@ QByteArray ThemeText::text() const
 QStringList ThemeText::keys(const QString &section) const
 {
     QStringList keys;
+    QSet<QString> known;
     for (const Line &line : m_lines) {
-        if (line.section == section && !line.key.isEmpty() && !keys.contains(line.key))
-            keys.append(line.key);
+        if (line.section != section || line.key.isEmpty() || known.contains(line.key))
+            continue;
+        known.insert(line.key);
+        keys.append(line.key);
     }
     return keys;
 }
@@ -66,82 +143,95 @@ QMap<QString, QString> ThemeText::values(const QString &section) const
     QMap<QString, QString> values;
     for (const Line &line : m_lines) {
         if (line.section == section && !line.key.isEmpty())
-            values.insert(line.key, value(section, line.key));
+            values.insert(line.key, valueOf(line));
     }
     return values;
 }
 
-int ThemeText::indexOf(const QString &section, const QString &key) const
+QString ThemeText::valueOf(const Line &line) const
 {
-    for (int i = int(m_lines.size()) - 1; i >= 0; --i) {
-        if (m_lines.at(i).section == section && m_lines.at(i).key == key)
-            return i;
-    }
-    return -1;
+    const QStringList parts = IniSyntax::unescapedValue(
+        line.text.mid(line.valueStart, line.valueEnd - line.valueStart), encoding(m_isUtf8));
+    const bool isText = parts.size() == 1 && !parts.constFirst().isEmpty();
+    return isText ? parts.constFirst() : QStringLiteral("");
 }
 
 QString ThemeText::value(const QString &section, const QString &key) const
 {
-    const int index = indexOf(section, key);
-    if (index < 0)
-        return {};
-    const QByteArray &line = m_lines.at(index).text;
-    const QByteArray value = line.mid(line.indexOf('=') + 1).trimmed();
-    return value.isEmpty() ? QStringLiteral("") : QString::fromLatin1(value);
+    const auto found = m_entries.constFind({section, key});
+    return found == m_entries.cend() ? QString() : valueOf(**found);
+}
+
+ThemeText::Line ThemeText::entry(const QString &section, const QString &key, const QString &value,
+                                 const QByteArray &lineEnd) const
+{
+    Line line;
+    line.text = IniSyntax::escapedKey(key) + '=';
+    line.valueStart = int(line.text.size());
+    line.text +=
+        IniSyntax::escapedValue(value, encoding(m_isUtf8), IniSyntax::Quotes::AsNeeded) + lineEnd;
+    line.valueEnd = int(line.text.size() - lineEnd.size());
+    line.section = section;
+    line.key = key;
+    return line;
 }
 
 void ThemeText::setValue(const QString &section, const QString &key, const QString &value)
 {
-    const int index = indexOf(section, key);
-    if (index >= 0) {
-        if (this->value(section, key) != value)
-            m_lines[index].text = withValue(m_lines.at(index).text, value);
+    const auto found = m_entries.constFind({section, key});
+    if (found != m_entries.cend()) {
+        Line &line = **found;
+        if (valueOf(line) == value)
+            return;
+        const int length = line.valueEnd - line.valueStart;
+        const auto quotes = IniSyntax::isQuoted(line.text.mid(line.valueStart, length))
+            ? IniSyntax::Quotes::Always
+            : IniSyntax::Quotes::AsNeeded;
+        const QByteArray text = IniSyntax::escapedValue(value, encoding(m_isUtf8), quotes);
+        line.text.replace(line.valueStart, length, text);
+        line.valueEnd = line.valueStart + int(text.size());
         return;
     }
-    int last = -1;
-    for (int i = 0; i < m_lines.size(); ++i) {
-        const bool isContent = !m_lines.at(i).key.isEmpty() || m_lines.at(i).text.startsWith('[');
-        if (m_lines.at(i).section == section && isContent)
-            last = i;
+    if (!m_ends.contains(section)) {
+        if (!m_lines.empty() && lineEndOf(m_lines.back().text).isEmpty())
+            m_lines.back().text += '\n';
+        Line header;
+        header.text = "\n[" + IniSyntax::escapedKey(section) + "]\n";
+        header.section = section;
+        header.isHeader = true;
+        note(m_lines.insert(m_lines.end(), header));
     }
-    const QByteArray entry = key.toLatin1() + '=' + value.toLatin1() + '\n';
-    if (last < 0) {
-        m_lines.append({"\n[" + section.toLatin1() + "]\n", section, QString()});
-        last = int(m_lines.size()) - 1;
-    }
-    if (!m_lines.at(last).text.endsWith('\n'))
-        m_lines[last].text += '\n';
-    m_lines.insert(last + 1, {entry, section, key});
+    const auto last = m_ends.value(section);
+    if (lineEndOf(last->text).isEmpty())
+        last->text += '\n';
+    note(m_lines.insert(std::next(last), entry(section, key, value, lineEndOf(last->text))));
 }
 
 // What stands below the section's last key speaks of the section that follows.
 void ThemeText::removeSection(const QString &section)
 {
-    const QByteArray header = '[' + section.toLatin1() + ']';
-    for (int first = 0; first < m_lines.size(); ++first) {
-        if (m_lines.at(first).text.trimmed() != header)
+    for (auto line = m_lines.begin(); line != m_lines.end();) {
+        if (!line->isHeader || line->section != section) {
+            ++line;
             continue;
-        int last = first;
-        for (int i = first; i < m_lines.size() && m_lines.at(i).section == section; ++i) {
-            if (!m_lines.at(i).key.isEmpty())
-                last = i;
         }
-        while (last + 1 < m_lines.size() && m_lines.at(last + 1).text.trimmed().isEmpty())
-            ++last;
-        while (first > 0 && m_lines.at(first - 1).text.startsWith(';'))
-            --first;
-        m_lines.remove(first, last + 1 - first);
-        --first;
+        auto end = std::next(line);
+        for (auto next = end; next != m_lines.end() && next->section == section;) {
+            const bool isEntry = !next->key.isEmpty();
+            ++next;
+            if (isEntry)
+                end = next;
+        }
+        while (end != m_lines.end() && end->text.trimmed().isEmpty())
+            ++end;
+        while (line != m_lines.begin() && std::prev(line)->text.startsWith(';'))
+            --line;
+        line = m_lines.erase(line, end);
     }
-}
-
-void ThemeText::setHeader(const QByteArray &comment)
-{
-    int first = 0;
-    while (first < m_lines.size() && !m_lines.at(first).text.startsWith('['))
-        ++first;
-    m_lines = m_lines.mid(first);
-    m_lines.prepend({comment, QString(), QString()});
+    m_entries.clear();
+    m_ends.clear();
+    for (auto line = m_lines.begin(); line != m_lines.end(); ++line)
+        note(line);
 }
 
 } // namespace Maker

@@ -5,10 +5,13 @@
 #define MAKER_THEMETEXT_H
 
 #include <QByteArray>
+#include <QHash>
 #include <QMap>
+#include <QPair>
 #include <QString>
 #include <QStringList>
-#include <QVector>
+
+#include <list>
 
 namespace Maker
 {
@@ -17,13 +20,15 @@ namespace Maker
  * \brief The text of a theme file whose values can be changed in place: comments, order, line ends
  *        and all else stay as they are.
  *
- * Reads what `hvtheme new` and the samples write: one `key=value` a line, sections in brackets,
- * comments that begin with a semicolon. Keys are ASCII.
+ * Reads any theme file as QSettings does: quotation marks, escapes, comments behind values. Keys that
+ * stand before the first section are those of "General". Only a whole key that is written into its
+ * section's part ("Colors\A=x" in "General") is not found in that section.
  */
 class ThemeText
 {
 public:
     explicit ThemeText(const QByteArray &text);
+    Q_DISABLE_COPY_MOVE(ThemeText)
 
     QByteArray text() const;
 
@@ -33,7 +38,8 @@ public:
     /*! \brief Returns the values of a section by key. */
     QMap<QString, QString> values(const QString &section) const;
 
-    /*! \brief Returns the value of \a key, or a null text. The last of two equal keys counts. */
+    /*! \brief Returns the value of \a key, or a null text. The last of two equal keys counts; a list of
+     *         texts is an empty one. */
     QString value(const QString &section, const QString &key) const;
 
     /*! \brief Sets the value of \a key; a key that is not there goes to the end of its section, and
@@ -43,19 +49,27 @@ public:
     /*! \brief Takes a section away, with the comment that stands directly above it. */
     void removeSection(const QString &section);
 
-    /*! \brief Replaces all that stands above the first section. */
-    void setHeader(const QByteArray &comment);
-
 private:
     struct Line {
         QByteArray text; //!< with its line end
         QString section;
         QString key; //!< empty for a header, a comment or a blank line
+        int valueStart = 0; //!< the value's place in the text, without blanks around it
+        int valueEnd = 0;
+        bool isHeader = false;
     };
+    using Lines = std::list<Line>;
 
-    int indexOf(const QString &section, const QString &key) const;
+    void addPlainLines(const QByteArray &text, const QString &section);
+    Line entry(const QString &section, const QString &key, const QString &value,
+               const QByteArray &lineEnd) const;
+    QString valueOf(const Line &line) const;
+    void note(Lines::iterator line);
 
-    QVector<Line> m_lines;
+    bool m_isUtf8;
+    Lines m_lines;
+    QHash<QPair<QString, QString>, Lines::iterator> m_entries; // by section and key, the last ones
+    QHash<QString, Lines::iterator> m_ends; // the last header or entry of each section
 };
 
 } // namespace Maker

@@ -71,17 +71,6 @@ IniSyntax::Encoding encodingOf(const ThemeFile &file)
     return file.hasByteOrderMark() ? IniSyntax::Encoding::Utf8 : IniSyntax::Encoding::Escaped;
 }
 
-// Tells whether one pair of quotation marks stands around all of the value.
-bool isQuoted(const QByteArray &value)
-{
-    if (value.size() < 2 || !value.startsWith('"'))
-        return false;
-    int i = 1;
-    while (i < value.size() && value.at(i) != '"')
-        i += value.at(i) == '\\' ? 2 : 1;
-    return i == value.size() - 1;
-}
-
 bool isValue(const QByteArray &content, const QString &key, const QString &value)
 {
     MemorySettings memory(content);
@@ -122,7 +111,7 @@ QByteArray withChangedValue(const ThemeFile &file, const ThemeFileEntry &entry,
 {
     QByteArray content = file.content();
     const int length = entry.valueEnd - entry.valueStart;
-    const auto quotes = isQuoted(content.mid(entry.valueStart, length))
+    const auto quotes = IniSyntax::isQuoted(content.mid(entry.valueStart, length))
         ? IniSyntax::Quotes::Always
         : IniSyntax::Quotes::AsNeeded;
     return content.replace(entry.valueStart, length,

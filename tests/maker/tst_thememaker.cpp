@@ -209,6 +209,8 @@ private Q_SLOTS:
     void withBrand_data();
     void withBrand();
     void withBrandOfAnotherTheme();
+    void withBrandKeepsSpellings_data();
+    void withBrandKeepsSpellings();
     void withBrandAddsFills();
 };
 
@@ -651,6 +653,37 @@ void tst_ThemeMaker::withBrandOfAnotherTheme()
     QCOMPARE(ThemeText(after.base).value("Palettes", "Ink"), QString("#101010"));
     QVERIFY(ThemeText(after.base).value("Palettes", "Brand_6") != "#2D63F0");
     QCOMPARE(ThemeText(after.own).keys("Colors"), QStringList{"HighlightedForegroundColor"});
+}
+
+void tst_ThemeMaker::withBrandKeepsSpellings_data()
+{
+    QTest::addColumn<QByteArray>("entries"); // of the palette, besides the brand's
+    QTest::addColumn<QString>("text"); // behind DefaultForegroundColor
+
+    QTest::newRow("plain") << QByteArray("Ink=#101010\n") << "Ink";
+    QTest::newRow("quoted-entry") << QByteArray("Ink=\"#101010\"\n") << "Ink";
+    QTest::newRow("comment-behind") << QByteArray("Ink=#101010 ; note\n") << "Ink";
+    QTest::newRow("quoted-color") << QByteArray("Ink=#101010\n") << "\"Ink\"";
+    QTest::newRow("chain-of-two") << QByteArray("Ant=#101010\nBat=Ant\nInk=Bat\n") << "Ink";
+    QTest::newRow("follows-the-brand") << QByteArray("Ink=#101010\nZoo=Brand_6\n") << "Ink";
+    QTest::newRow("no-color") << QByteArray("Ink=#101010\nZoo=nothing\n") << "Ink";
+    QTest::newRow("own-name-with-brand") << QByteArray("Brand_Ink=#101010\n") << "Brand_Ink";
+}
+
+// The text is as dark as it can be, so nothing but a misread value makes it fall short.
+void tst_ThemeMaker::withBrandKeepsSpellings()
+{
+    QFETCH(QByteArray, entries);
+    QFETCH(QString, text);
+    const QByteArray colors = "[Colors]\nDefaultForegroundColor=" + text.toLatin1()
+        + "\nBackgroundColor_3=#ffffff\nColor_W20=Brand_6\n";
+    const ThemeTexts before{"[Palettes]\nBrand_6=#2D63F0\n" + entries, colors};
+    QStringList notes;
+    const ThemeTexts after = Maker::withBrand(before, QColor("#a02020"), &notes);
+    QCOMPARE(notes, QStringList());
+    QVERIFY2(after.base.endsWith(entries), after.base.constData());
+    QVERIFY(after.base != before.base);
+    QCOMPARE(after.own, before.own);
 }
 
 // A theme whose buttons follow the brand gets fills that carry a text of their own.

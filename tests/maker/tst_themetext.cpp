@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <hvtheme/inifile.h>
 #include <maker/themetext.h>
 
 #include <QtTest>
@@ -16,6 +17,9 @@ private Q_SLOTS:
     void value();
     void setValue_data();
     void setValue();
+    void strangeNames_data();
+    void strangeNames();
+    void manyKeys();
     void removeSection_data();
     void removeSection();
     void keys();
@@ -35,6 +39,23 @@ void tst_ThemeText::value_data()
     QTest::newRow("comment") << QByteArray("[Colors]\n;A=x\n") << QString();
     QTest::newRow("no-line-end") << QByteArray("[Colors]\nA=x") << "x";
     QTest::newRow("nothing") << QByteArray() << QString();
+    // As QSettings reads them.
+    QTest::newRow("quoted") << QByteArray("[Colors]\nA=\"#101010\"\n") << "#101010";
+    QTest::newRow("quoted-with-a-semicolon") << QByteArray("[Colors]\nA=\"a;b\" \n") << "a;b";
+    QTest::newRow("comment-behind") << QByteArray("[Colors]\nA=#fff ; note\n") << "#fff";
+    QTest::newRow("escapes") << QByteArray("[Colors]\nA=a\\tb\\x4e2d\\101\\\\\\q\n")
+                             << QString("a\tb%1A\\").arg(QChar(0x4e2d));
+    QTest::newRow("latin-1") << QByteArray("[Colors]\nA=\xfc\n") << QString(QChar(0xfc));
+    QTest::newRow("byte-order-mark")
+        << QByteArray("\xef\xbb\xbf[Colors]\nA=\xc3\xbc\n") << QString(QChar(0xfc));
+    QTest::newRow("continued") << QByteArray("[Colors]\nA=a\\\nb\n") << "ab";
+    QTest::newRow("quoted-line-end") << QByteArray("[Colors]\nA=\"a\nb\"\n") << "a\nb";
+    QTest::newRow("list") << QByteArray("[Colors]\nA=a, b\n") << "";
+    QTest::newRow("two-at-signs") << QByteArray("[Colors]\nA=@@a\n") << "@a";
+    QTest::newRow("escaped-key") << QByteArray("[Colors]\n%41=x\n") << "x";
+    QTest::newRow("escaped-section") << QByteArray("[%43olors]\nA=x\n") << "x";
+    QTest::newRow("header-with-a-comment") << QByteArray("[Colors] ; c\nA=x\n") << "x";
+    QTest::newRow("old-line-ends") << QByteArray("[Colors]\rA=x\rB=y\r") << "x";
 }
 
 void tst_ThemeText::value()
@@ -45,6 +66,13 @@ void tst_ThemeText::value()
     QCOMPARE(theme.text(), text);
     QCOMPARE(theme.value("Colors", "A"), value);
     QCOMPARE(theme.value("Colors", "A").isNull(), value.isNull());
+
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write(HV::iniText(text)) == HV::iniText(text).size());
+    const QString path = file.fileName();
+    file.close();
+    const QSettings settings(path, QSettings::IniFormat);
+    QCOMPARE(value, settings.value("Colors/A").toString());
 }
 
 void tst_ThemeText::setValue_data()
@@ -59,6 +87,14 @@ void tst_ThemeText::setValue_data()
     QTest::newRow("no-line-end") << QByteArray("[Colors]\nA=x") << QByteArray("[Colors]\nA=new");
     QTest::newRow("same-value-keeps-its-spelling")
         << QByteArray("[Colors]\nA = new \n") << QByteArray("[Colors]\nA = new \n");
+    QTest::newRow("quotes-stay") << QByteArray("[Colors]\nA=\"x\"\n")
+                                 << QByteArray("[Colors]\nA=\"new\"\n");
+    QTest::newRow("comment-stays")
+        << QByteArray("[Colors]\nA = x ; note\n") << QByteArray("[Colors]\nA = new ; note\n");
+    QTest::newRow("same-value-in-quotes")
+        << QByteArray("[Colors]\nA=\"new\"\n") << QByteArray("[Colors]\nA=\"new\"\n");
+    QTest::newRow("new-key-with-its-line-end")
+        << QByteArray("[Colors]\r\nB=z\r\n") << QByteArray("[Colors]\r\nB=z\r\nA=new\r\n");
     QTest::newRow("new-key") << QByteArray("[Colors]\nB=z\n\n[Flags]\nA=1\n")
                              << QByteArray("[Colors]\nB=z\nA=new\n\n[Flags]\nA=1\n");
     QTest::newRow("new-key-in-an-empty-section")
@@ -77,6 +113,55 @@ void tst_ThemeText::setValue()
     theme.setValue("Colors", "A", "new");
     QCOMPARE(theme.text(), expected);
     QCOMPARE(theme.value("Colors", "A"), QString("new"));
+}
+
+// Keys and values may be anything; the entries around them stay what they are.
+void tst_ThemeText::strangeNames_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::newRow("chinese") << QString::fromUtf8("\xe5\x93\x81") << "x";
+    QTest::newRow("equals") << "a=b"
+                            << "x=y";
+    QTest::newRow("semicolon") << ";x"
+                               << "a;b";
+    QTest::newRow("line-end") << "a\nb"
+                              << "c\n[Flags]\nd";
+    QTest::newRow("bracket") << "[x"
+                             << "[y]";
+    QTest::newRow("quote") << "\""
+                           << "\"";
+}
+
+void tst_ThemeText::strangeNames()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    ThemeText theme("[Colors]\nA=x\n");
+    theme.setValue("Colors", key, value);
+    const ThemeText again(theme.text());
+    QCOMPARE(again.value("Colors", key), value);
+    QCOMPARE(again.keys("Colors"), QStringList({"A", key}));
+    QCOMPARE(again.keys("Flags"), QStringList());
+}
+
+// As large as a theme file may be: neither reading nor writing looks at every line for every key.
+void tst_ThemeText::manyKeys()
+{
+    QByteArray text = "[Colors]\n";
+    for (int i = 0; i < 100000; ++i)
+        text += 'k' + QByteArray::number(i) + "=#101010\n";
+    QElapsedTimer timer;
+    timer.start();
+    ThemeText theme(text);
+    QCOMPARE(theme.keys("Colors").size(), 100000);
+    QCOMPARE(theme.values("Colors").size(), 100000);
+    for (int i = 0; i < 50000; ++i) {
+        theme.setValue("Colors", 'k' + QString::number(i), "new");
+        theme.setValue("Colors", 'n' + QString::number(i), "new");
+    }
+    QCOMPARE(theme.keys("Colors").size(), 150000);
+    QVERIFY2(timer.elapsed() < 60000, qPrintable(QString::number(timer.elapsed())));
 }
 
 void tst_ThemeText::removeSection_data()
