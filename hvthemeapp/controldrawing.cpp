@@ -3,9 +3,11 @@
 
 #include "controldrawing.h"
 
+#include "iconcolors.h"
 #include "themedicon.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
@@ -25,6 +27,12 @@ constexpr double dialSpan = 300; // degrees that a dial leaves open at its foot
 constexpr int closestMarks = 3;
 constexpr int markLength = 4;
 constexpr int sectionMargin = 8;
+
+/*! Of what divides or frames without being a control. */
+QColor lineColor()
+{
+    return IconColors::color(QStringLiteral("SliderGrooveBackgroundColor"), QIcon::Normal);
+}
 
 /*! From 0 to 1, clockwise. */
 double dialFraction(const QStyleOptionSlider &option)
@@ -80,7 +88,7 @@ void drawMenuSeparator(const QStyleOptionMenuItem &option, QPainter &painter)
                          option.text);
         (isMirrored ? right : left) += (isMirrored ? -1 : 1) * (width + sectionMargin);
     }
-    painter.setPen(palette.color(QPalette::Active, QPalette::Light));
+    painter.setPen(lineColor());
     if (left < right)
         painter.drawLine(left, area.center().y(), right, area.center().y());
     painter.restore();
@@ -253,6 +261,49 @@ void drawCategorySigns(const QTreeView &tree, QPainter &painter)
         const QLatin1String name(tree.isExpanded(index) ? "down" : isMirrored ? "left" : "right");
         themedIcon(name).paint(&painter, area);
     }
+}
+
+bool isFlatFrame(const QStyleOptionFrame &option)
+{
+    const QPalette application = QApplication::palette();
+    const bool isBevel = option.frameShape == QFrame::StyledPanel
+        || option.state & (QStyle::State_Raised | QStyle::State_Sunken);
+    return isBevel && option.frameShape != QFrame::NoFrame && option.lineWidth > 0
+        && option.palette.color(QPalette::Dark) == application.color(QPalette::Dark)
+        && option.palette.color(QPalette::Light) == application.color(QPalette::Light);
+}
+
+void drawFlatFrame(const QStyleOptionFrame &option, QPainter &painter)
+{
+    const QRect &area = option.rect;
+    const int width = qMax(1, option.lineWidth);
+    if (option.frameShape == QFrame::HLine) {
+        painter.fillRect(area.left(), area.center().y() - (width - 1) / 2, area.width(), width,
+                         lineColor());
+    } else if (option.frameShape == QFrame::VLine) {
+        painter.fillRect(area.center().x() - (width - 1) / 2, area.top(), width, area.height(),
+                         lineColor());
+    } else {
+        painter.save();
+        painter.setClipRegion(QRegion(area) - area.adjusted(width, width, -width, -width),
+                              Qt::IntersectClip);
+        painter.fillRect(area, lineColor());
+        painter.restore();
+    }
+}
+
+QPixmap disabledPixmap(const QPixmap &pixmap)
+{
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    constexpr double opacity = 0.45;
+    for (int y = 0; y < image.height(); ++y) {
+        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const int gray = qGray(line[x]);
+            line[x] = qRgba(gray, gray, gray, qRound(qAlpha(line[x]) * opacity));
+        }
+    }
+    return QPixmap::fromImage(image);
 }
 
 void drawGrip(const QStyleOption &option, QPainter &painter)

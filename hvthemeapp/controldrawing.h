@@ -6,10 +6,12 @@
 
 class QMenu;
 class QPainter;
+class QPixmap;
 class QProgressBar;
 class QSlider;
 class QStyle;
 class QStyleOption;
+class QStyleOptionFrame;
 class QStyleOptionMenuItem;
 class QStyleOptionSizeGrip;
 class QStyleOptionSlider;
@@ -43,6 +45,19 @@ int menuSeparatorHeight(const QStyleOptionMenuItem &option);
 
 /*! \brief Draws before each category of \a tree, a row without a parent, whether it is open. */
 void drawCategorySigns(const QTreeView &tree, QPainter &painter);
+
+/*!
+ * \brief Returns whether the frame of \a option is raised, sunken or the style's panel, in the colours of
+ *        the application's palette. A plain one has the colour that the program gave it.
+ */
+bool isFlatFrame(const QStyleOptionFrame &option);
+
+/*! \brief Draws the frame or line of \a option flat, in the colour of other dividing lines. */
+void drawFlatFrame(const QStyleOptionFrame &option, QPainter &painter);
+
+/*! \brief Returns \a pixmap, an icon's, as it looks on what cannot be used: paler than the others, on
+ *         dark and on light grounds. */
+QPixmap disabledPixmap(const QPixmap &pixmap);
 
 /*! \brief Draws what the columns of a view of columns are pulled wider by. */
 void drawGrip(const QStyleOption &option, QPainter &painter);

@@ -62,6 +62,12 @@ void followPalette(QMdiArea &area)
         area.setBackground(ground);
 }
 
+// Its frame is the one of the list inside.
+bool isPopUpOfCombo(const QWidget *widget)
+{
+    return widget && widget->inherits("QComboBoxPrivateContainer");
+}
+
 // There the colour of selected rows lies below the text alone.
 bool showsIconsAbove(const QWidget *widget)
 {
@@ -228,6 +234,15 @@ QPixmap ThemedStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *o
         .pixmap(own.isNull() ? QSize(16, 16) : own.size() / own.devicePixelRatio());
 }
 
+QPixmap ThemedStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                         const QStyleOption *option) const
+{
+    // Styles mix it with the ground, and what is to recede comes out brighter than the rest on a dark one.
+    return mode == QIcon::Disabled && IconColors::hasValues()
+        ? disabledPixmap(pixmap)
+        : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+}
+
 void ThemedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                      QPainter *painter, const QWidget *widget) const
 {
@@ -276,6 +291,9 @@ void ThemedStyle::drawControl(ControlElement element, const QStyleOption *option
     } else if (const auto *grip = qstyleoption_cast<const QStyleOptionSizeGrip *>(option);
                grip && element == CE_SizeGrip) {
         drawSizeGrip(*grip, *painter);
+    } else if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option); frame
+               && element == CE_ShapedFrame && isFlatFrame(*frame) && !isPopUpOfCombo(widget)) {
+        drawFlatFrame(*frame, *painter);
     } else if (element == CE_ItemViewItem && item && item->state & State_Selected
                && showsIconsAbove(widget)) {
         QStyleOptionViewItem plain = *item;

@@ -14,8 +14,8 @@ namespace HV
  *
  * They are those of message boxes, file dialogs, dialog buttons, title bars, line edits and tool bars.
  * What style sheets do not reach takes the colours of the palette: title bars and grounds of windows
- * inside windows, dials, tick marks of sliders, titles in menus, arrows and boxes of items. Until a theme is in force the style's
- * own stay.
+ * inside windows, dials, tick marks of sliders, titles in menus, frames and dividing
+ * lines, arrows and boxes of items, and icons that cannot be used. Until a theme is in force the style's own stay.
  */
 class ThemedStyle : public QProxyStyle
 {
@@ -49,6 +49,9 @@ public:
                        const QWidget *widget = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option = nullptr,
                            const QWidget *widget = nullptr) const override;
+
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                const QStyleOption *option) const override;
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                             QPainter *painter, const QWidget *widget = nullptr) const override;
