@@ -6,7 +6,7 @@
 
 #ifdef HVTHEME_OWN_LOOK
 #include <hvthemeapp/applicationtheme.h>
-#include <inspector/inspector.h>
+#include <hvthemeinspector/inspector.h>
 #endif
 
 #include <QtWidgets>

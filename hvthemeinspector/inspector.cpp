@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include <inspector/inspector.h>
+#include <hvthemeinspector/inspector.h>
 
 #include <inspector/inspectorwindow.h>
 

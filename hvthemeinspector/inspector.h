@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#ifndef INSPECTOR_INSPECTOR_H
-#define INSPECTOR_INSPECTOR_H
+#ifndef HVTHEMEINSPECTOR_INSPECTOR_H
+#define HVTHEMEINSPECTOR_INSPECTOR_H
 
-#include <inspector/hvthemeinspector_export.h>
+#include <hvthemeinspector/hvthemeinspector_export.h>
 
 #include <QKeySequence>
 
@@ -44,4 +44,4 @@ public:
 
 } // namespace HV
 
-#endif // INSPECTOR_INSPECTOR_H
+#endif // HVTHEMEINSPECTOR_INSPECTOR_H
