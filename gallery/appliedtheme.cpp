@@ -225,6 +225,14 @@ AppliedTheme::AppliedTheme(QObject *parent)
     : QObject(parent)
 {
     initResource();
+    // What comes in steps, a folder and then a name, is told when it is done.
+    connect(
+        &m_look, &HV::ApplicationTheme::changed, this,
+        [this] {
+            if (m_isLoaded && qMakePair(m_look.folder(), m_look.name()) != m_applied)
+                Q_EMIT left(m_look.folder(), m_look.name());
+        },
+        Qt::QueuedConnection);
 }
 
 AppliedTheme::~AppliedTheme() = default;
@@ -310,6 +318,7 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     }
     const bool isApplied = m_look.setName(m_name);
     m_isLoaded = m_isLoaded || isApplied;
+    m_applied = {m_look.folder(), m_look.name()};
     if (isApplied)
         return Problem::None;
     // All else has been looked at before, so it is a template, or a theme beyond what themes may be.

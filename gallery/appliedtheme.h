@@ -89,6 +89,10 @@ public:
      */
     QString placesFor(const QString &message) const;
 
+Q_SIGNALS:
+    /*! \brief Somebody else gave the program the theme \a name of \a folder. */
+    void left(const QString &folder, const QString &name);
+
 private:
     Problem readProject(const ThemeSource &source);
     Problem apply(const ThemeSource &source);
@@ -98,6 +102,7 @@ private:
     QHash<QString, QByteArray> m_texts; //!< of theme files of another application, by path
     std::unique_ptr<ThemeProject> m_project; //!< of the last load(), good or not; may be null
     QString m_name; //!< in m_project
+    QPair<QString, QString> m_applied; //!< folder and name that the last load() left m_look with
     QStringList m_files;
     bool m_isLoaded = false;
 };

@@ -170,6 +170,7 @@ void GalleryWindow::connectParts()
         connect(&m_log, change, this, &GalleryWindow::titlePanes);
     connect(&m_log, &QAbstractItemModel::modelReset, this, &GalleryWindow::titlePanes);
     connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
+    connect(&m_applied, &AppliedTheme::left, this, &GalleryWindow::follow);
     connect(&m_checkTimer, &QTimer::timeout, this, &GalleryWindow::check);
     connect(&m_refreshTimer, &QTimer::timeout, this, [this] {
         if (m_inspector && pane() == Pane::Inspector)
@@ -179,10 +180,6 @@ void GalleryWindow::connectParts()
 
 void GalleryWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_inspector && !m_inspector->mayClose(SaveBar::Closing::Program)) {
-        event->ignore();
-        return;
-    }
     if (m_inspector && !m_inspector->mayClose(SaveBar::Closing::Program)) {
         event->ignore();
         return;
@@ -262,6 +259,17 @@ Problem GalleryWindow::openFolder(const QString &folder)
         source.applicationFolder.clear(); // it was that of the themes before
     m_source = source;
     return reload();
+}
+
+// The inspector has saved a new theme and goes on with it.
+void GalleryWindow::follow(const QString &folder, const QString &name)
+{
+    if (QFileInfo(folder) != QFileInfo(m_source.themesFolder)) {
+        m_source.themesFolder = folder;
+        m_source.applicationFolder.clear();
+    }
+    m_source.themeName = name;
+    reload();
 }
 
 void GalleryWindow::openForm(const QString &file)

@@ -95,6 +95,7 @@ private:
     void listRecentFolders();
     void seeWith(ColorMath::Vision vision);
     void chooseTheme(const QString &name);
+    void follow(const QString &folder, const QString &name);
     void chooseFolder();
     void chooseForm();
     void showMade();

@@ -34,7 +34,7 @@ ImageEditor::ImageEditor(QWidget *parent)
     m_picture->setAlignment(Qt::AlignCenter);
     m_picture->setAccessibleName(tr("The image"));
     auto *choose = new QToolButton;
-    choose->setText(tr("&Choose…"));
+    choose->setText(tr("C&hoose…"));
     choose->setAccessibleName(tr("Choose an image file"));
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -75,7 +75,7 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     auto *form = new QFormLayout;
     auto *folderRow = new QHBoxLayout;
     auto *choose = new QToolButton;
-    choose->setText(tr("&Choose…"));
+    choose->setText(tr("C&hoose…"));
     choose->setAccessibleName(tr("Choose a folder"));
     folderRow->addWidget(m_folder, 1);
     folderRow->addWidget(choose);

@@ -45,8 +45,8 @@ PropertyEditor::PropertyEditor(ProgramChanges *changes, QWidget *parent)
     , m_list(new PlainTree<QTreeWidget>)
     , m_name(makeBox(tr("Property")))
     , m_value(makeBox(tr("Value of the property")))
-    , m_set(new QPushButton(tr("Se&t")))
-    , m_remove(new QPushButton(tr("Re&move")))
+    , m_set(new QPushButton(tr("S&et")))
+    , m_remove(new QPushButton(tr("Rem&ove")))
     , m_note(new QLabel)
 {
     m_list->setHeaderLabels({tr("Dynamic property"), tr("Value"), tr("Values that rules ask for")});

@@ -18,7 +18,7 @@ WhyNot::WhyNot(QWidget *parent)
 {
     m_selector->setAccessibleName(tr("Selector"));
     m_selector->setToolTip(tr("A selector without commas: QPushButton[style=general]:hover"));
-    auto *label = new QLabel(tr("Why does &this selector not match the picked part?"));
+    auto *label = new QLabel(tr("Wh&y does this selector not match the picked part?"));
     label->setBuddy(m_selector);
     m_verdict->setHeaderLabels({tr("Part of the selector"), tr("Verdict")});
     m_verdict->setAccessibleName(tr("Why not"));

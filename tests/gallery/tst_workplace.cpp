@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "mnemonics.h"
 #include "quietplatform.h"
 
 #include <gallery/findingspane.h>
 #include <gallery/gallerywindow.h>
 #include <gallery/shownpart.h>
 #include <gallery/zoomarea.h>
+#include <inspector/changepanel.h>
+#include <inspector/inspectorlists.h>
+#include <inspector/newthemedialog.h>
 
 #include <analysis/rules/rules.h>
 
@@ -43,7 +47,9 @@ private Q_SLOTS:
     void contextMenu_data();
     void contextMenu();
     void quits();
+    void asksBeforeChangesAreLost_data();
     void asksBeforeChangesAreLost();
+    void goesOnWithANewTheme();
     void isRemembered();
     void nothingIsKeptWithoutMemory();
     void forgetsWhatIsGone();
@@ -56,6 +62,7 @@ private Q_SLOTS:
     void everythingByKeyboard_data();
     void everythingByKeyboard();
     void partsByKeyboard();
+    void noLetterTwice_data();
     void noLetterTwice();
     void openFile(const QUrl &url) { m_opened = url; } // what the desktop would do
 
@@ -620,42 +627,96 @@ void tst_Workplace::quits()
     QVERIFY(!m_window->isVisible());
 }
 
+void tst_Workplace::asksBeforeChangesAreLost_data()
+{
+    QTest::addColumn<QString>("answer"); // a button's text, or nothing for Escape
+    QTest::addColumn<bool>("closes");
+    QTest::addColumn<bool>("isSaved");
+
+    QTest::newRow("cancel") << "Cancel" << false << false;
+    QTest::newRow("escape") << "" << false << false;
+    QTest::newRow("save") << "&Save" << true << true;
+    QTest::newRow("discard") << "&Discard" << true << false;
+}
+
 void tst_Workplace::asksBeforeChangesAreLost()
 {
+    QFETCH(QString, answer);
+    QFETCH(bool, closes);
+    QFETCH(bool, isSaved);
     Options options = optionsFor(QStringLiteral("buttons"));
     options.source.themesFolder = copyOfThemes();
     open(options);
-    QVERIFY(m_window->inspector());
     ProgramChanges *changes = ProgramChanges::ofProgram();
     const QString file = options.source.themesFolder + QStringLiteral("/dark.theme");
     QVERIFY2(changes->setValue(file, QStringLiteral("Colors/DefaultForegroundColor"),
                                QStringLiteral("#ffeedd")),
              qPrintable(changes->problem()));
-    // The key may be at work some events later.
-    QString answer;
-    QTimer answering;
+    QStringList questions;
+    QTimer answering; // the key may be at work some events later
     connect(&answering, &QTimer::timeout, this, [&] {
-        const QWidget *box = QApplication::activeModalWidget();
-        const auto buttons = box ? box->findChildren<QPushButton *>() : QList<QPushButton *>();
-        for (QPushButton *each : buttons) {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        questions.append(box->text());
+        QCOMPARE(Mnemonics(box).collisions(), QStringList());
+        if (answer.isEmpty()) {
+            QTest::keyClick(box, Qt::Key_Escape);
+            return;
+        }
+        const auto buttons = box->buttons();
+        for (QAbstractButton *each : buttons) {
             if (each->text().contains(answer))
-                QTest::mouseClick(each, Qt::LeftButton);
+                each->click();
         }
     });
     answering.start(10);
-    const auto quitWith = [&](const QString &text) {
-        answer = text;
-        QApplication::setActiveWindow(m_window.get()); // the question was
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
-    };
-    quitWith(QStringLiteral("Cancel"));
-    QVERIFY(m_window->isVisible());
-    QVERIFY(changes->isUnsaved());
-    quitWith(QStringLiteral("&Save"));
-    QVERIFY(!m_window->isVisible());
+    QTest::keyClick(m_window->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+    QCOMPARE(questions, QStringList("1 unsaved change in dark.theme. Save them?"));
+    QCOMPARE(m_window->isVisible(), !closes);
+    QCOMPARE(changes->isUnsaved(), !closes);
     QFile saved(file);
     QVERIFY(saved.open(QIODevice::ReadOnly));
-    QVERIFY(saved.readAll().contains("DefaultForegroundColor=#ffeedd\n"));
+    QCOMPARE(saved.readAll().contains("DefaultForegroundColor=#ffeedd\n"), isSaved);
+}
+
+// The selectors follow what the look becomes, so that the next reload does not bring the old theme back.
+void tst_Workplace::goesOnWithANewTheme()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themesFolder = copyOfThemes();
+    QSettings settings(m_folder->filePath(QStringLiteral("memory.ini")), QSettings::IniFormat);
+    open(options, &settings);
+    const auto ground = [this] {
+        QWidget *button =
+            findSpecimen(m_window->page(), QStringLiteral("QPushButton[style=general]:disabled"));
+        return button->grab().toImage().pixelColor(4, button->height() / 2);
+    };
+    ProgramChanges *changes = ProgramChanges::ofProgram();
+    QVERIFY2(changes->setValue(options.source.themesFolder + QStringLiteral("/dark.theme"),
+                               QStringLiteral("Colors/GeneralButtonBackgroundDisabled"),
+                               QStringLiteral("#123456")),
+             qPrintable(changes->problem()));
+    QCOMPARE(ground(), QColor(0x123456));
+    auto *dialog = new NewThemeDialog(changes, m_window->inspector());
+    dialog->open();
+    QCOMPARE(Mnemonics(dialog).collisions(), QStringList());
+    const QString folder = m_folder->filePath(QStringLiteral("elsewhere"));
+    for (auto *edit : dialog->findChildren<QLineEdit *>()) {
+        if (edit->accessibleName() == QLatin1String("Folder"))
+            edit->setText(folder);
+        else if (edit->accessibleName() == QLatin1String("Name"))
+            edit->setText(QStringLiteral("mine"));
+    }
+    QSignalSpy reloaded(m_window.get(), &GalleryWindow::reloaded);
+    dialog->accept();
+    QVERIFY(!changes->isUnsaved());
+    QTRY_COMPARE(part<QComboBox>("themes")->currentText(), QStringLiteral("mine"));
+    QCOMPARE(reloaded.size(), 1);
+    QCOMPARE(Memory(&settings).recentFolders().value(0), folder);
+    QCOMPARE(int(m_window->reload()), int(Problem::None));
+    QCOMPARE(ground(), QColor(0x123456));
+    QCOMPARE(HV::ApplicationTheme::inForce()->name(), QStringLiteral("mine"));
 }
 
 void tst_Workplace::isRemembered()
@@ -987,33 +1048,52 @@ void tst_Workplace::partsByKeyboard()
     QCOMPARE(press(Qt::Key_F, Qt::ControlModifier), part<QLineEdit>("search"));
 }
 
+void tst_Workplace::noLetterTwice_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<int>("kind"); // of the keys that are chosen in the inspector's lists
+
+    QTest::newRow("color") << "tabs" << int(Kind::Color);
+    QTest::newRow("image") << "tabs" << int(Kind::ImageFile);
+    QTest::newRow("integer") << "tabs" << int(Kind::Integer);
+    QTest::newRow("maker-and-color") << "make" << int(Kind::Color);
+    QTest::newRow("maker-and-image") << "make" << int(Kind::ImageFile);
+}
+
 // Two parts with one Alt key would both be led to by turns.
 void tst_Workplace::noLetterTwice()
 {
-    open(QStringLiteral("tabs"));
-    QHash<QString, QString> users;
-    const auto note = [&](const QString &text) {
-        const QKeySequence key = QKeySequence::mnemonic(text);
-        if (key.isEmpty())
-            return;
-        QVERIFY2(!users.contains(key.toString()),
-                 qPrintable(text + QLatin1String(" and ") + users.value(key.toString())));
-        users.insert(key.toString(), text);
-    };
-    const auto menus = m_window->menuBar()->actions();
-    for (const QAction *menu : menus)
-        note(menu->text());
-    const auto buttons = m_window->findChildren<QAbstractButton *>();
-    for (const QAbstractButton *button : buttons) {
-        if (button->isVisible() && !m_window->page()->isAncestorOf(button))
-            note(button->text());
+    QFETCH(QString, page);
+    QFETCH(int, kind);
+    open(page);
+    m_window->resize(1800, 1600);
+    InspectorPane *inspector = m_window->inspector();
+    inspector->pick(m_window->page()->findChild<QAbstractButton *>());
+    auto *tabs = inspector->findChild<QTabWidget *>();
+    // Specimens have the letters that whoever wrote their texts gave them.
+    const QWidget *left = page == QLatin1String("make") ? nullptr : m_window->page();
+    bool isChosen = false;
+    for (const Pane pane : {Pane::Inspector, Pane::Findings, Pane::Messages}) {
+        m_window->showPane(pane);
+        const int count = pane == Pane::Inspector ? tabs->count() : 1;
+        for (int i = 0; i < count; ++i) {
+            tabs->setCurrentIndex(i);
+            auto *list = qobject_cast<QTreeWidget *>(tabs->currentWidget());
+            QTreeWidget none;
+            for (QTreeWidgetItemIterator it(list ? list : &none); *it; ++it) {
+                if ((*it)->data(0, InspectorLists::Key).toString().isEmpty()
+                    || (*it)->data(0, InspectorLists::KeyKind) != kind)
+                    continue;
+                list->setCurrentItem(*it);
+                isChosen = inspector->findChild<ChangePanel *>()->isVisible() || isChosen;
+                break;
+            }
+            const Mnemonics letters(m_window.get(), left);
+            QVERIFY(letters.count() > 1);
+            QCOMPARE(letters.collisions(), QStringList());
+        }
     }
-    const auto labels = m_window->findChildren<QLabel *>();
-    for (const QLabel *label : labels) {
-        if (label->isVisible() && label->buddy() && !m_window->page()->isAncestorOf(label))
-            note(label->text());
-    }
-    QVERIFY(users.size() > 3);
+    QVERIFY(isChosen);
 }
 
 QTEST_MAIN(tst_Workplace)
