@@ -84,7 +84,7 @@ void drawMenuSeparator(const QStyleOptionMenuItem &option, QPainter &painter)
         const int width = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
         painter.drawText(area,
                          Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine
-                             | (isMirrored ? Qt::AlignRight : Qt::AlignLeft),
+                             | Qt::AlignAbsolute | (isMirrored ? Qt::AlignRight : Qt::AlignLeft),
                          option.text);
         (isMirrored ? right : left) += (isMirrored ? -1 : 1) * (width + sectionMargin);
     }

@@ -21,6 +21,8 @@ private Q_SLOTS:
     void ownColors();
     void menuSeparator_data();
     void menuSeparator();
+    void menuSection_data();
+    void menuSection();
     void disabledIcon_data();
     void disabledIcon();
     void disabledArrow_data();
@@ -177,6 +179,43 @@ void tst_FineLines::menuSeparator()
     const QColor ground(picture.pixel(area.center().x(), area.top()));
     const double seen = mostIn(picture, area, ground);
     QVERIFY2(seen >= leastContrast(look), qUtf8Printable(number(seen)));
+}
+
+void tst_FineLines::menuSection_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("left-to-right") << Qt::LeftToRight;
+    QTest::newRow("right-to-left") << Qt::RightToLeft;
+}
+
+// The title stands where reading begins, and the line does not run through it.
+void tst_FineLines::menuSection()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+
+    QGuiApplication::setLayoutDirection(direction); // which painters follow
+    const auto back = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    QMenu menu;
+    menu.addAction("One of the longer texts");
+    QAction *section = menu.addSection("MMMM");
+    menu.addAction("Another");
+    menu.resize(menu.sizeHint());
+    const QImage picture = pictureOf(menu);
+    const QRect area = menu.actionGeometry(section).adjusted(8, 2, -8, -2);
+    const QColor ground(picture.pixel(area.topLeft()));
+    QRect left(area.topLeft(), QSize(area.width() / 4, area.height()));
+    QRect right = left;
+    right.moveRight(area.right());
+    const QRect title = direction == Qt::LeftToRight ? left : right;
+    QRect aboveLine = direction == Qt::LeftToRight ? right : left;
+    aboveLine.setBottom(area.center().y() - 1);
+    QVERIFY(mostIn(picture, title, ground) >= 4.5);
+    QCOMPARE(mostIn(picture, aboveLine, ground), 1.0);
+    const int middle = area.center().y();
+    const QRect line(direction == Qt::LeftToRight ? right.left() : left.left(), middle, 10, 1);
+    QVERIFY(mostIn(picture, line, ground) >= 1.3);
 }
 
 void tst_FineLines::disabledIcon_data()

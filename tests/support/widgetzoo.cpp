@@ -99,6 +99,17 @@ QWidget *pushButtons()
     return window;
 }
 
+QWidget *defaultLink()
+{
+    auto *window = new QDialog;
+    auto *column = new QVBoxLayout(window);
+    auto *link = new QCommandLinkButton("Command link", "The default one of its dialog.");
+    link->setDefault(true);
+    column->addWidget(link);
+    column->addWidget(new QCommandLinkButton("Another", "That is not."));
+    return window;
+}
+
 /*! Buttons with each property of the built-in templates that changes how one looks. */
 QWidget *templateButtons()
 {
@@ -953,7 +964,8 @@ const QVector<Page> &pages()
                                    {"plain-menu", plainMenu},
                                    {"main-window", mainWindow},
                                    {"tabbed-mdi", tabbedMdi},
-                                   {"popups", popups}};
+                                   {"popups", popups},
+                                   {"default-link", defaultLink}};
     return all;
 }
 
