@@ -3,6 +3,7 @@
 
 #include <exchange/designtokens.h>
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -86,7 +87,7 @@ struct FoundToken {
     QJsonValue value;
 };
 
-// The first mistake counts; what follows it is read with stand-ins and thrown away.
+// The first mistake counts, and ends the reading.
 class Reader
 {
 public:
@@ -105,6 +106,7 @@ private:
     QColor color(const QString &name, const QJsonValue &value);
     QColor colorOfObject(const QString &name, const QJsonObject &value);
     ThemeColor themeColor(const QString &name);
+    void namePaletteEntries();
     QGradientStops gradient(const QString &name, const QJsonValue &value);
     qint64 integer(const QString &name, const QJsonValue &value);
 
@@ -115,8 +117,8 @@ private:
     }
 
     QString m_mistake;
-
     QMap<QString, FoundToken> m_tokens; // by path, with dots
+    QMap<QString, QString> m_paletteNames; // by path, of the tokens that are palette entries
 };
 
 void Reader::collect(const QJsonObject &object, const QStringList &path, const QString &type,
@@ -177,19 +179,25 @@ FoundToken Reader::resolved(const QString &name)
 
 QColor Reader::colorOfObject(const QString &name, const QJsonObject &value)
 {
-    const double alpha = value.value(QStringLiteral("alpha")).toDouble(1.0);
+    const QJsonValue opacity = value.value(QStringLiteral("alpha"));
+    const double alpha = opacity.isUndefined() ? 1.0 : opacity.toDouble(-1);
     if (!(alpha >= 0 && alpha <= 1))
         fail(name, QStringLiteral("alpha is a number from 0 to 1"));
-    const QString hex = value.value(QStringLiteral("hex")).toString();
+    const QJsonValue digits = value.value(QStringLiteral("hex"));
     QColor color;
-    if (!hex.isEmpty()) { // exact, where components are rounded
+    if (!digits.isUndefined()) { // exact, where components are rounded
+        const QString hex = digits.toString();
         color = QColor(hex);
-        if (!color.isValid() || hex.size() != 7)
+        if (!color.isValid() || hex.size() != 7 || !hex.startsWith(QLatin1Char('#')))
             fail(name, QLatin1String("\"") % hex % QLatin1String("\" is no hex colour"));
     } else if (value.value(QStringLiteral("colorSpace")).toString() == QLatin1String("srgb")) {
         const QJsonArray components = value.value(QStringLiteral("components")).toArray();
         if (components.size() != 3)
             fail(name, QStringLiteral("an sRGB colour has three components"));
+        for (const auto &component : components) {
+            if (!component.isDouble() && component.toString() != QLatin1String("none"))
+                fail(name, QStringLiteral("a component of a colour is a number or \"none\""));
+        }
         // From integers, for the fractions of colours have fewer digits from Qt 6 on.
         const auto channel = [&](int i) {
             return quint16(qRound(qBound(0.0, components.at(i).toDouble(0), 1.0) * 0xffff));
@@ -228,9 +236,7 @@ QColor Reader::color(const QString &name, const QJsonValue &value)
 ThemeColor Reader::themeColor(const QString &name)
 {
     const QString alias = aliasOf(m_tokens.value(name).value);
-    const QString group = QStringLiteral("palette.");
-    return {color(name, resolved(name).value),
-            alias.startsWith(group) ? alias.mid(group.size()) : QString()};
+    return {color(name, resolved(name).value), m_paletteNames.value(alias)};
 }
 
 QGradientStops Reader::gradient(const QString &name, const QJsonValue &value)
@@ -264,37 +270,117 @@ qint64 Reader::integer(const QString &name, const QJsonValue &value)
     return qint64(rounded);
 }
 
-// The name of a palette entry for a token of another author.
-QString paletteName(const QString &path)
+// Makes names of palette entries for tokens of other authors: no name twice.
+class PaletteNames
 {
-    static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9_]+"));
-    return QString(path).replace(others, QStringLiteral("_"));
+public:
+    void take(const QString &name) { m_numbers.insert(name, 1); }
+
+    QString make(const QString &path)
+    {
+        static const QRegularExpression others(QStringLiteral("[^A-Za-z0-9_]+"));
+        const QString name = QString(path).replace(others, QStringLiteral("_"));
+        QString numbered = name;
+        while (m_numbers.contains(numbered))
+            numbered = name % QLatin1Char('_') % QString::number(++m_numbers[name]);
+        take(numbered);
+        return numbered;
+    }
+
+private:
+    QHash<QString, int> m_numbers; // the last that went with a name
+};
+
+// Tells whether the path is that of one of our groups and a key.
+bool isIn(const char *group, const QString &path)
+{
+    const QString start = QLatin1String(group) % QLatin1Char('.');
+    return path.size() > start.size() && path.startsWith(start)
+        && path.indexOf(QLatin1Char('.'), start.size()) < 0;
+}
+
+QString keyOf(const QString &path)
+{
+    return path.section(QLatin1Char('.'), 1);
+}
+
+// Entries of ours keep their names; those of others have to make do with what is left.
+void Reader::namePaletteEntries()
+{
+    PaletteNames names;
+    for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
+        if (isIn("palette", it.key())) {
+            m_paletteNames.insert(it.key(), keyOf(it.key()));
+            names.take(keyOf(it.key()));
+        }
+    }
+    for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
+        const QString &path = it.key();
+        const bool isOurs = isIn("palette", path) || isIn("color", path) || isIn("gradient", path)
+            || isIn("integer", path);
+        const bool isColor = !isOurs && resolved(path).type == QLatin1String("color");
+        if (!m_mistake.isNull())
+            return;
+        if (isColor)
+            m_paletteNames.insert(path, names.make(path));
+    }
 }
 
 ThemeContent Reader::content()
 {
+    namePaletteEntries();
     ThemeContent theme;
-    for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
+    for (auto it = m_tokens.cbegin(); it != m_tokens.cend() && m_mistake.isNull(); ++it) {
         const QString &name = it.key();
-        const QString group = name.section(QLatin1Char('.'), 0, 0);
-        const QString key = name.section(QLatin1Char('.'), 1);
-        const bool isOurs = !key.isEmpty() && !key.contains(QLatin1Char('.'));
-        const FoundToken found = resolved(name);
-        if (isOurs && group == QLatin1String("palette"))
-            theme.palette.insert(key, color(name, found.value));
-        else if (isOurs && group == QLatin1String("color"))
-            theme.colors.insert(key, themeColor(name));
-        else if (isOurs && group == QLatin1String("gradient"))
-            theme.gradients.insert(key, gradient(name, found.value));
-        else if (isOurs && group == QLatin1String("integer"))
-            theme.integers.insert(key, integer(name, found.value));
-        else if (found.type == QLatin1String("color"))
-            theme.palette.insert(paletteName(name), color(name, found.value));
+        const QJsonValue value = resolved(name).value;
+        if (m_paletteNames.contains(name))
+            theme.palette.insert(m_paletteNames.value(name), color(name, value));
+        else if (isIn("color", name))
+            theme.colors.insert(keyOf(name), themeColor(name));
+        else if (isIn("gradient", name))
+            theme.gradients.insert(keyOf(name), gradient(name, value));
+        else if (isIn("integer", name))
+            theme.integers.insert(keyOf(name), integer(name, value));
     }
     return theme;
 }
 
+// Reads what is no token. \return one sentence about the first mistake, or a null text.
+QString readExtension(const QJsonObject &own, ThemeContent *theme)
+{
+    const auto text = [&](const char *key) { return own.value(QLatin1String(key)).toString(); };
+    QString mistake;
+    theme->name = text("name");
+    theme->displayName = text("displayName");
+    const QJsonObject flags = own.value(QStringLiteral("flags")).toObject();
+    for (auto it = flags.begin(); it != flags.end(); ++it) {
+        if (!it.value().isBool() && mistake.isNull())
+            mistake = QLatin1String("$extensions.hvtheme.flags.") % it.key()
+                % QLatin1String(": a flag is true or false");
+        theme->flags.insert(it.key(), it.value().toBool());
+    }
+    const QJsonObject images = own.value(QStringLiteral("imageFiles")).toObject();
+    for (auto it = images.begin(); it != images.end(); ++it) {
+        if (!it.value().isString() && mistake.isNull())
+            mistake = QLatin1String("$extensions.hvtheme.imageFiles.") % it.key()
+                % QLatin1String(": the path of an image is a text");
+        theme->imageFiles.insert(it.key(), it.value().toString());
+    }
+    return mistake;
+}
+
 } // namespace
+
+QMap<QString, QColor> wholePalette(const ThemeContent &tokens)
+{
+    QMap<QString, QColor> palette = tokens.palette;
+    PaletteNames names;
+    for (auto it = palette.cbegin(); it != palette.cend(); ++it)
+        names.take(it.key());
+    for (auto it = tokens.colors.cbegin(); it != tokens.colors.cend(); ++it)
+        palette.insert(names.make(QLatin1String("color.") % it.key()), it->color);
+    return palette;
+}
 
 std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error)
 {
@@ -358,14 +444,9 @@ std::optional<ThemeContent> readDesignTokens(const QByteArray &text, QString *er
         *error = reader.mistake();
         return std::nullopt;
     }
-    theme.name = own.value(QStringLiteral("name")).toString();
-    theme.displayName = own.value(QStringLiteral("displayName")).toString();
-    const QJsonObject flags = own.value(QStringLiteral("flags")).toObject();
-    for (auto it = flags.begin(); it != flags.end(); ++it)
-        theme.flags.insert(it.key(), it.value().toBool());
-    const QJsonObject images = own.value(QStringLiteral("imageFiles")).toObject();
-    for (auto it = images.begin(); it != images.end(); ++it)
-        theme.imageFiles.insert(it.key(), it.value().toString());
+    *error = readExtension(own, &theme);
+    if (!error->isNull())
+        return std::nullopt;
     return theme;
 }
 

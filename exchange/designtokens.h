@@ -30,14 +30,21 @@ std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error
  * \brief Reads design tokens of any author.
  *
  * Those of the four groups above become what they were. Any other colour becomes a palette entry,
- * named after its path: `brand.primary.500` is `brand_primary_500`. Tokens of other types are passed
- * over. Colours may be objects of the colour space sRGB, objects of any space with a `hex`, or text such
- * as `#3060f0` and `#3060f0ff`, the opacity last.
+ * named after its path: `brand.primary.500` is `brand_primary_500`, with a number behind it if there
+ * is such an entry already. A colour of ours that is an alias of an entry names it. Tokens of other
+ * types are passed over. Colours may be objects of the colour space sRGB, objects of any space with a
+ * `hex`, or text such as `#3060f0` and `#3060f0ff`, the opacity last.
  *
  * \return nothing, with one sentence in \a error that names the token, for a text that is no JSON,
  *         aliases in a circle or to nothing, and values that are not of their type.
  */
 std::optional<ThemeContent> readDesignTokens(const QByteArray &text, QString *error);
+
+/*!
+ * \brief Returns the palette of \a tokens with their colours in it as well: `color.primary` as
+ *        `color_primary`. Many call their palette so.
+ */
+QMap<QString, QColor> wholePalette(const ThemeContent &tokens);
 
 } // namespace Exchange
 

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <limits>
+#include <optional>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -46,32 +48,54 @@ bool canReplace(int newFile, const struct stat &old)
         && ::fchmod(newFile, old.st_mode & 07777) == 0;
 }
 
-bool writeAll(int file, const QByteArray &content)
+// Each call says how much it did; 0 bytes of a read is the end.
+template<typename Transfer>
+bool transferAll(qint64 size, Transfer transfer)
 {
-    for (qint64 written = 0; written < content.size();) {
-        const ssize_t count =
-            ::write(file, content.constData() + written, size_t(content.size() - written));
+    for (qint64 done = 0; done < size;) {
+        const ssize_t count = transfer(done, size_t(size - done));
         if (count < 0 && errno != EINTR)
             return false;
-        written += qMax(count, ssize_t(0));
+        if (count == 0) {
+            errno = EIO;
+            return false;
+        }
+        done += qMax(count, ssize_t(0));
     }
-    return ::ftruncate(file, content.size()) == 0;
+    return true;
 }
 
-// Returns 0 or the number of the error. Room is made first: a full disk leaves the file as it was.
-int writeInPlace(const QString &path, const QByteArray &content)
+bool writeAll(int file, const QByteArray &content)
 {
-    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
-    if (file < 0)
-        return errno;
-    int error = content.isEmpty() ? 0 : ::posix_fallocate(file, 0, content.size());
-    if (error == EOPNOTSUPP || error == EINVAL)
-        error = 0; // this file system cannot
-    if (error == 0 && !writeAll(file, content))
-        error = errno;
-    if (::close(file) != 0 && error == 0)
-        error = errno;
-    return error;
+    return transferAll(content.size(),
+                       [&](qint64 done, size_t rest) {
+                           return ::pwrite(file, content.constData() + done, rest, done);
+                       })
+        && ::ftruncate(file, content.size()) == 0;
+}
+
+bool readAll(int file, QByteArray *content)
+{
+    struct stat status = {};
+    if (::fstat(file, &status) != 0)
+        return false;
+    if (status.st_size > std::numeric_limits<int>::max()) {
+        errno = EFBIG;
+        return false;
+    }
+    content->resize(int(status.st_size));
+    return transferAll(status.st_size, [&](qint64 done, size_t rest) {
+        return ::pread(file, content->data() + done, rest, done);
+    });
+}
+
+// Returns 0 or the number of the error. Room is made first, for a full disk is the likeliest one.
+int tryInPlace(int file, const QByteArray &content)
+{
+    const int error = content.isEmpty() ? 0 : ::posix_fallocate(file, 0, content.size());
+    if (error != 0 && error != EOPNOTSUPP && error != EINVAL) // this file system cannot
+        return error;
+    return writeAll(file, content) ? 0 : errno;
 }
 
 } // namespace
@@ -79,6 +103,9 @@ int writeInPlace(const QString &path, const QByteArray &content)
 struct StagedFile::Old {
     struct stat status = {};
     bool isThere = false;
+    int file = -1; // open where it is written in place
+    std::optional<QByteArray> content; // if it may have to come back
+    bool isReplaced = false;
 };
 
 StagedFile::StagedFile(const QString &path)
@@ -87,7 +114,11 @@ StagedFile::StagedFile(const QString &path)
 {
 }
 
-StagedFile::~StagedFile() = default;
+StagedFile::~StagedFile()
+{
+    if (m_old->file >= 0)
+        ::close(m_old->file);
+}
 
 bool StagedFile::fail(const QString &reason, QString *error) const
 {
@@ -111,17 +142,63 @@ bool StagedFile::stage(const QByteArray &content, const QStringList &inputs, QSt
     // Not through the file's own write(), which has no reason to tell when the disk is full.
     if (!writeAll(m_file.handle(), content))
         return fail(systemReason(errno), error);
+    if (!m_old->isThere || canReplace(m_file.handle(), m_old->status))
+        return true;
+    m_file.cancelWriting();
+    m_old->file =
+        ::open(QFile::encodeName(m_file.fileName()).constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    return m_old->file >= 0 || fail(systemReason(errno), error);
+}
+
+bool StagedFile::writeInPlace(QString *error)
+{
+    const int number = tryInPlace(m_old->file, m_content);
+    if (number == 0)
+        return true;
+    const bool isAsBefore = writeAll(m_old->file, *m_old->content);
+    return fail(isAsBefore ? systemReason(number)
+                           : QString(systemReason(number)
+                                     % QLatin1String("; what was in it could not be put back")),
+                error);
+}
+
+bool StagedFile::keepOld(QString *error)
+{
+    if (!m_old->isThere || m_old->content)
+        return true;
+    const int file = m_old->file >= 0 ? m_old->file
+                                      : ::open(QFile::encodeName(m_file.fileName()).constData(),
+                                               O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    QByteArray content;
+    const bool isRead = file >= 0 && readAll(file, &content);
+    const int number = errno;
+    if (file >= 0 && file != m_old->file)
+        ::close(file);
+    if (!isRead)
+        return fail(systemReason(number), error);
+    m_old->content = content;
     return true;
 }
 
 bool StagedFile::commit(QString *error)
 {
-    if (m_old->isThere && !canReplace(m_file.handle(), m_old->status)) {
-        m_file.cancelWriting();
-        const int number = writeInPlace(m_file.fileName(), m_content);
-        return number == 0 || fail(systemReason(number), error);
-    }
-    return m_file.commit() || fail(m_file.errorString(), error);
+    m_old->isReplaced = m_old->file >= 0 ? keepOld(error) && writeInPlace(error)
+                                         : m_file.commit() || fail(m_file.errorString(), error);
+    return m_old->isReplaced;
+}
+
+bool StagedFile::takeBack()
+{
+    if (!m_old->isReplaced)
+        return true;
+    m_old->isReplaced = false;
+    if (!m_old->isThere)
+        return QFile::remove(m_file.fileName());
+    if (m_old->file >= 0)
+        return writeAll(m_old->file, *m_old->content);
+    QString error;
+    StagedFile former(m_file.fileName());
+    return m_old->content && former.stage(*m_old->content, {}, &error) && former.commit(&error);
 }
 
 bool writeFile(const QString &path, const QByteArray &content, const QStringList &inputs,

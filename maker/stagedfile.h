@@ -16,9 +16,11 @@ namespace Maker
 /*!
  * \brief A file that is written beside its place first and then put there: whole or not at all.
  *
- * Nobody ever reads a half. A file that is there keeps its owner, its permissions and its links: one
- * with several names, or of another user, is written in place, after the disk has made room for all
- * of it. Only a regular file is replaced, never a device. What is not committed leaves no trace.
+ * Nobody ever reads a half, with one exception. A file that is there keeps its owner, its permissions
+ * and its links, so one with several names, or of another user, is written in place: who reads it at
+ * that moment may find it half, and a crash leaves it so. The disk makes room for all of it first,
+ * and if anything fails it gets its old bytes back. Only a regular file is replaced, never a device.
+ * What is not committed leaves no trace.
  */
 class StagedFile
 {
@@ -32,15 +34,24 @@ public:
      *
      * \param inputs  files that the content was made from; none of them is overwritten, by whatever
      *                name.
-     * \return false if that cannot be; \a error is then one sentence that says why.
+     * \return false if that cannot be, or if it is known already that commit() could not; \a error is
+     *         then one sentence that says why.
      */
     bool stage(const QByteArray &content, const QStringList &inputs, QString *error);
 
     /*! \brief Puts in its place what was staged; result and \a error as above. */
     bool commit(QString *error);
 
+    /*! \brief Reads what is in the place, so that takeBack() can put it there again; before commit(). */
+    bool keepOld(QString *error);
+
+    /*! \brief Undoes commit(); needs keepOld(). \return false if that cannot be. */
+    bool takeBack();
+
 private:
     struct Old;
+
+    bool writeInPlace(QString *error);
 
     bool fail(const QString &reason, QString *error) const;
 

@@ -4,16 +4,12 @@
 #include <maker/themefiles.h>
 
 #include <format/themepath.h>
-#include <maker/stagedfile.h>
+#include <maker/stagedfiles.h>
 
 #include <QDir>
-#include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <memory>
-#include <vector>
 
 namespace Maker
 {
@@ -27,24 +23,21 @@ bool fail(const QString &message, QString *error)
     return false;
 }
 
-bool makeFolder(const QString &folder, QString *error)
-{
-    const QFileInfo info(folder);
-    if (info.exists() && !info.isDir())
-        return fail(folder % QLatin1String(": a file is in the way; name a folder"), error);
-    errno = 0;
-    if (info.isDir() || QDir().mkpath(folder))
-        return true;
-    const QString reason = errno != 0 ? QString::fromLocal8Bit(std::strerror(errno))
-                                      : QStringLiteral("no reason given");
-    return fail(folder % QLatin1String(": the folder cannot be made: ") % reason, error);
-}
-
 } // namespace
 
 bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool overwrites,
                      QString *error)
 {
+    QSet<QString> fileNames;
+    for (const MadeFile &file : files) {
+        const QString name = file.fileName.toLower(); // not every disk tells letters' cases apart
+        if (fileNames.contains(name))
+            return fail(QDir(folder).filePath(file.fileName)
+                            % QLatin1String(": two themes would be written to this file; name them "
+                                            "apart"),
+                        error);
+        fileNames.insert(name);
+    }
     QStringList present;
     for (const QString &name : listThemes(folder).names)
         present << themeFileName(name);
@@ -53,23 +46,14 @@ bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool
                         % present.join(QLatin1String(", "))
                         % QLatin1String("); name another folder, or write over them with --force"),
                     error);
-    const bool isNew = !QFileInfo::exists(folder);
-    if (!makeFolder(folder, error))
-        return false;
-    std::vector<std::unique_ptr<StagedFile>> staged;
-    bool isDone = std::all_of(files.cbegin(), files.cend(), [&](const MadeFile &file) {
-        staged.push_back(std::make_unique<StagedFile>(QDir(folder).filePath(file.fileName)));
-        return staged.back()->stage(file.content, {}, error);
-    });
-    isDone = isDone && std::all_of(staged.cbegin(), staged.cend(), [&](const auto &file) {
-                 return file->commit(error);
-             });
-    if (isDone)
-        return true;
-    staged.clear();
-    if (isNew)
-        QDir().rmdir(folder);
-    return false;
+    StagedFiles staged;
+    return staged.makeFolder(folder, error)
+        && std::all_of(files.cbegin(), files.cend(),
+                       [&](const MadeFile &file) {
+                           return staged.stage(QDir(folder).filePath(file.fileName), file.content,
+                                               error);
+                       })
+        && staged.commit(error);
 }
 
 QString writtenFiles(const QString &folder, const MadeThemes &made)

@@ -12,8 +12,10 @@ namespace Maker
 /*!
  * \brief Writes \a files into \a folder, which is made if it is not there: all of them or none.
  *
- * Every file is written beside its place first, so that a full disk leaves the folder as it was.
+ * Every file is written beside its place first, so that a full disk leaves the folder as it was; see
+ * StagedFiles.
  *
+ * \param files       of different names.
  * \param overwrites  whether the folder may hold theme files already; those of other names stay.
  * \return false if nothing was written; \a error is then one sentence that says why.
  */

@@ -6,6 +6,9 @@
 #include <analysis/theme/inputfile.h>
 #include <exchange/designtokens.h>
 #include <exchange/themewriter.h>
+#include <format/applicationkeys.h>
+#include <format/themepath.h>
+#include <maker/pairs.h>
 #include <maker/themefiles.h>
 #include <maker/themetext.h>
 #include <tools/commandline.h>
@@ -66,23 +69,46 @@ Maker::MadeThemes themesOfPalette(const Exchange::ThemeContent &tokens, const QS
     return made;
 }
 
+bool isColorOfTemplates(const QString &key)
+{
+    const QVector<Maker::ColorPair> &pairs = Maker::colorPairs();
+    return isOptionalColor(key)
+        || std::any_of(pairs.cbegin(), pairs.cend(), [&](const Maker::ColorPair &pair) {
+               return pair.foreground == key || pair.layers.contains(key);
+           });
+}
+
+// Tells whether this is a theme and not only colours: exported by the command, or with a colour that
+// the templates ask for.
+bool isTheme(const Exchange::ThemeContent &tokens)
+{
+    const QStringList keys = tokens.colors.keys();
+    return !keys.isEmpty()
+        && (!tokens.name.isEmpty() || std::any_of(keys.cbegin(), keys.cend(), isColorOfTemplates));
+}
+
+// The theme's name in file names: what was asked for, else the one in the tokens, if it can be that.
+QString nameOfTheme(const Exchange::ThemeContent &tokens, const QString &name)
+{
+    QString chosen = name.isEmpty() ? tokens.name : name;
+    if (chosen.isEmpty() || !Maker::isThemeName(chosen)
+        || chosen.compare(defaultThemeName(), Qt::CaseInsensitive) == 0)
+        chosen = QStringLiteral("imported");
+    return chosen.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+}
+
 std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens, const QString &name,
                                           QString *error)
 {
-    if (!tokens.colors.isEmpty()) {
-        const QString chosen = !name.isEmpty() ? name
-            : Maker::isThemeName(tokens.name) && !tokens.name.isEmpty()
-                && tokens.name != QLatin1String("default")
-            ? tokens.name
-            : QStringLiteral("imported");
-        Exchange::ThemeContent theme = tokens;
+    Exchange::ThemeContent theme = tokens;
+    if (isTheme(tokens)) {
         if (!name.isEmpty())
             theme.displayName = name;
-        return Exchange::themeFiles(
-            theme, chosen.toLower().replace(QLatin1Char(' '), QLatin1Char('-')), error);
+        return Exchange::themeFiles(theme, nameOfTheme(tokens, name), error);
     }
-    if (!tokens.palette.isEmpty())
-        return themesOfPalette(tokens, name);
+    theme.palette = Exchange::wholePalette(tokens);
+    if (!theme.palette.isEmpty())
+        return themesOfPalette(theme, name);
     *error = QStringLiteral("there is no token of the type color");
     return std::nullopt;
 }

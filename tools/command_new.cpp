@@ -3,6 +3,7 @@
 
 #include <tools/command_new.h>
 
+#include <analysis/theme/inputfile.h>
 #include <format/themepath.h>
 #include <maker/rebranding.h>
 #include <maker/themefiles.h>
@@ -14,7 +15,7 @@
 
 #include <QColor>
 #include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -110,19 +111,21 @@ bool readLooks(const QString &text, QVector<Maker::Look> *looks, QString *mistak
     return true;
 }
 
-std::optional<QByteArray> themeContent(const QString &path, QString *error)
+std::optional<QByteArray> themeContent(const QString &folder, const QString &theme, QString *error)
 {
-    QFile file(path);
+    const QString path = themeFilePath(folder, theme);
+    const QString suffix = themeFileName(QString());
     if (!QFileInfo(path).isFile()) {
         *error = path % QLatin1String(": no such theme file");
-    } else if (QFileInfo(path).size() > largestTheme) {
-        *error = path % QLatin1String(": larger than 16 MB, this is no theme file");
-    } else if (!file.open(QIODevice::ReadOnly)) {
-        *error = path % QLatin1String(": ") % file.errorString();
-    } else {
-        return file.readAll();
+        if (theme.endsWith(suffix))
+            *error +=
+                QLatin1String("; write ") % QDir(folder).filePath(theme.chopped(suffix.size()));
+        return std::nullopt;
     }
-    return std::nullopt;
+    const auto input = InputFile::read(path, largestTheme, error);
+    if (!input)
+        return std::nullopt;
+    return input->content();
 }
 
 // A copy of one theme, with its default file, in the colours of another brand if one is given.
@@ -131,10 +134,10 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
 {
     const QString folder = QFileInfo(from).path();
     const QString theme = QFileInfo(from).fileName();
-    const auto base = themeContent(themeFilePath(folder, defaultThemeName()), error);
+    const auto base = themeContent(folder, defaultThemeName(), error);
     if (!base)
         return std::nullopt;
-    const auto own = themeContent(themeFilePath(folder, theme), error);
+    const auto own = themeContent(folder, theme, error);
     if (!own)
         return std::nullopt;
     Maker::MadeThemes made;
@@ -180,6 +183,12 @@ QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, M
         return QStringLiteral(
             "--neutral, --looks, --text-contrast and --depth make a theme anew and "
             "do not go with --from");
+    if (isCopy
+        && QFileInfo(parser.value(known.from))
+                .fileName()
+                .compare(defaultThemeName(), Qt::CaseInsensitive)
+            == 0)
+        return QStringLiteral("--from: the default file is copied with each theme; name a theme");
     if (parser.isSet(known.brand)) {
         *brand = opaqueColor(QStringLiteral("brand"), parser.value(known.brand), &mistake);
         if (!*brand)

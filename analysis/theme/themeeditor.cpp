@@ -5,7 +5,7 @@
 
 #include <analysis/theme/changedtext.h>
 #include <format/themepath.h>
-#include <maker/stagedfile.h>
+#include <maker/stagedfiles.h>
 
 #include <QDir>
 #include <QFileInfo>
@@ -299,10 +299,7 @@ bool ThemeEditor::saveAs(const NewTheme &to, const QStringList &files, QString *
                                             "values from; choose an empty folder"),
                         error);
     }
-    if (!QDir().mkpath(to.folder))
-        return fail(to.folder % QLatin1String(": the folder cannot be made"), error);
-    Maker::StagedFile stagedBase(basePath);
-    Maker::StagedFile stagedOwn(ownPath);
-    return (hasBase || stagedBase.stage(*base, {}, error)) && stagedOwn.stage(*named, {}, error)
-        && (hasBase || stagedBase.commit(error)) && stagedOwn.commit(error);
+    Maker::StagedFiles staged;
+    return staged.makeFolder(to.folder, error) && (hasBase || staged.stage(basePath, *base, error))
+        && staged.stage(ownPath, *named, error) && staged.commit(error);
 }

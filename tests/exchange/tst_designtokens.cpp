@@ -19,6 +19,8 @@ private Q_SLOTS:
     void colors_data();
     void colors();
     void tokensOfOthers();
+    void paletteNames_data();
+    void paletteNames();
     void refused_data();
     void refused();
     void manyGroups();
@@ -140,6 +142,54 @@ void tst_DesignTokens::tokensOfOthers()
     QVERIFY(theme->colors.isEmpty() && theme->integers.isEmpty());
 }
 
+void tst_DesignTokens::paletteNames_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("palette");
+    QTest::addColumn<QString>("edge"); // the entry that color.Edge names
+
+    QTest::newRow("nested-palette")
+        << QByteArray(R"({"palette":{"$type":"color","blue":{"500":{"$value":"#3060f0"}}},
+                          "color":{"Edge":{"$value":"{palette.blue.500}"}}})")
+        << QStringList{"palette_blue_500"} << "palette_blue_500";
+    QTest::newRow("entry-without-a-type")
+        << QByteArray(R"({"palette":{"blue":{"500":{"$value":"#3060f0"}}},
+                          "color":{"Edge":{"$value":"{palette.blue.500}"}}})")
+        << QStringList() << "";
+    QTest::newRow("entry-of-ours") << QByteArray(R"({"palette":{"Ink":{"$value":"#3060f0"}},
+                          "color":{"Edge":{"$value":"{palette.Ink}"}}})")
+                                   << QStringList{"Ink"} << "Ink";
+    QTest::newRow("group-of-others")
+        << QByteArray(R"({"base":{"$type":"color","ink":{"$value":"#3060f0"}},
+                          "color":{"Edge":{"$value":"{base.ink}"}}})")
+        << QStringList{"base_ink"} << "base_ink";
+    QTest::newRow("color-of-a-color") << QByteArray(R"({"color":{"Ink":{"$value":"#3060f0"},
+                                                    "Edge":{"$value":"{color.Ink}"}}})")
+                                      << QStringList() << "";
+    QTest::newRow("one-name-for-two")
+        << QByteArray(R"({"brand":{"$type":"color","a-b":{"$value":"#123"},
+                                   "a_b":{"$value":"#3060f0"}},
+                          "palette":{"brand_a_b_2":{"$value":"#456"}},
+                          "color":{"Edge":{"$value":"{brand.a_b}"}}})")
+        << QStringList{"brand_a_b", "brand_a_b_2", "brand_a_b_3"} << "brand_a_b_3";
+}
+
+// What a colour names is there.
+void tst_DesignTokens::paletteNames()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, palette);
+    QFETCH(QString, edge);
+    QString error;
+    const auto theme = readDesignTokens(text, &error);
+    QVERIFY2(theme, qPrintable(error));
+    QCOMPARE(theme->palette.keys(), palette);
+    QCOMPARE(theme->colors.value("Edge").palette, edge);
+    QCOMPARE(theme->colors.value("Edge").color, QColor("#3060f0"));
+    if (!edge.isEmpty())
+        QCOMPARE(theme->palette.value(edge), QColor("#3060f0"));
+}
+
 void tst_DesignTokens::refused_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -169,6 +219,24 @@ void tst_DesignTokens::refused_data()
     QTest::newRow("alpha") << QByteArray(
         R"({"palette":{"a":{"$value":{"colorSpace":"srgb","components":[0,0,0],"alpha":2}}}})")
                            << "token palette.a: alpha is a number from 0 to 1";
+    QTest::newRow("alpha-as-text") << QByteArray(
+        R"({"palette":{"a":{"$value":{"colorSpace":"srgb","components":[0,0,0],"alpha":"0.5"}}}})")
+                                   << "token palette.a: alpha is a number from 0 to 1";
+    QTest::newRow("component")
+        << QByteArray(
+               R"({"palette":{"a":{"$value":{"colorSpace":"srgb","components":["red",0,0]}}}})")
+        << "token palette.a: a component of a colour is a number or \"none\"";
+    QTest::newRow("hex-as-number") << QByteArray(
+        R"({"palette":{"a":{"$value":{"colorSpace":"srgb","components":[0,0,0],"hex":7}}}})")
+                                   << "token palette.a: \"\" is no hex colour";
+    QTest::newRow("hex-as-word") << QByteArray(
+        R"({"palette":{"a":{"$value":{"colorSpace":"srgb","hex":"magenta"}}}})")
+                                 << "token palette.a: \"magenta\" is no hex colour";
+    QTest::newRow("flag") << QByteArray(R"({"$extensions":{"hvtheme":{"flags":{"Dark":1}}}})")
+                          << "$extensions.hvtheme.flags.Dark: a flag is true or false";
+    QTest::newRow("image") << QByteArray(
+        R"({"$extensions":{"hvtheme":{"imageFiles":{"add":null}}}})")
+                           << "$extensions.hvtheme.imageFiles.add: the path of an image is a text";
     QTest::newRow("integer") << QByteArray(R"({"integer":{"a":{"$value":"big"}}})")
                              << "token integer.a: it is no number and no dimension";
     QTest::newRow("unit") << QByteArray(R"({"integer":{"a":{"$value":{"value":1,"unit":"rem"}}}})")

@@ -14,6 +14,8 @@ private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
     void tokensOfOthers();
+    void importedFiles_data();
+    void importedFiles();
     void exportRefused_data();
     void exportRefused();
     void importRefused_data();
@@ -99,6 +101,49 @@ void tst_Exchange::tokensOfOthers()
     QVERIFY(base.contains("\nbrand_primary=#8A3324\n") && base.contains("\ngrey=#808080\n"));
     const CommandRun check({"check", place.filePath("made")});
     QVERIFY2(check.exitCode == 0, check.output.constData());
+}
+
+void tst_Exchange::importedFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QByteArray>("lines"); // of the default file
+
+    const QStringList looks{"contrast.theme", "dark.theme", "default.theme", "light.theme"};
+    QTest::newRow("group-color-of-others")
+        << QByteArray(R"({"color":{"$type":"color","primary":{"$value":"#8a3324"},
+                                   "text":{"$value":"#101010"}}})")
+        << looks << QByteArray("\ncolor_primary=#8A3324\ncolor_text=#101010\n");
+    QTest::newRow("color-of-the-templates")
+        << QByteArray(R"({"color":{"$type":"color","Color_W100":{"$value":"#8a3324"}}})")
+        << QStringList{"default.theme", "imported.theme"} << QByteArray("ThemeName=Default\n");
+    QTest::newRow("called-default")
+        << QByteArray(R"({"color":{"$type":"color","Color_W100":{"$value":"#8a3324"}},
+                          "palette":{"$type":"color","Ink":{"$value":"#101010"}},
+                          "$extensions":{"hvtheme":{"name":"Default"}}})")
+        << QStringList{"default.theme", "imported.theme"} << QByteArray("Ink=#101010\n");
+    QTest::newRow("strange-names")
+        << QByteArray("{\"palette\":{\"$type\":\"color\",\"\xe5\x93\x81\":{\"$value\":\"#101010\"},"
+                      "\";x\":{\"$value\":\"#202020\"},\"a=b\":{\"$value\":\"#303030\"},"
+                      "\"a\\n[Colors]\\nb\":{\"$value\":\"#404040\"}}}")
+        << looks
+        << QByteArray("\n%3Bx=#202020\na%0A%5BColors%5D%0Ab=#404040\na%3Db=#303030\n"
+                      "%U54C1=#101010\n");
+}
+
+void tst_Exchange::importedFiles()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QStringList, files);
+    QFETCH(QByteArray, lines);
+    const QTemporaryDir place;
+    const QString made = place.filePath("made");
+    const CommandRun run({"import", written(place, "tokens.json", content), made});
+    QCOMPARE(run.errors, QByteArray());
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(QDir(made).entryList(QDir::Files, QDir::Name), files);
+    const QByteArray base = contentOf(made + "/default.theme");
+    QVERIFY2(base.contains(lines), base.constData());
 }
 
 void tst_Exchange::exportRefused_data()

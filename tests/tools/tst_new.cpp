@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <unistd.h>
+
 // `hvtheme new`: what it writes passes the check, and what it cannot write leaves no trace.
 class tst_New : public QObject
 {
@@ -25,6 +27,9 @@ private Q_SLOTS:
     void keepsWhatIsThere();
     void copyNeverReplacesItsSource();
     void writesAllOrNothing();
+    void leavesNoFolders();
+    void keepsAllIfOneCannotBeWritten();
+    void writesInPlace();
 };
 
 namespace
@@ -197,6 +202,13 @@ void tst_New::refused_data()
                                   << QByteArray("nowhere/default.theme: no such theme file");
     QTest::newRow("from-no-theme") << QStringList{"OUT", "--from", "themes/dusk"}
                                    << QByteArray("themes/dusk.theme: no such theme file");
+    QTest::newRow("from-default") << QStringList{"OUT", "--from", "themes/default", "--brand",
+                                                 "red"}
+                                  << QByteArray("--from: the default file is copied with each "
+                                                "theme; name a theme");
+    QTest::newRow("from-with-suffix")
+        << QStringList{"OUT", "--from", "themes/night.theme"}
+        << QByteArray("themes/night.theme.theme: no such theme file; write themes/night\n");
     QTest::newRow("file-in-the-way") << QStringList{"OUT/file", "--brand", "red"}
                                      << QByteArray("a file is in the way; name a folder");
     QTest::newRow("read-only") << QStringList{"/proc", "--brand", "red"}
@@ -279,6 +291,64 @@ void tst_New::writesAllOrNothing()
     QCOMPARE(errors.count('\n'), 1);
     QCOMPARE(filesIn(folder.path()), QStringList{"default.theme"});
     QCOMPARE(contentOf(folder.path("default.theme")), QByteArray("[General]\nThemeName=Mine\n"));
+}
+
+// No folder stays of those that were made on the way.
+void tst_New::leavesNoFolders()
+{
+    const QTemporaryDir folder;
+    QProcess shell;
+    shell.start("sh",
+                {"-c", "trap '' XFSZ; ulimit -f 4; exec \"$@\"", "sh", commandPath(), "new",
+                 folder.filePath("some/where/new"), "--brand", "#3060F0"});
+    QVERIFY(shell.waitForFinished(20000));
+    QCOMPARE(shell.exitCode(), 2);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+// A file with two names is written in place, and nobody may write to a program that runs.
+void tst_New::keepsAllIfOneCannotBeWritten()
+{
+    const TemporaryTheme folder("[General]\nThemeName=Mine\n");
+    const QString program = folder.path("dark.theme");
+    const QString sleep = QStandardPaths::findExecutable("sleep");
+    if (sleep.isEmpty())
+        QSKIP("no program to run");
+    QVERIFY(QFile::copy(sleep, program));
+    QVERIFY(
+        ::link(program.toLocal8Bit().constData(), folder.path("other").toLocal8Bit().constData())
+        == 0);
+    const QByteArray before = contentOf(program);
+    QProcess running;
+    running.start(program, {"60"});
+    QVERIFY(running.waitForStarted());
+
+    const CommandRun run({"new", folder.path(), "--brand", "#3060F0", "--force"});
+    running.kill();
+    QVERIFY(running.waitForFinished());
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.errors, QString("hvtheme: %1: Text file busy\n").arg(program).toUtf8());
+    QCOMPARE(filesIn(folder.path()), QStringList({"dark.theme", "default.theme", "other"}));
+    QCOMPARE(contentOf(folder.path("default.theme")), QByteArray("[General]\nThemeName=Mine\n"));
+    QVERIFY(contentOf(program) == before);
+}
+
+// In place, a file becomes shorter and longer as it should, and stays one with its other name.
+void tst_New::writesInPlace()
+{
+    for (const int size : {0, 20, 200000}) {
+        const TemporaryTheme folder("[General]\nThemeName=Mine\n" + QByteArray(size, ';'));
+        const QByteArray other = folder.path("other").toLocal8Bit();
+        QVERIFY(::link(folder.path("default.theme").toLocal8Bit().constData(), other.constData())
+                == 0);
+        const QStringList options{"--brand", "#3060F0", "--force"};
+        QCOMPARE(CommandRun(QStringList{"new", folder.path()} + options).exitCode, 0);
+        const QTemporaryDir fresh;
+        QCOMPARE(CommandRun(QStringList{"new", fresh.path()} + options).exitCode, 0);
+        QCOMPARE(contentOf(folder.path("default.theme")),
+                 contentOf(fresh.filePath("default.theme")));
+        QCOMPARE(contentOf(folder.path("other")), contentOf(fresh.filePath("default.theme")));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_New)
