@@ -55,6 +55,12 @@ bool isShown(const Button &button, const QStyleOptionTitleBar &option)
     }
 }
 
+// Of a window in use, and not in a disabled one.
+bool isInUse(const QStyleOptionTitleBar &option)
+{
+    return option.titleBarState & QStyle::State_Active && option.state & QStyle::State_Enabled;
+}
+
 void drawIcon(QPainter &painter, const QIcon &icon, const QRect &area, bool isActive)
 {
     const int side = qMin(16, qMin(area.width(), area.height()));
@@ -66,7 +72,7 @@ void drawIcon(QPainter &painter, const QIcon &icon, const QRect &area, bool isAc
 void drawButtons(const QStyle &style, const QStyleOptionTitleBar &option, QPainter &painter,
                  const QWidget *widget, const QColor &ink)
 {
-    const bool isActive = (option.titleBarState & QStyle::State_Active) != 0;
+    const bool isActive = isInUse(option);
     for (const Button &button : buttons) {
         if (!isShown(button, option))
             continue;
@@ -88,7 +94,7 @@ void drawButtons(const QStyle &style, const QStyleOptionTitleBar &option, QPaint
 void drawTitleBar(const QStyle &style, const QStyleOptionTitleBar &option, QPainter &painter,
                   const QWidget *widget)
 {
-    const bool isActive = (option.titleBarState & QStyle::State_Active) != 0;
+    const bool isActive = isInUse(option);
     // A window keeps the palette of its title bar for itself, from one look to the next.
     const QPalette palette = widget ? widget->palette() : option.palette;
     const QColor &ink =

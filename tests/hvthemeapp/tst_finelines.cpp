@@ -4,6 +4,7 @@
 #include "quietplatform.h"
 
 #include <colormath/contrast.h>
+#include <hvtheme/theme.h>
 #include <hvthemeapp/applicationtheme.h>
 
 #include <QtTest>
@@ -27,6 +28,8 @@ private Q_SLOTS:
     void disabledIcon();
     void disabledArrow_data();
     void disabledArrow();
+    void disabledBrand_data();
+    void disabledBrand();
     void tabScroller_data();
     void tabScroller();
     void moreInToolBar_data();
@@ -310,6 +313,85 @@ void tst_FineLines::disabledArrow()
     const double disabled = contrastOf(false);
     QVERIFY2(enabled > 6 && disabled > 1.3 && disabled < 0.7 * enabled,
              qUtf8Printable(number(enabled) + " " + number(disabled)));
+}
+
+void tst_FineLines::disabledBrand_data()
+{
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<bool>("hasBrand"); // while it is enabled
+
+    const Make toolButton = [] {
+        auto *button = new QToolButton;
+        button->setText("Checked");
+        button->setAutoRaise(true);
+        button->setCheckable(true);
+        button->setChecked(true);
+        return static_cast<QWidget *>(button);
+    };
+    const Make tabs = [] {
+        auto *bar = new QTabBar;
+        bar->addTab("One");
+        bar->addTab("Two");
+        return static_cast<QWidget *>(bar);
+    };
+    const Make toolBox = [] {
+        auto *box = new QToolBox;
+        box->addItem(new QLabel("Page"), "One");
+        return static_cast<QWidget *>(box);
+    };
+    const Make innerWindow = [] {
+        auto *area = new QMdiArea;
+        area->addSubWindow(new QLabel("Inner"))->resize(120, 60);
+        return static_cast<QWidget *>(area);
+    };
+    const Make flat = [] {
+        auto *button = new QPushButton("Flat");
+        button->setFlat(true);
+        button->setAutoDefault(false);
+        return static_cast<QWidget *>(button);
+    };
+    for (const char *look : looks) {
+        QTest::addRow("%s-checked-tool-button", look) << look << toolButton << true;
+        QTest::addRow("%s-tab", look) << look << tabs << true;
+        QTest::addRow("%s-tool-box", look) << look << toolBox << true;
+        QTest::addRow("%s-inner-window", look) << look << innerWindow << true;
+        QTest::addRow("%s-flat-button", look) << look << flat << false;
+    }
+}
+
+// What cannot be used has neither the brand, nor an edge that it had not before.
+void tst_FineLines::disabledBrand()
+{
+    QFETCH(QString, look);
+    QFETCH(Make, make);
+    QFETCH(bool, hasBrand);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
+    const QColor highlight = theme.palette().color(QPalette::Highlight);
+    const QColor edge = theme.theme()->values().value("Color_Brand_6").value<QColor>();
+    QRgb corner[2] = {0, 0};
+    for (const bool enabled : {true, false}) {
+        QWidget window;
+        window.resize(200, 120);
+        QWidget *control = make();
+        control->setParent(&window);
+        control->setEnabled(enabled);
+        control->setGeometry(10, 10, 180, 100);
+        const QImage picture = pictureOf(window);
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor pixel(picture.pixel(x, y));
+                count += pixel == edge || pixel == highlight ? 1 : 0;
+            }
+        }
+        QCOMPARE(count > 0, enabled && hasBrand);
+        corner[enabled ? 1 : 0] = picture.pixel(12, 60); // on its left edge
+    }
+    if (!hasBrand)
+        QCOMPARE(corner[0], corner[1]);
 }
 
 void tst_FineLines::tabScroller_data()
