@@ -64,13 +64,10 @@ bool isBare(const QString &styleSheet)
 
 StyleMatch match(const StyleDeclaration &declaration, const StyleSelector &selector)
 {
-    const QLatin1String mark("!important");
     StyleMatch result;
     result.property = declaration.property.toLower();
-    result.value = declaration.value;
-    result.isImportant = declaration.value.endsWith(mark, Qt::CaseInsensitive);
-    if (result.isImportant)
-        result.value = declaration.value.chopped(mark.size()).trimmed();
+    result.value = declaration.plainValue();
+    result.isImportant = declaration.isImportant();
     result.selector = selector.text;
     result.specificity = selector.specificity();
     result.offset = declaration.start;

@@ -3,10 +3,24 @@
 
 #include <analysis/style/stylerules.h>
 
+#include <analysis/style/quotation.h>
+
 #include <algorithm>
 
 namespace
 {
+
+// Returns how much of a value stands before its "!important", or -1 if it has none.
+int sizeBeforeImportant(const QString &value)
+{
+    const QLatin1String word("important");
+    int size = int(value.size() - word.size());
+    if (!value.endsWith(word, Qt::CaseInsensitive))
+        return -1;
+    while (size > 0 && value.at(size - 1).isSpace())
+        --size;
+    return size > 0 && value.at(size - 1) == u'!' ? size - 1 : -1;
+}
 
 // Takes a text apart whose comments are blanked.
 class RuleScanner
@@ -66,21 +80,15 @@ private:
         return m_at < m_text.size();
     }
 
-    // Returns where the next brace or semicolon stands that is not quoted, or the text's end. As in
-    // style sheets, a line end closes a quotation that was left open.
+    // Returns where the next brace or semicolon stands that is not quoted, or the text's end.
     int endOfPart() const
     {
-        QChar quote;
+        Quotation quotation;
         for (int at = m_at; at < m_text.size(); ++at) {
             const QChar character = m_text.at(at);
-            if (!quote.isNull()) {
-                if (character == quote || character == u'\n')
-                    quote = QChar();
-            } else if (character == u'"' || character == u'\'') {
-                quote = character;
-            } else if (character == u'{' || character == u'}' || character == u';') {
+            if (!quotation.take(character)
+                && (character == u'{' || character == u'}' || character == u';'))
                 return at;
-            }
         }
         return int(m_text.size());
     }
@@ -90,6 +98,16 @@ private:
 };
 
 } // namespace
+
+bool StyleDeclaration::isImportant() const
+{
+    return sizeBeforeImportant(value) >= 0;
+}
+
+QString StyleDeclaration::plainValue() const
+{
+    return isImportant() ? value.left(sizeBeforeImportant(value)).trimmed() : value;
+}
 
 const StyleDeclaration *StyleRule::declarationAt(int offset) const
 {
@@ -102,15 +120,19 @@ const StyleDeclaration *StyleRule::declarationAt(int offset) const
 
 StyleRules::StyleRules(const QString &text)
 {
-    const QLatin1String opening("/*");
     const QLatin1String closing("*/");
     QString blanked = text;
-    for (int start = int(text.indexOf(opening)); start >= 0;) {
-        const int close = int(text.indexOf(closing, start + opening.size()));
+    Quotation quotation;
+    for (int at = 0; at < text.size(); ++at) {
+        const bool isOpening = !quotation.take(text.at(at)) && text.at(at) == u'/'
+            && at + 1 < text.size() && text.at(at + 1) == u'*';
+        if (!isOpening)
+            continue;
+        const int close = int(text.indexOf(closing, at + 2));
         const int end = int(close < 0 ? text.size() : close + closing.size());
-        m_comments.append({start, end, close >= 0});
-        std::fill(blanked.begin() + start, blanked.begin() + end, QChar(u' '));
-        start = int(text.indexOf(opening, end));
+        m_comments.append({at, end, close >= 0});
+        std::fill(blanked.begin() + at, blanked.begin() + end, QChar(u' '));
+        at = end - 1;
     }
     m_rules = RuleScanner(blanked).rules();
 }

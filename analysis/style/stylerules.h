@@ -15,6 +15,11 @@ struct StyleDeclaration {
     QString value; //!< without comments, blanks simplified
     int start = 0; //!< of the property
     int end = 0; //!< behind the value
+
+    /*! \brief Tells whether the value ends in `!important`, which Qt reads and takes no notice of. */
+    bool isImportant() const;
+    /*! \brief Returns the value without `!important`. */
+    QString plainValue() const;
 };
 
 /*! \brief One `selector { … }` of a style sheet; offsets into its text. */
@@ -33,8 +38,8 @@ struct StyleRule {
  * \brief The rules of a style sheet or template, and where they stand in its text.
  *
  * Found by braces, semicolons, quotation marks and comments alone, so that a template, which is no
- * style sheet yet, is understood as well. Whether Qt accepts the rules is not said here. Takes time
- * linear in the text.
+ * style sheet yet, is understood as well. As in Qt, no comment begins in quotation marks. Whether Qt
+ * accepts the rules is not said here. Takes time linear in the text.
  */
 class StyleRules
 {

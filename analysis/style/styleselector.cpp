@@ -3,6 +3,7 @@
 
 #include <analysis/style/styleselector.h>
 
+#include <analysis/style/quotation.h>
 #include <analysis/style/stylevocabulary.h>
 
 namespace
@@ -243,18 +244,13 @@ StyleSelector StyleSelector::parsed(const QString &text, int offset, int *looks)
 QVector<StyleSelector> StyleSelector::parsedList(const QString &text, int offset)
 {
     QVector<StyleSelector> selectors;
-    QChar quote;
+    Quotation quotation;
     int start = 0;
     for (int at = 0; at <= text.size(); ++at) {
-        const QChar character = at < text.size() ? text.at(at) : QChar();
-        if (at == text.size() || (quote.isNull() && character == u',')) {
-            selectors.append(parsed(text.mid(start, at - start), offset + start));
-            start = at + 1;
-        } else if (!quote.isNull()) {
-            quote = character == quote || character == u'\n' ? QChar() : quote;
-        } else if (character == u'"' || character == u'\'') {
-            quote = character;
-        }
+        if (at < text.size() && (quotation.take(text.at(at)) || text.at(at) != u','))
+            continue;
+        selectors.append(parsed(text.mid(start, at - start), offset + start));
+        start = at + 1;
     }
     return selectors;
 }

@@ -14,6 +14,9 @@ private Q_SLOTS:
     void rules();
     void positions();
     void comments();
+    void quotedComments();
+    void important_data();
+    void important();
 };
 
 namespace
@@ -52,6 +55,8 @@ void tst_StyleRules::rules_data()
                                     << "A{} B{}";
     QTest::newRow("nothing-between") << "A{b:c}D{e:f}"
                                      << "A{b=c} D{e=f}";
+    QTest::newRow("escape-in-selector-list") << "A[b='\\',c'], D { e: f }"
+                                             << "A[b='\\',c'], D{e=f}";
     QTest::newRow("selector-list") << "A,\n  B:hover { c: d }"
                                    << "A, B:hover{c=d}";
     QTest::newRow("value-over-lines") << "A{b: c\n   d}"
@@ -66,6 +71,20 @@ void tst_StyleRules::rules_data()
                             << "A{b='};{';c=\"}\"}";
     QTest::newRow("open-quote") << "A{b:'c\n}D{e:f}"
                                 << "A{b='c} D{e=f}";
+    QTest::newRow("open-quote-at-comment") << "A{b:'c /* d\n}E{f:g}"
+                                           << "A{b='c /* d} E{f=g}";
+    QTest::newRow("quoted-comment") << "A{b:\"c /* d\";e:f}G[h='/*']{i:j}"
+                                    << "A{b=\"c /* d\";e=f} G[h='/*']{i=j}";
+    QTest::newRow("quote-in-comment") << "A{/* it's \"so\" */b:c}/*'*/D{e:f}"
+                                      << "A{b=c} D{e=f}";
+    QTest::newRow("escaped-quote") << "A{b:\"c\\\"};\";d:e}"
+                                   << "A{b=\"c\\\"};\";d=e}";
+    QTest::newRow("escaped-backslash") << "A{b:\"c\\\\\";d:e}"
+                                       << "A{b=\"c\\\\\";d=e}";
+    QTest::newRow("escaped-line-end") << "A{b:\"c\\\n;}\";d:e}"
+                                      << "A{b=\"c\\ ;}\";d=e}";
+    QTest::newRow("escaped-quote-unquoted") << "A{b:\\\"c;d:e}"
+                                            << "A{b=\\\"c;d=e}";
     QTest::newRow("open-brace") << "A{b:c"
                                 << "A{b=c}";
     QTest::newRow("stray-brace") << "} A{b:c}"
@@ -109,6 +128,44 @@ void tst_StyleRules::comments()
     QVERIFY(rules.isComment(int(text.indexOf('b'))));
     QVERIFY(!rules.isComment(int(text.indexOf('c'))));
     QVERIFY(rules.isComment(int(text.indexOf('d'))));
+}
+
+void tst_StyleRules::quotedComments()
+{
+    const QString text = "A{b:\"/*c*/ /*d\"} /*e*/";
+    const StyleRules rules(text);
+    QCOMPARE(rules.comments().size(), 1);
+    QCOMPARE(rules.comments().constFirst().start, int(text.lastIndexOf("/*")));
+    QVERIFY(rules.comments().constFirst().isClosed);
+}
+
+void tst_StyleRules::important_data()
+{
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("plain");
+    QTest::addColumn<bool>("isImportant");
+
+    QTest::newRow("without") << "red"
+                             << "red" << false;
+    QTest::newRow("with") << "red !important"
+                          << "red" << true;
+    QTest::newRow("close") << "red!IMPORTANT"
+                           << "red" << true;
+    QTest::newRow("apart") << "red ! /**/ important"
+                           << "red" << true;
+    QTest::newRow("word") << "very important"
+                          << "very important" << false;
+    QTest::newRow("alone") << "!important"
+                           << "" << true;
+}
+
+void tst_StyleRules::important()
+{
+    QFETCH(QString, value);
+    const StyleRules rules("A{b:" + value + "}");
+    const StyleDeclaration &declaration = rules.rules().constFirst().declarations.constFirst();
+    QTEST(declaration.plainValue(), "plain");
+    QTEST(declaration.isImportant(), "isImportant");
 }
 
 QTEST_GUILESS_MAIN(tst_StyleRules)
