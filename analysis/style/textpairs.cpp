@@ -6,20 +6,71 @@
 #include <analysis/style/stylevocabulary.h>
 
 #include <QHash>
+#include <QPair>
 #include <QSet>
+
+#include <algorithm>
+#include <utility>
 
 namespace
 {
 
-// More conditions than these on one selector would make too many combinations to look up.
-constexpr int conditionLimit = 10;
+// Sorted, each once.
+using Numbers = QVector<int>;
 
-QString bucketName(const QString &part, const QString &type, const QStringList &conditions)
+// Gives words numbers, of which sets are compared faster.
+class Words
 {
-    return part % QLatin1Char('\n') % type % QLatin1Char('\n') % conditions.join(QLatin1Char('\n'));
+public:
+    int number(const QString &word)
+    {
+        const auto known = m_numbers.constFind(word);
+        return known != m_numbers.cend() ? *known : *m_numbers.insert(word, int(m_numbers.size()));
+    }
+
+    Numbers numbers(const QStringList &words)
+    {
+        Numbers numbers;
+        for (const QString &word : words)
+            numbers.append(number(word));
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+        return numbers;
+    }
+
+    // What a more general selector may say where this one says the type.
+    Numbers typeAndBases(const QString &type)
+    {
+        const int own = number(type);
+        if (!m_bases.contains(own))
+            m_bases.insert(own, numbers(StyleVocabulary::typeAndBases(type)));
+        return m_bases.value(own);
+    }
+
+private:
+    QHash<QString, int> m_numbers;
+    QHash<int, Numbers> m_bases;
+};
+
+struct NumberedStep {
+    int type = 0;
+    Numbers types; // with the bases
+    Numbers conditions;
+    bool isChild = false;
+};
+
+bool holdsAll(const Numbers &wanted, const Numbers &held)
+{
+    return std::includes(held.cbegin(), held.cend(), wanted.cbegin(), wanted.cend());
 }
 
-QStringList stepConditions(const StyleSelector::Step &step)
+bool holds(const NumberedStep &general, const NumberedStep &specific)
+{
+    return std::binary_search(specific.types.cbegin(), specific.types.cend(), general.type)
+        && holdsAll(general.conditions, specific.conditions);
+}
+
+Numbers stepConditions(const StyleSelector::Step &step, Words *words)
 {
     QStringList conditions;
     for (const QString &id : step.ids)
@@ -27,8 +78,35 @@ QStringList stepConditions(const StyleSelector::Step &step)
     for (const StyleSelector::Attribute &attribute : step.attributes)
         conditions << QStringLiteral("[%1%2").arg(int(attribute.match)).arg(attribute.name)
                 % QLatin1Char('=') % attribute.value;
-    conditions.sort();
-    return conditions;
+    return words->numbers(conditions);
+}
+
+QVector<NumberedStep> stepsOf(const StyleSelector &selector, Words *words)
+{
+    QVector<NumberedStep> steps;
+    for (const StyleSelector::Step &step : selector.steps)
+        steps.append({words->number(step.type), words->typeAndBases(step.type),
+                      stepConditions(step, words),
+                      step.combinator == StyleSelector::Combinator::Child});
+    return steps;
+}
+
+bool areWherever(const QVector<NumberedStep> &general, const QVector<NumberedStep> &specific)
+{
+    if (!holds(general.constLast(), specific.constLast()))
+        return false;
+    int from = int(specific.size() - 1);
+    for (int i = int(general.size() - 2); i >= 0; --i) {
+        const bool wantsParent = general.at(i + 1).isChild;
+        if (wantsParent && (from == 0 || !specific.at(from).isChild))
+            return false;
+        --from;
+        while (from >= 0 && !wantsParent && !holds(general.at(i), specific.at(from)))
+            --from;
+        if (from < 0 || !holds(general.at(i), specific.at(from)))
+            return false;
+    }
+    return true;
 }
 
 QStringList stateListOf(const StyleSelector &selector)
@@ -37,28 +115,7 @@ QStringList stateListOf(const StyleSelector &selector)
     const QVector<StyleSelector::Pseudo> states = selector.states();
     for (const StyleSelector::Pseudo &state : states)
         names << state.text().toLower();
-    names.sort();
     return names;
-}
-
-QStringList allConditions(const StyleSelector &selector)
-{
-    QStringList conditions = stepConditions(selector.subject());
-    const QStringList states = stateListOf(selector);
-    for (const QString &state : states)
-        conditions << QLatin1Char(':') + state;
-    return conditions.mid(0, conditionLimit);
-}
-
-bool holds(const StyleSelector::Step &general, const StyleSelector::Step &specific)
-{
-    if (general.type != QLatin1String("*") && general.type != specific.type
-        && !StyleVocabulary::typeAndBases(specific.type).contains(general.type))
-        return false;
-    const QStringList held = stepConditions(specific);
-    const QStringList wanted = stepConditions(general);
-    return std::all_of(wanted.cbegin(), wanted.cend(),
-                       [&held](const QString &condition) { return held.contains(condition); });
 }
 
 bool showsText(const QString &part)
@@ -108,12 +165,13 @@ public:
             for (const StyleSelector &selector : rules.rules().at(i).selectors)
                 add(selector, rules.rules().at(i), i);
         }
+        fillBuckets();
     }
 
-    QVector<TextPair> pairs() const
+    QVector<TextPair> pairs()
     {
         QVector<TextPair> result;
-        for (const Entry &entry : m_entries) {
+        for (const Entry &entry : qAsConst(m_entries)) {
             const QString type = entry.selector.subject().type;
             const QStringList states = stateListOf(entry.selector);
             if (states.contains(QStringLiteral("disabled"))
@@ -127,11 +185,22 @@ public:
     }
 
 private:
+    struct Value {
+        StyleValue value;
+        qint64 weight = 0; // of its rule, as Qt compares those of one style sheet
+    };
     struct Entry {
         StyleSelector selector;
-        int weight = 0; // as Qt compares rules of one style sheet
-        QHash<QString, StyleValue> values; // by property
+        QVector<NumberedStep> steps;
+        Numbers states;
+        QHash<QString, Value> values; // by property
     };
+    struct Candidate {
+        int entry;
+        qint64 weight;
+    };
+    // The number of a property, then of a sub-control, a type and a demand.
+    using BucketKey = QPair<QPair<int, int>, QPair<int, int>>;
 
     // Equal selectors share an entry, so that templates which repeat themselves cost no more.
     void add(const StyleSelector &selector, const StyleRule &rule, int number)
@@ -143,45 +212,111 @@ private:
             return;
         if (!m_byText.contains(selector.text)) {
             m_byText.insert(selector.text, int(m_entries.size()));
-            m_buckets[bucketName(selector.subControl(), selector.subject().type,
-                                 allConditions(selector))]
-                .append(int(m_entries.size()));
-            m_entries.append({selector, 0, {}});
+            m_entries.append({selector,
+                              stepsOf(selector, &m_words),
+                              m_words.numbers(stateListOf(selector)),
+                              {}});
         }
         Entry &entry = m_entries[m_byText.value(selector.text)];
-        entry.weight = number + selector.specificity() * 0x100;
+        const qint64 weight = number + qint64(selector.specificity()) * 0x100;
         for (const StyleDeclaration &declaration : rule.declarations) {
             const QString property = settled(declaration.property);
-            if (wanted.contains(property))
-                entry.values.insert(property, {declaration.value, declaration.start});
+            const QString value = declaration.plainValue();
+            if (wanted.contains(property) && !value.isEmpty())
+                entry.values.insert(property, {{value, declaration.start}, weight});
         }
     }
 
-    StyleValue value(const StyleSelector &where, const QString &part, const QStringList &conditions,
-                     const QString &property) const
+    // What a selector asks for, and what it has for others that ask: conditions, states, types of
+    // ancestors. What is said of ancestors has odd numbers.
+    static QSet<int> demands(const Entry &entry)
     {
-        const QStringList types = StyleVocabulary::typeAndBases(where.subject().type);
-        const Entry *best = nullptr;
-        for (uint chosen = 0; chosen < 1U << uint(conditions.size()); ++chosen) {
-            QStringList subset;
-            for (int i = 0; i < conditions.size(); ++i) {
-                if (chosen & (1U << uint(i)))
-                    subset << conditions.at(i);
-            }
-            for (const QString &type : types) {
-                const QVector<int> bucket = m_buckets.value(bucketName(part, type, subset));
-                for (const int index : bucket) {
-                    const Entry &entry = m_entries.at(index);
-                    if (entry.values.contains(property) && isWherever(entry.selector, where)
-                        && (!best || entry.weight > best->weight))
-                        best = &entry;
-                }
-            }
+        QSet<int> demands;
+        for (const int condition : entry.steps.constLast().conditions + entry.states)
+            demands.insert(condition * 2);
+        for (int i = 0; i + 1 < entry.steps.size(); ++i) {
+            demands.insert(entry.steps.at(i).type * 2 + 1);
+            for (const int condition : entry.steps.at(i).conditions)
+                demands.insert(condition * 2 + 1);
         }
-        return best ? best->values.value(property) : StyleValue();
+        return demands;
     }
 
-    void appendPairs(const Entry &entry, QVector<TextPair> *result) const
+    static QSet<int> offers(const Entry &entry)
+    {
+        QSet<int> offers = demands(entry);
+        for (int i = 0; i + 1 < entry.steps.size(); ++i) {
+            for (const int type : entry.steps.at(i).types)
+                offers.insert(type * 2 + 1);
+        }
+        return offers;
+    }
+
+    // Each entry stands where only those look that have the rarest of what it demands, so that many
+    // that differ in some word are not all compared with each other.
+    void fillBuckets()
+    {
+        QHash<int, int> counts;
+        for (const Entry &entry : qAsConst(m_entries)) {
+            const QSet<int> all = demands(entry);
+            for (const int demand : all)
+                ++counts[demand];
+        }
+        for (int i = 0; i < m_entries.size(); ++i) {
+            const Entry &entry = m_entries.at(i);
+            const QSet<int> all = demands(entry);
+            int rarest = noDemand;
+            for (const int demand : all) {
+                if (rarest == noDemand || counts.value(demand) < counts.value(rarest))
+                    rarest = demand;
+            }
+            const int part = m_words.number(entry.selector.subControl());
+            for (auto it = entry.values.cbegin(); it != entry.values.cend(); ++it)
+                m_buckets[{{m_words.number(it.key()), part},
+                           {entry.steps.constLast().type, rarest}}]
+                    .append({i, it->weight});
+        }
+        for (QVector<Candidate> &bucket : m_buckets)
+            std::sort(bucket.begin(), bucket.end(), [](const Candidate &a, const Candidate &b) {
+                return std::make_pair(-a.weight, a.entry) < std::make_pair(-b.weight, b.entry);
+            });
+    }
+
+    // Returns what is in force for a part of the selector's widget; of a part that is not the
+    // selector's own nothing is known about its states.
+    StyleValue value(const Entry &where, const QString &part, const QString &property)
+    {
+        const Numbers states = part == where.selector.subControl() ? where.states : Numbers();
+        const QPair<int, int> place{m_words.number(property), m_words.number(part)};
+        QSet<int> offered = offers(where);
+        offered.insert(noDemand);
+        Candidate best{-1, -1};
+        for (const int type : where.steps.constLast().types) {
+            for (const int offer : qAsConst(offered)) {
+                const auto bucket = m_buckets.constFind({place, {type, offer}});
+                if (bucket != m_buckets.cend())
+                    search(*bucket, where, states, &best);
+            }
+        }
+        return best.entry < 0 ? StyleValue() : m_entries.at(best.entry).values[property].value;
+    }
+
+    void search(const QVector<Candidate> &bucket, const Entry &where, const Numbers &states,
+                Candidate *best) const
+    {
+        for (const Candidate &candidate : bucket) {
+            if (std::make_pair(candidate.weight, -candidate.entry)
+                <= std::make_pair(best->weight, -best->entry))
+                return;
+            const Entry &entry = m_entries.at(candidate.entry);
+            if (!holdsAll(entry.states, states) || !areWherever(entry.steps, where.steps))
+                continue;
+            *best = candidate;
+            return;
+        }
+    }
+
+    void appendPairs(const Entry &entry, QVector<TextPair> *result)
     {
         const QString properties[][2] = {
             {QStringLiteral("color"), QStringLiteral("background-color")},
@@ -195,30 +330,30 @@ private:
         }
     }
 
-    TextPair pair(const Entry &entry, const QString &foreground, const QString &background) const
+    TextPair pair(const Entry &entry, const QString &foreground, const QString &background)
     {
-        const StyleSelector &selector = entry.selector;
-        const QString part = selector.subControl();
-        const QStringList conditions = allConditions(selector);
+        const QString part = entry.selector.subControl();
         TextPair result;
-        result.selector = selector;
-        result.foreground = value(selector, part, conditions, foreground);
-        result.backgrounds.append(value(selector, part, conditions, background));
+        result.selector = entry.selector;
+        result.foreground = value(entry, part, foreground);
+        result.backgrounds.append(value(entry, part, background));
         if (!part.isEmpty()) {
-            const QStringList ofWidget = stepConditions(selector.subject());
             if (result.foreground.offset < 0)
-                result.foreground = value(selector, QString(), ofWidget, foreground);
-            result.backgrounds.append(value(selector, QString(), ofWidget, background));
+                result.foreground = value(entry, QString(), foreground);
+            result.backgrounds.append(value(entry, QString(), background));
         }
         const bool setsBoth =
             entry.values.contains(foreground) && entry.values.contains(background);
-        result.drawsText = setsBoth || isTextWidget(selector.subject().type);
+        result.drawsText = setsBoth || isTextWidget(entry.selector.subject().type);
         return result;
     }
 
+    static constexpr int noDemand = -1;
+
+    Words m_words;
     QVector<Entry> m_entries;
     QHash<QString, int> m_byText;
-    QHash<QString, QVector<int>> m_buckets;
+    QHash<BucketKey, QVector<Candidate>> m_buckets;
 };
 
 } // namespace
@@ -230,21 +365,6 @@ QVector<TextPair> textPairs(const StyleRules &rules)
 
 bool isWherever(const StyleSelector &general, const StyleSelector &specific)
 {
-    const auto isChild = [](const StyleSelector::Step &step) {
-        return step.combinator == StyleSelector::Combinator::Child;
-    };
-    if (!holds(general.subject(), specific.subject()))
-        return false;
-    int from = int(specific.steps.size() - 1);
-    for (int i = int(general.steps.size() - 2); i >= 0; --i) {
-        const bool wantsParent = isChild(general.steps.at(i + 1));
-        if (wantsParent && (from == 0 || !isChild(specific.steps.at(from))))
-            return false;
-        --from;
-        while (from >= 0 && !wantsParent && !holds(general.steps.at(i), specific.steps.at(from)))
-            --from;
-        if (from < 0 || !holds(general.steps.at(i), specific.steps.at(from)))
-            return false;
-    }
-    return true;
+    Words words;
+    return areWherever(stepsOf(general, &words), stepsOf(specific, &words));
 }

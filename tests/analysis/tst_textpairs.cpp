@@ -14,6 +14,8 @@ private Q_SLOTS:
     void isWherever();
     void pairs_data();
     void pairs();
+    void manySelectors_data();
+    void manySelectors();
 };
 
 void tst_TextPairs::isWherever_data()
@@ -73,6 +75,19 @@ void tst_TextPairs::pairs_data()
     QTest::newRow("specific-wins")
         << "QLabel[x=y] { color: a } QLabel { color: b } QLabel[x=y]:hover { background: c }"
         << QStringList("QLabel[x=y]:hover: a on c");
+    QTest::newRow("weight-of-each-declaration")
+        << "QLabel { color: a } QFrame { color: b } QLabel { background: c }"
+        << QStringList({"QLabel: b on c"});
+    QTest::newRow("property-again")
+        << "QLabel { color: a } QLabel { color: b } QLabel { background: c }"
+        << QStringList({"QLabel: b on c"});
+    QTest::newRow("important") << "QLabel { color: a !important; background: b!important }"
+                               << QStringList("QLabel: a on b");
+    QTest::newRow("important-changes-nothing")
+        << "QLabel { color: a !important } QLabel { color: b; background: c }"
+        << QStringList("QLabel: b on c");
+    QTest::newRow("no-value") << "QLabel { color: a; background: c } QLabel { color: ; }"
+                              << QStringList("QLabel: a on c");
     QTest::newRow("part-over-widget")
         << "QMenu { color: a; background: b } QMenu::item:selected { background: c }"
         << QStringList({"QMenu: a on b", "QMenu::item:selected: a on c, b"});
@@ -104,6 +119,35 @@ void tst_TextPairs::pairs()
                     + backgrounds.join(", ") + (pair.drawsText ? "" : "?");
     }
     QCOMPARE(found, expected);
+}
+
+void tst_TextPairs::manySelectors_data()
+{
+    QTest::addColumn<QString>("rule"); // %1 is a number
+    QTest::addColumn<int>("count");
+
+    const QString body = " { color: a%1; background: b }\n";
+    QTest::newRow("ancestors") << "A%1 QLabel" + body << 10000;
+    QTest::newRow("values") << "QLabel[a=x%1]" + body << 10000;
+    QTest::newRow("states-and-values") << "QLabel[a=x%1]:hover" + body << 10000;
+    QString conditions;
+    for (int i = 0; i < 20; ++i)
+        conditions += QStringLiteral("[a%1=x%2]").arg(QString::number(i), QStringLiteral("%1"));
+    QTest::newRow("conditions") << "QLabel" + conditions + body << 2000;
+}
+
+// None of them is in force where another is; the time must not grow with the square of their number.
+void tst_TextPairs::manySelectors()
+{
+    QFETCH(QString, rule);
+    QFETCH(int, count);
+    QString styleSheet;
+    for (int i = 0; i < count; ++i)
+        styleSheet += QString(rule).replace("%1", QString::number(i));
+    const QVector<TextPair> pairs = textPairs(StyleRules(styleSheet));
+    QCOMPARE(int(pairs.size()), count);
+    for (int i = 0; i < count; ++i)
+        QCOMPARE(pairs.at(i).foreground.text, "a" + QString::number(i));
 }
 
 QTEST_GUILESS_MAIN(tst_TextPairs)
