@@ -37,8 +37,18 @@ MessageLog::MessageLog(Listener listener)
 MessageLog::~MessageLog()
 {
     const QWriteLocker locker(chainLock());
-    qInstallMessageHandler(m_previous);
-    s_innermost = m_outer;
+    if (s_innermost == this) {
+        qInstallMessageHandler(m_previous);
+        s_innermost = m_outer;
+        return;
+    }
+    // Another thread's log was made later and still hears.
+    MessageLog *inner = s_innermost;
+    while (inner->m_outer != this)
+        inner = inner->m_outer;
+    inner->m_outer = m_outer;
+    if (inner->m_previous == handle)
+        inner->m_previous = m_previous;
 }
 
 void MessageLog::handle(QtMsgType type, const QMessageLogContext &context, const QString &text)

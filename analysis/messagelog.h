@@ -21,8 +21,8 @@ struct LoggedMessage {
 /*!
  * \brief Qt's messages for as long as it lives: those of a piece of work, or all there are.
  *
- * Logs may be nested; what one does not keep goes on to the one around it, and at last to the handler
- * that was there before. Make and destroy them on one thread, the innermost first.
+ * Logs may be nested; what one does not keep goes on to the one that was made before it, and at last
+ * to the handler that was there before. Several threads may make logs, each ends its own, in any order.
  */
 class MessageLog
 {

@@ -7,6 +7,7 @@
 #include <QtTest>
 
 #include <atomic>
+#include <memory>
 #include <thread>
 
 // A handler of the program's own stands behind the logs and hears what they do not keep.
@@ -22,6 +23,9 @@ private Q_SLOTS:
     void innermostKeeps();
     void listenerDecides();
     void endWaitsForListeners();
+    void anyOrder_data();
+    void anyOrder();
+    void twoThreads();
 
 private:
     QtMessageHandler m_before = nullptr;
@@ -128,6 +132,66 @@ void tst_MessageLog::endWaitsForListeners()
     const bool wasDone = isDone;
     other.join();
     QVERIFY(wasDone);
+}
+
+void tst_MessageLog::anyOrder_data()
+{
+    QTest::addColumn<QVector<int>>("order");
+    QTest::addColumn<QStringList>("heard"); // by the logs that are left, after each end
+
+    // clang-format off
+    QTest::newRow("innermost-first") << QVector<int>{2, 1, 0} << QStringList{"10", "0", ""};
+    QTest::newRow("outermost-first") << QVector<int>{0, 1, 2} << QStringList{"21", "2", ""};
+    QTest::newRow("middle-first")    << QVector<int>{1, 0, 2} << QStringList{"20", "2", ""};
+    QTest::newRow("middle-last")     << QVector<int>{2, 0, 1} << QStringList{"10", "1", ""};
+    // clang-format on
+}
+
+void tst_MessageLog::anyOrder()
+{
+    QFETCH(QVector<int>, order);
+    QFETCH(QStringList, heard);
+    QString hearers;
+    std::unique_ptr<MessageLog> logs[3];
+    for (int i = 0; i < 3; ++i)
+        logs[i] = std::make_unique<MessageLog>([&hearers, i](const LoggedMessage &) {
+            hearers += QString::number(i);
+            return true;
+        });
+    for (int i = 0; i < order.size(); ++i) {
+        logs[order.at(i)].reset();
+        hearers.clear();
+        qWarning("message");
+        QCOMPARE(hearers, heard.at(i));
+        QCOMPARE(int(passedOn.size()), i + 1);
+    }
+}
+
+// A thread's log outlives that of another, which began before it.
+void tst_MessageLog::twoThreads()
+{
+    QSemaphore isMade;
+    QSemaphore isOtherEnded;
+    QStringList kept;
+    auto first = std::make_unique<MessageLog>();
+    std::thread other([&] {
+        MessageLog second;
+        isMade.release();
+        isOtherEnded.acquire();
+        qWarning("of the other");
+        kept = textsOf(second.take());
+    });
+    isMade.acquire();
+    qWarning("of this one");
+    const QStringList keptHere = textsOf(first->messages());
+    first.reset();
+    qWarning("behind");
+    isOtherEnded.release();
+    other.join();
+    qWarning("behind all");
+    QCOMPARE(keptHere, QStringList("of this one"));
+    QCOMPARE(kept, QStringList("of the other"));
+    QCOMPARE(passedOn, QStringList({"behind", "behind all"}));
 }
 
 QTEST_APPLESS_MAIN(tst_MessageLog)
