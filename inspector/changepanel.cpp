@@ -178,6 +178,12 @@ void ChangePanel::showTarget()
     const bool isForAll = now && now->isOfDefaultFile;
     m_warning->setText(tr("It stands in the default file: a change there changes all themes."));
     m_warning->setVisible(isForAll);
+    const QString shown = now ? now->place.file % QLatin1Char('\n') % now->fileKey : QString();
+    if (shown != m_shown) { // a dialog that was left open would write there
+        m_color->closeDialog();
+        m_image->closeDialog();
+    }
+    m_shown = shown;
     if (!now)
         return;
     switch (now->kind) {

@@ -57,6 +57,7 @@ private:
     ChangeSubject m_subject;
     QString m_folder;
     int m_target = 0;
+    QString m_shown; // which target the editors have
     QElapsedTimer m_sinceChange;
 
     QLabel *m_title;

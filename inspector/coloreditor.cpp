@@ -155,6 +155,15 @@ void ColorEditor::edit(const QString &text)
     Q_EMIT edited(text);
 }
 
+void ColorEditor::closeDialog()
+{
+    if (!m_dialog)
+        return;
+    m_dialog->disconnect(this); // it is still there for a while
+    m_dialog->close();
+    m_dialog.clear();
+}
+
 void ColorEditor::openDialog()
 {
     if (!m_dialog) {

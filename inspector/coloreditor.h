@@ -36,6 +36,8 @@ public:
     void setPartner(const std::optional<ColorPartner> &partner);
     /*! \brief Shows \a text, unless it is what was edited last: that is what the user is about to go on with. */
     void setValue(const QString &text, Entries entries);
+    /*! \brief What is edited is another: closes the dialog, which was about the one before. */
+    void closeDialog();
 
 Q_SIGNALS:
     /*! \brief \a text is a value as theme files have it. */

@@ -6,7 +6,10 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
 #include <QSignalBlocker>
+#include <QVector>
 #include <QWidget>
 
 namespace
@@ -17,6 +20,84 @@ void setHovered(QWidget *widget, bool on)
 {
     widget->setAttribute(Qt::WA_UnderMouse, on);
 }
+
+Qt::CheckState checkState(const QAbstractButton *button)
+{
+    if (const auto *box = qobject_cast<const QCheckBox *>(button))
+        return box->checkState();
+    return button->isChecked() ? Qt::Checked : Qt::Unchecked;
+}
+
+void setCheckState(QAbstractButton *button, Qt::CheckState state)
+{
+    if (auto *box = qobject_cast<QCheckBox *>(button))
+        box->setCheckState(state);
+    else
+        button->setChecked(state != Qt::Unchecked);
+}
+
+// The one that Qt would uncheck if the button were checked.
+QAbstractButton *checkedBeside(const QAbstractButton *button)
+{
+    if (const QButtonGroup *group = button->group())
+        return group->exclusive() && group->checkedButton() != button ? group->checkedButton()
+                                                                      : nullptr;
+    if (!button->autoExclusive() || !button->parentWidget())
+        return nullptr;
+    const auto others = button->parentWidget()->findChildren<QAbstractButton *>();
+    for (QAbstractButton *other : others) {
+        if (other != button && other->isChecked() && other->autoExclusive() && !other->group())
+            return other;
+    }
+    return nullptr;
+}
+
+// While this lives two exclusive buttons can be checked or unchecked by themselves, and nobody is told.
+class Unbound
+{
+public:
+    Unbound(QAbstractButton *one, QAbstractButton *other)
+        : m_group(one->group())
+        , m_isExclusive(m_group && m_group->exclusive())
+    {
+        for (QAbstractButton *button : {one, other}) {
+            if (!button)
+                continue;
+            m_buttons.append({button, button->autoExclusive(), button->blockSignals(true)});
+            button->setAutoExclusive(false);
+        }
+        if (m_group) {
+            m_isGroupBlocked = m_group->blockSignals(true);
+            m_group->setExclusive(false);
+        }
+    }
+
+    ~Unbound()
+    {
+        for (const Button &each : qAsConst(m_buttons)) {
+            each.button->setAutoExclusive(each.isExclusive);
+            each.button->blockSignals(each.isBlocked);
+        }
+        if (m_group) {
+            m_group->setExclusive(m_isExclusive);
+            m_group->blockSignals(m_isGroupBlocked);
+        }
+    }
+
+    Q_DISABLE_COPY(Unbound)
+
+private:
+    struct Button {
+        QAbstractButton *button;
+        bool isExclusive;
+        bool isBlocked;
+    };
+
+    QVector<Button> m_buttons;
+    QButtonGroup *const m_group;
+    const bool m_isExclusive;
+    bool m_isGroupBlocked = false;
+};
 
 } // namespace
 
@@ -73,7 +154,7 @@ void ForcedStates::setForced(const QString &state, bool forced)
         else if (state == QLatin1String("pressed"))
             before = qobject_cast<QAbstractButton *>(m_widget)->isDown();
         else if (state == QLatin1String("checked"))
-            before = qobject_cast<QAbstractButton *>(m_widget)->isChecked();
+            before = int(checkState(qobject_cast<QAbstractButton *>(m_widget)));
         else if (state == QLatin1String("disabled"))
             before = m_widget->testAttribute(Qt::WA_ForceDisabled);
         else if (state == QLatin1String("focus"))
@@ -95,9 +176,9 @@ void ForcedStates::apply(const QString &state, bool on, const QVariant &before)
     if (state == QLatin1String("hover")) {
         setHovered(m_widget, on || before.toBool());
     } else if (state == QLatin1String("pressed")) {
-        button->setDown(on || before.toBool());
+        applyDown(button, on, before.toBool());
     } else if (state == QLatin1String("checked")) {
-        button->setChecked(on || before.toBool());
+        applyChecked(button, on, Qt::CheckState(before.toInt()));
     } else if (state == QLatin1String("disabled")) {
         m_widget->setEnabled(!(on || before.toBool()));
     } else if (state == QLatin1String("focus")) {
@@ -121,6 +202,33 @@ void ForcedStates::apply(const QString &state, bool on, const QVariant &before)
         }
         view->viewport()->update();
     }
+}
+
+// A button that repeats would click while it is held.
+void ForcedStates::applyDown(QAbstractButton *button, bool on, bool before)
+{
+    if (on) {
+        m_repeated = button->autoRepeat();
+        button->setAutoRepeat(false);
+    }
+    button->setDown(on || before);
+    if (!on)
+        button->setAutoRepeat(m_repeated);
+}
+
+void ForcedStates::applyChecked(QAbstractButton *button, bool on, Qt::CheckState before)
+{
+    const bool isHeld = button->isChecked();
+    if (on)
+        m_checkedBefore = checkedBeside(button);
+    const Unbound unbound(button, m_checkedBefore);
+    // Unless the user has chosen another one meanwhile.
+    if (m_checkedBefore && (on || isHeld))
+        m_checkedBefore->setChecked(!on);
+    if (on)
+        setCheckState(button, Qt::Checked);
+    else if (isHeld || before == Qt::Unchecked)
+        setCheckState(button, before);
 }
 
 // A widget whose proxy has the focus looks as if it had it; the user has it in the inspector.

@@ -10,13 +10,15 @@
 #include <QStringList>
 #include <QVariant>
 
+class QAbstractButton;
 class QWidget;
 
 /*!
  * \brief Holds a widget in states that else only the user's hand gives it.
  *
- * The widget really is in the state, so Qt paints it as ever; its signals are blocked meanwhile. What
- * was changed is put back when the state is released, or this object dies.
+ * The widget really is in the state, so Qt paints it as ever; no signal tells the program of it. What
+ * was changed is put back when the state is released, or this object dies. Of exclusive buttons
+ * another one is not checked meanwhile; a choice that the user makes then stays.
  */
 class ForcedStates : public QObject
 {
@@ -41,10 +43,14 @@ public:
 
 private:
     void apply(const QString &state, bool on, const QVariant &before);
+    void applyDown(QAbstractButton *button, bool on, bool before);
+    void applyChecked(QAbstractButton *button, bool on, Qt::CheckState before);
     void followFocus();
 
     QPointer<QWidget> m_widget;
     QHash<QString, QVariant> m_before; // by forced state
+    QPointer<QAbstractButton> m_checkedBefore; // of the exclusive buttons that the widget is one of
+    bool m_repeated = false; // what the held button did while it was down
 };
 
 #endif

@@ -77,6 +77,7 @@ void ImageEditor::openDialog()
     const QFileInfo now(imageFilePath(m_folder, m_value));
     const QString from = isResourcePath(m_value) ? m_folder : now.path();
     auto *dialog = new QFileDialog(this, tr("Choose an image"), from);
+    m_dialog = dialog;
     dialog->setOption(QFileDialog::DontUseNativeDialog);
     dialog->setPalette(inspectorPalette());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -87,6 +88,15 @@ void ImageEditor::openDialog()
         edit();
     });
     dialog->open();
+}
+
+void ImageEditor::closeDialog()
+{
+    if (!m_dialog)
+        return;
+    m_dialog->disconnect(this); // it is still there for a while
+    m_dialog->close();
+    m_dialog.clear();
 }
 
 void ImageEditor::showImage()

@@ -4,8 +4,10 @@
 #ifndef INSPECTOR_IMAGEEDITOR_H
 #define INSPECTOR_IMAGEEDITOR_H
 
+#include <QPointer>
 #include <QWidget>
 
+class QFileDialog;
 class QLabel;
 class QLineEdit;
 
@@ -19,6 +21,8 @@ public:
 
     /*! \brief Shows the file called \a text below \a folder, unless it is what was edited last. */
     void setValue(const QString &text, const QString &folder);
+    /*! \brief What is edited is another: closes the dialog, which was about the one before. */
+    void closeDialog();
 
 Q_SIGNALS:
     void edited(const QString &text);
@@ -34,6 +38,7 @@ private:
     QString m_value;
     QLineEdit *m_text;
     QLabel *m_picture;
+    QPointer<QFileDialog> m_dialog;
 };
 
 #endif

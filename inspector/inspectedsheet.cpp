@@ -115,7 +115,7 @@ const ThemeProject *InspectedSheet::project() const
     options.folder = m_theme.folder;
     options.themes = QStringList(m_theme.name);
     options.contents = m_theme.unsavedTexts;
-    options.applicationFolder = QCoreApplication::applicationDirPath();
+    options.applicationFolder = applicationFolder();
     options.templates.clear();
     for (const InspectedTheme::Template &source : m_theme.templates) {
         if (source.prefix == m_theme.templates.constFirst().prefix)
@@ -126,6 +126,12 @@ const ThemeProject *InspectedSheet::project() const
     const MessageLog silence; // what the theme lacks was said when it came into force
     m_project = ThemeProject::read(options, &m_problem);
     return m_project.get();
+}
+
+QString InspectedSheet::applicationFolder() const
+{
+    return m_theme.applicationFolder.isNull() ? QCoreApplication::applicationDirPath()
+                                              : m_theme.applicationFolder;
 }
 
 QString InspectedSheet::problem() const

@@ -56,6 +56,8 @@ public:
 
     /*! \brief Returns the theme's files with their templates, or null if they cannot be read. */
     const ThemeProject *project() const;
+    /*! \brief Returns the absolute folder that the theme's image paths start from. */
+    QString applicationFolder() const;
     /*! \brief Returns why there is no project(), in a sentence. */
     QString problem() const;
 

@@ -20,6 +20,7 @@ struct InspectedTheme {
     QString name;
     QVector<Template> templates; //!< in the order of the style sheet
     QVariantMap values; //!< as style sheets have them
+    QString applicationFolder; //!< which image paths start from; null for this program's
     QHash<QString, QByteArray> unsavedTexts; //!< of theme files, by path, that the program shows
 
     /*! \brief Returns what HV::ApplicationTheme gave the application, or an empty one. */

@@ -368,7 +368,7 @@ void InspectorPane::showChange(const QTreeWidgetItem *item)
             subject(Kind(item->data(0, KeyKind).toInt()), key, item->data(0, Property).toString());
     else if (item)
         chosen.reason = item->data(0, Reason).toString();
-    m_change->setSubject(chosen, QCoreApplication::applicationDirPath());
+    m_change->setSubject(chosen, m_sheet->applicationFolder());
 }
 
 void InspectorPane::showUsers(const QSet<int> &declarations, const QString &what)

@@ -10,6 +10,20 @@
 
 #include <algorithm>
 
+namespace
+{
+
+bool programHasWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
+        return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose)
+            && !InspectorPane::isOwn(window);
+    });
+}
+
+} // namespace
+
 InspectorWindow::InspectorWindow()
     : m_pane(nullptr)
 {
@@ -23,11 +37,8 @@ InspectorWindow::InspectorWindow()
     m_pane = new InspectorPane(this);
     layout->addWidget(m_pane);
     qApp->installEventFilter(this);
-    // With changes that are not saved it asks before the program ends with its last window.
-    const auto followChanges = [this] {
-        setAttribute(Qt::WA_QuitOnClose, ProgramChanges::ofProgram()->isUnsaved());
-    };
-    connect(ProgramChanges::ofProgram(), &ProgramChanges::changed, this, followChanges);
+    connect(ProgramChanges::ofProgram(), &ProgramChanges::changed, this,
+            &InspectorWindow::followChanges);
     followChanges();
 }
 
@@ -36,15 +47,18 @@ InspectorWindow::~InspectorWindow()
     qApp->removeEventFilter(this);
 }
 
+// With changes that are not saved it asks before the program ends with its last window. Once it has
+// kept the program running without one, the program ends with the inspector.
+void InspectorWindow::followChanges()
+{
+    const bool isLast = testAttribute(Qt::WA_QuitOnClose) && !programHasWindows();
+    setAttribute(Qt::WA_QuitOnClose, isLast || ProgramChanges::ofProgram()->isUnsaved());
+}
+
 void InspectorWindow::closeEvent(QCloseEvent *event)
 {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const bool hasOthers = std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
-        return window->isVisible() && window->testAttribute(Qt::WA_QuitOnClose)
-            && !InspectorPane::isOwn(window);
-    });
-    event->setAccepted(
-        m_pane->mayClose(hasOthers ? SaveBar::Closing::Inspector : SaveBar::Closing::Program));
+    event->setAccepted(m_pane->mayClose(programHasWindows() ? SaveBar::Closing::Inspector
+                                                            : SaveBar::Closing::Program));
 }
 
 void InspectorWindow::showEvent(QShowEvent *event)
@@ -60,6 +74,9 @@ bool InspectorWindow::eventFilter(QObject *object, QEvent *event)
         && static_cast<QWidget *>(object)->isModal()
         && !InspectorPane::isOwn(static_cast<QWidget *>(object)))
         QMetaObject::invokeMethod(this, &InspectorWindow::followModality, Qt::QueuedConnection);
+    if (event->type() == QEvent::Show && object->isWidgetType()
+        && static_cast<QWidget *>(object)->isWindow())
+        QMetaObject::invokeMethod(this, &InspectorWindow::followChanges, Qt::QueuedConnection);
     return QWidget::eventFilter(object, event);
 }
 

@@ -28,6 +28,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void followChanges();
     void followModality();
 
     InspectorPane *m_pane;

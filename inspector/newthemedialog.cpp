@@ -134,18 +134,26 @@ void NewThemeDialog::accept()
     m_problem->setVisible(!isSaved);
     if (!isSaved)
         return;
-    if (m_goesOn->isChecked())
-        goOn(theme);
-    Q_EMIT saved(themeFilePath(theme.folder, theme.name));
+    const QString problem = m_goesOn->isChecked() ? goOn(theme, files) : QString();
+    Q_EMIT saved(themeFilePath(theme.folder, theme.name), problem);
     QDialog::accept();
 }
 
-// The changes are in the new theme, so the old one's files need them no more.
-void NewThemeDialog::goOn(const NewTheme &theme)
+// The changes of these files are in the new theme, so they need them no more; those of others are
+// nowhere else. Returns why the program stays with the theme that it has, if it does.
+QString NewThemeDialog::goOn(const NewTheme &theme, const QStringList &files)
 {
     HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
-    if (look->folder() != theme.folder)
-        look->setFolder(theme.folder);
-    look->setName(theme.name);
-    m_changes->discard();
+    const QString before = look->folder();
+    const bool isElsewhere = before != theme.folder;
+    if (isElsewhere && !look->setFolder(theme.folder))
+        return look->problem();
+    if (!look->setName(theme.name)) {
+        const QString problem = look->problem();
+        if (isElsewhere)
+            look->setFolder(before);
+        return problem;
+    }
+    m_changes->discardFiles(files);
+    return {};
 }

@@ -23,12 +23,13 @@ public:
     void accept() override;
 
 Q_SIGNALS:
-    /*! \brief The theme's own file is at \a path. */
-    void saved(const QString &path);
+    /*! \brief The theme's own file is at \a path; \a problem, if not empty, says why the program cannot go on
+     *         with it. */
+    void saved(const QString &path, const QString &problem);
 
 private:
     void chooseFolder();
-    void goOn(const NewTheme &theme);
+    QString goOn(const NewTheme &theme, const QStringList &files);
 
     ProgramChanges *const m_changes;
     QLineEdit *m_folder;

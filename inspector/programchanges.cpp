@@ -40,7 +40,7 @@ bool ProgramChanges::isShown(const ThemeEditor &editor)
     const QHash<QString, QByteArray> covered = texts;
     const QHash<QString, QByteArray> contents = editor.contents();
     for (auto it = contents.cbegin(); it != contents.cend(); ++it)
-        texts.insert(it.key(), *it);
+        texts.insert(it.key(), translated(*it));
     if (look->setUnsavedTexts(texts)) {
         m_covered = covered;
         const QStringList files = contents.keys();
@@ -52,6 +52,19 @@ bool ProgramChanges::isShown(const ThemeEditor &editor)
     return false;
 }
 
+QByteArray ProgramChanges::translated(const QByteArray &text) const
+{
+    return m_translation ? m_translation(text) : text;
+}
+
+void ProgramChanges::showAgain()
+{
+    m_covered.clear();
+    m_shown.clear();
+    if (m_editor.isChanged())
+        isShown(m_editor);
+}
+
 void ProgramChanges::log(const Step &step)
 {
     m_undo.append(step);
@@ -59,17 +72,17 @@ void ProgramChanges::log(const Step &step)
 }
 
 // What others wrote into a file that has no changes here is what is changed. All steps are made anew
-// for that, so it is only done if need be.
-void ProgramChanges::readAnew(ThemeEditor *editor, const QString &file)
+// for that, so it is only done if need be. Returns what the file says, if that is new.
+std::optional<QByteArray> ProgramChanges::readAnew(ThemeEditor *editor, const QString &file) const
 {
     QString error;
     if (editor->contents().contains(file))
-        return;
+        return std::nullopt;
     const auto onDisk = ThemeFile::read(file, &error);
-    if (!onDisk || onDisk->content() == m_known.value(file))
-        return;
-    if (editor->adopt(file, ThemeEditor::Text::Theirs, &error))
-        m_known.insert(file, onDisk->content());
+    if (!onDisk || onDisk->content() == m_known.value(file)
+        || !editor->adopt(file, onDisk->content(), ThemeEditor::Text::Theirs, &error))
+        return std::nullopt;
+    return onDisk->content();
 }
 
 bool ProgramChanges::setValue(const QString &file, const QString &key, const QString &value,
@@ -77,16 +90,19 @@ bool ProgramChanges::setValue(const QString &file, const QString &key, const QSt
 {
     m_problem.clear();
     ThemeEditor next = m_editor;
-    readAnew(&next, file);
+    const std::optional<QByteArray> known = readAnew(&next, file);
     const QString changing = file % QLatin1Char('\n') % key;
     const bool isContinued = step == ThemeEditor::Step::Continued && changing == m_continued;
     if (!next.setValue(file, key, value, isContinued ? step : ThemeEditor::Step::New, &m_problem))
         return false;
-    if (next.contents() == m_editor.contents())
-        return true;
-    if (!isShown(next))
+    const bool isSame = next.contents() == m_editor.contents();
+    if (!isSame && !isShown(next))
         return false;
     m_editor = next;
+    if (known)
+        m_known.insert(file, *known);
+    if (isSame)
+        return true;
     if (!isContinued)
         log({});
     m_continued = changing;
@@ -128,6 +144,7 @@ void ProgramChanges::apply(const PropertyChange &change)
 
 void ProgramChanges::resetValue(const QString &file, const QString &key)
 {
+    m_problem.clear();
     m_continued.clear();
     const QHash<QString, QByteArray> before = m_editor.contents();
     m_editor.reset(file, key);
@@ -148,12 +165,14 @@ void ProgramChanges::resetProperty(QWidget *widget, const QString &name)
     }
 }
 
-void ProgramChanges::discard()
+void ProgramChanges::discardFiles(const QStringList &files)
 {
+    m_problem.clear();
     m_continued.clear();
-    if (!m_editor.isChanged())
+    const QHash<QString, QByteArray> before = m_editor.contents();
+    m_editor.resetFiles(files);
+    if (m_editor.contents() == before)
         return;
-    m_editor.resetAll();
     log({});
     isShown(m_editor);
     Q_EMIT changed();
@@ -203,21 +222,24 @@ ThemeSaving ProgramChanges::save(const QString &file)
 {
     m_continued.clear();
     const QByteArray content = m_editor.contents().value(file);
+    const bool isTranslated = m_translation && !content.isNull() && m_covered.contains(file);
     ThemeSaving saving = m_editor.save(file);
     m_problem = saving.message;
     if (saving.isSaved()) {
         m_known.insert(file, content);
+        if (isTranslated)
+            m_covered.insert(file, translated(content));
         isShown(m_editor);
         Q_EMIT changed();
     }
     return saving;
 }
 
-bool ProgramChanges::adopt(const QString &file, ThemeEditor::Text text)
+bool ProgramChanges::adopt(const QString &file, const QByteArray &theirs, ThemeEditor::Text text)
 {
     m_problem.clear();
     m_continued.clear();
-    if (!m_editor.adopt(file, text, &m_problem))
+    if (!m_editor.adopt(file, theirs, text, &m_problem))
         return false;
     m_known.remove(file);
     isShown(m_editor);

@@ -9,6 +9,9 @@
 
 #include <QObject>
 
+#include <functional>
+#include <optional>
+
 /*!
  * \brief What the user changes: values of theme files and dynamic properties of widgets, in one history.
  *
@@ -34,6 +37,15 @@ public:
     bool setValue(const QString &file, const QString &key, const QString &value,
                   ThemeEditor::Step step = ThemeEditor::Step::New);
 
+    /*! \brief What a program shows for a changed text of a theme file. */
+    using Translation = std::function<QByteArray(const QByteArray &text)>;
+
+    /*! \brief Lets the program show \a translation of changed texts from now on; null for the texts themselves. */
+    void setTranslation(Translation translation) { m_translation = std::move(translation); }
+
+    /*! \brief Shows what is changed, after the program has given its look other texts of its own. */
+    void showAgain();
+
     /*! \brief Gives \a widget the dynamic property \a name; an invalid \a value takes it away. */
     void setProperty(QWidget *widget, const QString &name, const QVariant &value);
 
@@ -41,13 +53,17 @@ public:
     QVector<ThemeChange> values() const { return m_editor.changes(); }
     /*! \brief Returns the properties that are not what they were at first. */
     const QVector<PropertyChange> &properties() const { return m_properties; }
+    /*! \brief Returns the texts of theme files that are not saved, by path. */
+    QHash<QString, QByteArray> contents() const { return m_editor.contents(); }
     /*! \brief Tells whether a theme file is not saved. */
     bool isUnsaved() const { return m_editor.isChanged(); }
 
     void resetValue(const QString &file, const QString &key);
     void resetProperty(QWidget *widget, const QString &name);
     /*! \brief Takes back all values that are not saved. */
-    void discard();
+    void discard() { discardFiles(unsavedFiles()); }
+    /*! \brief Takes back the values of \a files that are not saved. */
+    void discardFiles(const QStringList &files);
 
     bool canUndo() const { return !m_undo.isEmpty(); }
     bool canRedo() const { return !m_redo.isEmpty(); }
@@ -58,7 +74,7 @@ public:
     QStringList unsavedFiles() const;
     ThemeSaving save(const QString &file);
     /*! \brief Goes on from what others wrote into \a file, see ThemeEditor::adopt(). */
-    bool adopt(const QString &file, ThemeEditor::Text text);
+    bool adopt(const QString &file, const QByteArray &theirs, ThemeEditor::Text text);
     /*! \brief Writes a new theme with all that is not saved, see ThemeEditor::saveAs(). */
     bool saveAs(const NewTheme &to, const QStringList &files);
 
@@ -76,12 +92,15 @@ private:
     };
 
     bool isShown(const ThemeEditor &editor);
-    void readAnew(ThemeEditor *editor, const QString &file);
+    std::optional<QByteArray> readAnew(ThemeEditor *editor, const QString &file) const;
     void log(const Step &step);
     void apply(const PropertyChange &change);
     void move(QVector<Step> *from, QVector<Step> *to, bool isUndo);
 
+    QByteArray translated(const QByteArray &text) const;
+
     ThemeEditor m_editor;
+    Translation m_translation;
     QHash<QString, QByteArray> m_known; // files as they are on disk, when they had no changes here
     QSet<QString> m_shown; // files whose text in the program is from here
     QHash<QString, QByteArray> m_covered; // texts that the program itself shows, or would

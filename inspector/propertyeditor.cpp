@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QStringListModel>
 #include <QTreeWidget>
 
 namespace
@@ -25,15 +26,16 @@ QComboBox *makeBox(const QString &name)
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setAccessibleName(name);
     box->lineEdit()->setAccessibleName(name);
+    // That of the box itself makes a window that themes reach.
+    box->setCompleter(ownCompleter({}, box));
     return box;
 }
 
-// Only an editable box has a completer of its own, which makes a window that themes reach.
 void setChoices(QComboBox *box, const QStringList &choices, const QString &text)
 {
     box->clear();
     box->addItems(choices);
-    box->setCompleter(ownCompleter(choices, box));
+    static_cast<QStringListModel *>(box->completer()->model())->setStringList(choices);
     box->setCurrentText(text);
 }
 

@@ -97,17 +97,29 @@ void SaveBar::tell(const QString &text, bool isProblem)
 
 bool SaveBar::save()
 {
+    return saveFiles(m_changes->unsavedFiles());
+}
+
+bool SaveBar::saveFiles(const QStringList &files)
+{
     QStringList saved;
-    QStringList problems;
-    const QStringList files = m_changes->unsavedFiles();
     for (const QString &file : files) {
         const ThemeSaving saving = m_changes->save(file);
         if (saving.isSaved())
             saved << QFileInfo(file).fileName();
         else
-            problems << saving.message;
+            m_problems.insert(file, saving.message);
         if (saving.outcome == ThemeSaving::Outcome::ChangedMeanwhile)
             showConflict(file, saving);
+    }
+    // What another file could not be saved for is still so.
+    const QStringList unsaved = m_changes->unsavedFiles();
+    QStringList problems;
+    for (auto it = m_problems.begin(); it != m_problems.end();) {
+        const bool isStill = unsaved.contains(it.key());
+        if (isStill)
+            problems << *it;
+        it = isStill ? it + 1 : m_problems.erase(it);
     }
     if (!problems.isEmpty())
         tell(problems.join(QLatin1Char('\n')), true);
@@ -118,22 +130,36 @@ bool SaveBar::save()
     return !m_changes->isUnsaved();
 }
 
+// A file has one dialog at most, which has its latest text. The choice holds for what was shown: if
+// the file has changed once more, saving shows that.
 void SaveBar::showConflict(const QString &file, const ThemeSaving &saving)
 {
+    if (m_conflicts.value(file))
+        m_conflicts.value(file)->close();
     auto *dialog = new ConflictDialog(file, saving, this);
-    connect(dialog, &ConflictDialog::chosen, this, [this, file](ThemeEditor::Text text) {
-        if (!m_changes->adopt(file, text) || !save())
-            tell(m_changes->problem(), true);
-    });
+    m_conflicts.insert(file, dialog);
+    connect(dialog, &ConflictDialog::chosen, this,
+            [this, file, theirs = saving.theirs](ThemeEditor::Text text) {
+                m_conflicts.remove(file); // this one closes by itself
+                if (m_changes->adopt(file, theirs, text))
+                    saveFiles({file});
+                else
+                    tell(m_changes->problem(), true);
+            });
     dialog->open();
 }
 
 void SaveBar::saveAs()
 {
     auto *dialog = new NewThemeDialog(m_changes, this);
-    connect(dialog, &NewThemeDialog::saved, this, [this](const QString &path) {
-        tell(tr("Saved as the new theme %1.").arg(path), false);
-    });
+    connect(dialog, &NewThemeDialog::saved, this,
+            [this](const QString &path, const QString &problem) {
+                const QString text = tr("Saved as the new theme %1.").arg(path);
+                if (problem.isEmpty())
+                    tell(text, false);
+                else
+                    tell(tr("%1 The program cannot go on with it: %2").arg(text, problem), true);
+            });
     dialog->open();
 }
 

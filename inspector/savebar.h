@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+class ConflictDialog;
 class QLabel;
 class QToolButton;
 
@@ -46,10 +47,13 @@ private:
     QToolButton *makeButton(const QString &text, const QString &name, const QKeySequence &keys,
                             QWidget *shortcutOwner);
     void showState();
+    bool saveFiles(const QStringList &files);
     void showConflict(const QString &file, const ThemeSaving &saving);
     void tell(const QString &text, bool isProblem);
 
     ProgramChanges *const m_changes;
+    QMap<QString, QString> m_problems; // by file, of those that could not be saved
+    QHash<QString, QPointer<ConflictDialog>> m_conflicts; // by file
     QLabel *m_state;
     QLabel *m_message;
     QToolButton *m_undo;

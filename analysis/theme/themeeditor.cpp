@@ -86,6 +86,11 @@ void ThemeEditor::push(const QString &file, const QByteArray &content, const QSt
     State next = state();
     next.contents.insert(file, content);
     next.changed = changed;
+    push(next);
+}
+
+void ThemeEditor::push(const State &next)
+{
     m_states.resize(m_current + 1);
     m_states.append(next);
     if (m_states.size() > undoLimit)
@@ -164,12 +169,16 @@ void ThemeEditor::reset(const QString &file, const QString &key)
         push(file, *content, QString());
 }
 
-void ThemeEditor::resetAll()
+void ThemeEditor::resetFiles(const QStringList &files)
 {
-    if (!isChanged())
-        return;
-    push(QString(), QByteArray(), QString());
-    m_states.last().contents = m_saved;
+    State next = state();
+    next.changed.clear();
+    for (const QString &file : files) {
+        if (m_saved.contains(file))
+            next.contents.insert(file, m_saved.value(file));
+    }
+    if (next.contents != state().contents)
+        push(next);
 }
 
 void ThemeEditor::undo()
@@ -235,23 +244,22 @@ ThemeSaving ThemeEditor::save(const QString &file)
     return {};
 }
 
-bool ThemeEditor::adopt(const QString &file, Text text, QString *error)
+bool ThemeEditor::adopt(const QString &file, const QByteArray &theirs, Text text, QString *error)
 {
-    const std::optional<ThemeFile> theirs = ThemeFile::read(file, error);
-    if (!theirs)
+    if (!ThemeFile::fromContent(file, theirs, error))
         return false;
     QVector<State> states = m_states;
     for (State &each : states) {
         if (text == Text::Ours)
             break;
         const auto content =
-            ::changed(file, theirs->content(), changesOf(file, each.contents.value(file)), error);
+            ::changed(file, theirs, changesOf(file, each.contents.value(file)), error);
         if (!content)
             return false;
         each.contents.insert(file, *content);
     }
     m_states = states;
-    m_saved.insert(file, theirs->content());
+    m_saved.insert(file, theirs);
     return true;
 }
 

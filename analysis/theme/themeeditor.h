@@ -93,8 +93,10 @@ public:
 
     /*! \brief Takes back the changes of one key of \a file, which is a step of its own. */
     void reset(const QString &file, const QString &key);
+    /*! \brief Takes back all that is not saved in \a files, which is a step of its own. */
+    void resetFiles(const QStringList &files);
     /*! \brief Takes back all that is not saved, which is a step of its own. */
-    void resetAll();
+    void resetAll() { resetFiles(m_saved.keys()); }
 
     bool canUndo() const { return m_current > 0; }
     bool canRedo() const { return m_current + 1 < m_states.size(); }
@@ -119,14 +121,16 @@ public:
     };
 
     /*!
-     * \brief Goes on from the \a file on disk, which changed meanwhile; save() can then write it.
+     * \brief Goes on from what \a file has become meanwhile; save() can then write it.
      *
      * With Text::Theirs every step that can be undone is one of the new text from then on.
      *
-     * \return false if the file cannot be read or changed, with one sentence in \a error; nothing then
-     *         changes.
+     * \param theirs  what whoever decides has seen, see ThemeSaving::theirs. If the file has changed once
+     *                more, save() says so again.
+     * \return false if that is no theme file or cannot be changed, with one sentence in \a error; nothing
+     *         then changes.
      */
-    bool adopt(const QString &file, Text text, QString *error);
+    bool adopt(const QString &file, const QByteArray &theirs, Text text, QString *error);
 
     /*!
      * \brief Writes a whole new theme: a default file and the theme's own, with what is not saved.
@@ -152,6 +156,7 @@ private:
     std::optional<QByteArray> newContent(const QString &file, QString *error) const;
     const State &state() const { return m_states.at(m_current); }
     void push(const QString &file, const QByteArray &content, const QString &changed);
+    void push(const State &next);
 
     QHash<QString, QByteArray> m_saved; // as on disk when they were read or written
     QVector<State> m_states;

@@ -187,7 +187,7 @@ void tst_ThemeEditor::changedMeanwhile()
     QCOMPARE(saving.ours, editor.contents().value(m_file));
     QCOMPARE(read(m_file), theirs);
 
-    QVERIFY2(editor.adopt(m_file, ThemeEditor::Text::Theirs, &m_error), qPrintable(m_error));
+    QVERIFY2(editor.adopt(m_file, theirs, ThemeEditor::Text::Theirs, &m_error), qPrintable(m_error));
     QCOMPARE(editor.contents().value(m_file), QByteArray("[Palettes]\nBg=123\nMore=1\nFg=9\n"));
     QCOMPARE(editor.changes().constFirst(), (ThemeChange{m_file, "Palettes/Bg", "777", "123"}));
     editor.undo();
@@ -219,8 +219,9 @@ void tst_ThemeEditor::adoptOurs()
 {
     ThemeEditor editor;
     QVERIFY(set(&editor, "Palettes/Bg", "123"));
-    write("a.theme", "[Palettes]\nBg=777\nMore=1\n");
-    QVERIFY(editor.adopt(m_file, ThemeEditor::Text::Ours, &m_error));
+    const QByteArray theirs("[Palettes]\nBg=777\nMore=1\n");
+    write("a.theme", theirs);
+    QVERIFY(editor.adopt(m_file, theirs, ThemeEditor::Text::Ours, &m_error));
     QVERIFY(editor.changes().contains(ThemeChange{m_file, "Palettes/More", "1", QString()}));
     QVERIFY(editor.save(m_file).isSaved());
     QCOMPARE(read(m_file), QByteArray("; mine\r\n[Palettes]\r\nBg=123 ; white\r\nFg=000\r\n"));

@@ -33,6 +33,8 @@ private Q_SLOTS:
     void integer();
     void image_data();
     void image();
+    void openDialogs_data();
+    void openDialogs();
     void flag();
     void keyThatTheFilesLack();
     void noKey_data();
@@ -43,16 +45,24 @@ private Q_SLOTS:
     void property_data();
     void property();
     void propertyOfTheClass();
+    void propertyBoxesStay();
     void save_data();
     void save();
     void changedMeanwhile_data();
     void changedMeanwhile();
+    void changedWhileAsked_data();
+    void changedWhileAsked();
+    void twoChangedMeanwhile();
+    void changedBetweenEdits_data();
     void changedBetweenEdits();
     void cannotBeSaved_data();
     void cannotBeSaved();
     void saveAs();
+    void saveAsKeepsOtherFiles();
+    void saveAsCannotGoOn();
     void closing_data();
     void closing();
+    void lastWindow();
     void brokenMeanwhile();
     void anotherThemeMeanwhile();
     void textsOfTheProgram();
@@ -70,6 +80,8 @@ private:
     void press(QAbstractButton *button) const;
     QColor ground() const;
     QByteArray file(const char *name) const;
+    void append(const char *name, const QByteArray &text) const;
+    void answer(const QString &button) const;
     void settle() const;
 
     std::unique_ptr<QuietPlatform> m_quiet;
@@ -143,10 +155,12 @@ Widget *tst_Changing::part(const char *accessibleName, QWidget *in) const
 template<typename Dialog>
 Dialog *tst_Changing::dialog() const
 {
-    auto *found = m_window->findChild<Dialog *>();
-    if (!found || !found->isVisible())
-        qFatal("no such dialog is open");
-    return found;
+    const auto dialogs = m_window->findChildren<Dialog *>();
+    for (Dialog *dialog : dialogs) {
+        if (dialog->isVisible()) // others may wait for their end
+            return dialog;
+    }
+    qFatal("no such dialog is open");
 }
 
 // Clicks the row of a property in a list, or below it the one of a key.
@@ -192,6 +206,25 @@ QByteArray tst_Changing::file(const char *name) const
 {
     QFile file(m_folder->filePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+}
+
+// What somebody else does.
+void tst_Changing::append(const char *name, const QByteArray &text) const
+{
+    QFile other(m_folder->filePath(name));
+    QVERIFY(other.open(QIODevice::Append) && other.write(text) == text.size());
+}
+
+void tst_Changing::answer(const QString &button) const
+{
+    const auto buttons = dialog<QDialog>()->findChildren<QPushButton *>();
+    for (QPushButton *each : buttons) {
+        if (each->text().contains(button)) {
+            QTest::mouseClick(each, Qt::LeftButton);
+            return;
+        }
+    }
+    QFAIL("there is no such button");
 }
 
 // The inspector looks at the program again some time after a change.
@@ -354,6 +387,49 @@ void tst_Changing::image()
     QCOMPARE(problem->isVisible(), !isTaken);
     if (!isTaken)
         QVERIFY(problem->text().contains("is no image that can be read; nothing was changed."));
+}
+
+void tst_Changing::openDialogs_data()
+{
+    QTest::addColumn<QString>("next");
+
+    QTest::newRow("another-key") << "font-size";
+    QTest::newRow("the-palette-entry") << "";
+    QTest::newRow("another-theme") << "light";
+}
+
+// A dialog is about one value in one file.
+void tst_Changing::openDialogs()
+{
+    QFETCH(QString, next);
+    QVERIFY(choose("Values", "background-color"));
+    press(part<QToolButton>("Choose any colour"));
+    const QPointer<QColorDialog> colors = dialog<QColorDialog>();
+    if (!next.isEmpty()) { // else the value would not come from the entry any more
+        colors->setCurrentColor("#ff00aa");
+        QCOMPARE(ground(), QColor("#ff00aa"));
+    }
+    settle();
+    QVERIFY(colors && colors->isVisible());
+    if (next.isEmpty())
+        press(m_window->findChildren<QRadioButton *>().at(1));
+    else if (next == "light")
+        QVERIFY(m_theme->setName(next));
+    else
+        QVERIFY(choose("Values", next));
+    settle();
+    const QVector<ThemeChange> before = ProgramChanges::ofProgram()->values();
+    if (colors)
+        colors->setCurrentColor("#aabbcc");
+    QCOMPARE(ProgramChanges::ofProgram()->values(), before);
+    QVERIFY(!colors || !colors->isVisible());
+    if (next.isEmpty()) {
+        press(part<QToolButton>("Choose any colour"));
+        dialog<QColorDialog>()->setCurrentColor("#aabbcc");
+        QCOMPARE(ProgramChanges::ofProgram()->values().size(), 1);
+        QCOMPARE(ProgramChanges::ofProgram()->values().constFirst().key,
+                 QString("Palettes/Brand_6"));
+    }
 }
 
 void tst_Changing::flag()
@@ -539,6 +615,14 @@ void tst_Changing::propertyOfTheClass()
             "text belongs to the class QPushButton; only dynamic properties are changed here."));
 }
 
+void tst_Changing::propertyBoxesStay()
+{
+    const int before = int(m_window->findChildren<QCompleter *>().size());
+    for (int i = 0; i < 3; ++i)
+        settle();
+    QCOMPARE(int(m_window->findChildren<QCompleter *>().size()), before);
+}
+
 void tst_Changing::save_data()
 {
     QTest::addColumn<int>("target");
@@ -615,15 +699,87 @@ void tst_Changing::changedMeanwhile()
     QCOMPARE(ground(), QColor("#ff00aa")); // never lost
 }
 
+void tst_Changing::changedWhileAsked_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("hasTheirs");
+
+    QTest::newRow("both") << "Keep &both" << true;
+    QTest::newRow("mine") << "Write &mine" << false;
+}
+
+// What is chosen holds for the text that was shown, not for one that came after it.
+void tst_Changing::changedWhileAsked()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, hasTheirs);
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    append("dark.theme", "; first\n");
+    QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier);
+    append("dark.theme", "; second\n");
+    const QByteArray before = file("dark.theme");
+    answer(button);
+    QCOMPARE(file("dark.theme"), before);
+    QVERIFY(part<QLabel>("What came of saving")->text().contains("nothing was written"));
+    auto *conflict = dialog<QDialog>(); // another one
+    QVERIFY(part<QPlainTextEdit>("The text on disk", conflict)->toPlainText().contains("; second"));
+    answer(button);
+    QCOMPARE(file("dark.theme").contains("; first\n; second\n"), hasTheirs);
+    QVERIFY(file("dark.theme").contains("=#ff00aa"));
+    QVERIFY(!ProgramChanges::ofProgram()->isUnsaved());
+}
+
+// Each file has a question of its own, and only one.
+void tst_Changing::twoChangedMeanwhile()
+{
+    ProgramChanges *changes = ProgramChanges::ofProgram();
+    for (const char *name : {"dark.theme", "light.theme"}) {
+        QVERIFY(
+            changes->setValue(m_folder->filePath(name), "Colors/AccentBackgroundColor", "#ff00aa"));
+        append(name, "; theirs\n");
+    }
+    const auto openDialogs = [this] {
+        const auto dialogs = m_window->findChildren<QDialog *>();
+        return std::count_if(dialogs.cbegin(), dialogs.cend(),
+                             [](const QDialog *each) { return each->isVisible(); });
+    };
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(openDialogs(), 2);
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(openDialogs(), 2);
+    answer("Keep &both");
+    QCOMPARE(openDialogs(), 1);
+    QCOMPARE(changes->unsavedFiles().size(), 1);
+    const auto *message = part<QLabel>("What came of saving");
+    QVERIFY2(message->text().startsWith(changes->unsavedFiles().constFirst() + ": somebody else"),
+             qPrintable(message->text()));
+    answer("Keep &both");
+    QCOMPARE(openDialogs(), 0);
+    for (const char *name : {"dark.theme", "light.theme"})
+        QVERIFY(file(name).contains("=#ff00aa") && file(name).contains("; theirs"));
+    QVERIFY2(message->text().startsWith("Saved "), qPrintable(message->text()));
+}
+
+void tst_Changing::changedBetweenEdits_data()
+{
+    QTest::addColumn<bool>("failsFirst");
+
+    QTest::newRow("at-once") << false;
+    QTest::newRow("after-one-that-cannot-be") << true;
+}
+
 // Nobody is asked where nothing can get lost.
 void tst_Changing::changedBetweenEdits()
 {
+    QFETCH(bool, failsFirst);
     QVERIFY(choose("Values", "background-color"));
     type(part<QLineEdit>("Colour"), "#ff00aa");
     QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier);
-    QFile other(m_folder->filePath("dark.theme"));
-    QVERIFY(other.open(QIODevice::Append) && other.write("; theirs\n") > 0);
-    other.close();
+    append("dark.theme", "; theirs\n");
+    if (failsFirst)
+        QVERIFY(!ProgramChanges::ofProgram()->setValue(m_folder->filePath("dark.theme"),
+                                                       "Palettes//Bg", "1"));
     type(part<QLineEdit>("Colour"), "#aa00ff");
     QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier);
     QVERIFY(file("dark.theme").contains("=#aa00ff\n") && file("dark.theme").contains("; theirs\n"));
@@ -713,6 +869,47 @@ void tst_Changing::saveAs()
              "Saved as the new theme " + m_folder->filePath("night.theme") + '.');
 }
 
+// What is written nowhere stays unsaved.
+void tst_Changing::saveAsKeepsOtherFiles()
+{
+    ProgramChanges *changes = ProgramChanges::ofProgram();
+    const QString light = m_folder->filePath("light.theme");
+    QVERIFY(changes->setValue(light, "Colors/AccentBackgroundColor", "#aa00ff"));
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    type(part<QLineEdit>("Name", dialog<QDialog>()), "night");
+    QTest::keyClick(part<QLineEdit>("Name", dialog<QDialog>()), Qt::Key_Return);
+    QCOMPARE(m_theme->name(), QString("night"));
+    QVERIFY(file("night.theme").contains("AccentBackgroundColor=#ff00aa"));
+    QCOMPARE(changes->unsavedFiles(), QStringList(light));
+    QVERIFY(m_theme->setName("light"));
+    QCOMPARE(ground(), QColor("#aa00ff"));
+}
+
+// A program that stays with its theme needs the changes.
+void tst_Changing::saveAsCannotGoOn()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir("templates"));
+    QVERIFY(m_theme->addTemplates(m_folder->filePath("templates")));
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    QVERIFY(QDir(m_folder->path()).rmdir("templates"));
+    QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    type(part<QLineEdit>("Name", dialog<QDialog>()), "night");
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression("^The templates folder .* does not exist"));
+    QTest::keyClick(part<QLineEdit>("Name", dialog<QDialog>()), Qt::Key_Return);
+    QVERIFY(file("night.theme").contains("AccentBackgroundColor=#ff00aa"));
+    QCOMPARE(m_theme->name(), QString("dark"));
+    QVERIFY(ProgramChanges::ofProgram()->isUnsaved());
+    QCOMPARE(ground(), QColor("#ff00aa"));
+    const auto *message = part<QLabel>("What came of saving");
+    QVERIFY2(message->text().startsWith("Saved as the new theme ")
+                 && message->text().contains(" The program cannot go on with it: "),
+             qPrintable(message->text()));
+}
+
 void tst_Changing::closing_data()
 {
     QTest::addColumn<QString>("button");
@@ -768,6 +965,28 @@ void tst_Changing::closing()
         m_window->setAttribute(Qt::WA_DeleteOnClose, false);
         QCOMPARE(part<QTreeWidget>("Changes")->topLevelItemCount(), 1);
     }
+}
+
+// The inspector stays for its question; the program then ends with it.
+void tst_Changing::lastWindow()
+{
+    const auto endsProgram = [](QWidget *window) {
+        QSignalSpy ended(qApp, &QGuiApplication::lastWindowClosed);
+        QTimer::singleShot(0, window, &QWidget::close);
+        QTimer::singleShot(200, window, [] { QCoreApplication::quit(); });
+        QCoreApplication::exec(); // it is only said while there are events
+        return !ended.isEmpty();
+    };
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    QVERIFY(!endsProgram(m_program.get()));
+    QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(!ProgramChanges::ofProgram()->isUnsaved());
+    QVERIFY(endsProgram(m_window.get()));
+    m_window->show();
+    m_program->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_program.get()));
+    QVERIFY(endsProgram(m_program.get())); // there is nothing to ask any more
 }
 
 void tst_Changing::brokenMeanwhile()

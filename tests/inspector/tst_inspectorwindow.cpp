@@ -33,6 +33,8 @@ private Q_SLOTS:
     void overriddenIsStruckThrough();
     void forcedStates_data();
     void forcedStates();
+    void forcedStatesReachNobody_data();
+    void forcedStatesReachNobody();
     void showsUsers();
     void survivesDeath();
     void hasOneLook();
@@ -40,6 +42,7 @@ private Q_SLOTS:
 
 private:
     QTreeWidget *list(const char *name) const;
+    QCheckBox *stateBox(const QString &state) const;
 
     std::unique_ptr<QuietPlatform> m_quiet;
     HV::ApplicationTheme m_theme;
@@ -88,6 +91,16 @@ QTreeWidget *tst_InspectorWindow::list(const char *name) const
     for (QTreeWidget *list : lists) {
         if (list->accessibleName() == name)
             return list;
+    }
+    return nullptr;
+}
+
+QCheckBox *tst_InspectorWindow::stateBox(const QString &state) const
+{
+    const auto boxes = m_window->findChildren<QCheckBox *>();
+    for (QCheckBox *box : boxes) {
+        if (box->text() == ':' + state)
+            return box;
     }
     return nullptr;
 }
@@ -273,12 +286,7 @@ void tst_InspectorWindow::forcedStates()
     QFETCH(QString, state);
     m_window->pane()->pick(m_button);
     QSignalSpy toggled(m_button, &QPushButton::toggled);
-    QCheckBox *box = nullptr;
-    const auto boxes = m_window->findChildren<QCheckBox *>();
-    for (QCheckBox *one : boxes) {
-        if (one->text() == ':' + state)
-            box = one;
-    }
+    QCheckBox *box = stateBox(state);
     QVERIFY(box);
     m_window->activateWindow();
     box->setFocus();
@@ -293,6 +301,84 @@ void tst_InspectorWindow::forcedStates()
     m_window.reset(); // all is put back
     QVERIFY(m_button->isEnabled());
     QVERIFY(!m_button->isDown() && !m_button->isChecked() && !m_button->focusProxy());
+}
+
+void tst_InspectorWindow::forcedStatesReachNobody_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("state");
+
+    QTest::newRow("radio") << "radio"
+                           << "checked";
+    QTest::newRow("radio-none-checked") << "none"
+                                        << "checked";
+    QTest::newRow("radio-checked-itself") << "itself"
+                                          << "checked";
+    QTest::newRow("group") << "group"
+                           << "checked";
+    QTest::newRow("group-none-checked") << "group-none"
+                                        << "checked";
+    QTest::newRow("tristate") << "tristate"
+                              << "checked";
+    QTest::newRow("repeating") << "repeating"
+                               << "pressed";
+}
+
+// Neither signals nor what is left behind: the choice is the program's.
+void tst_InspectorWindow::forcedStatesReachNobody()
+{
+    QFETCH(QString, kind);
+    QFETCH(QString, state);
+    QAbstractButton *picked = m_button;
+    auto *other = new QRadioButton("Other", m_program.get());
+    QButtonGroup group;
+    if (kind == "tristate") {
+        auto *box = new QCheckBox("Partly", m_program.get());
+        box->setCheckState(Qt::PartiallyChecked);
+        picked = box;
+    } else if (kind == "repeating") {
+        picked->setCheckable(false);
+        picked->setAutoRepeat(true);
+        picked->setAutoRepeatDelay(1);
+        picked->setAutoRepeatInterval(1);
+    } else {
+        picked = new QRadioButton("This", m_program.get());
+    }
+    if (kind.startsWith("group")) {
+        group.addButton(picked);
+        group.addButton(other);
+    }
+    other->setChecked(kind == "radio" || kind == "group");
+    if (kind == "itself")
+        picked->setChecked(true);
+    for (QWidget *widget : QList<QWidget *>{picked, other})
+        m_program->layout()->addWidget(widget);
+    const bool wasChecked = picked->isChecked();
+    const bool wasOther = other->isChecked();
+    QSignalSpy toggled(picked, &QAbstractButton::toggled);
+    QSignalSpy clicked(picked, &QAbstractButton::clicked);
+    QSignalSpy otherToggled(other, &QAbstractButton::toggled);
+    QSignalSpy groupToggled(&group, &QButtonGroup::idToggled);
+    m_window->pane()->pick(picked);
+    QCheckBox *box = stateBox(state);
+    QVERIFY(box && box->isEnabled());
+    box->click();
+    QTest::qWait(kind == "repeating" ? 50 : 0); // time to click, if it would
+    if (kind != "repeating")
+        QVERIFY(picked->isChecked() && !other->isChecked());
+    box->click();
+    QCOMPARE(picked->isChecked(), wasChecked);
+    QCOMPARE(other->isChecked(), wasOther);
+    if (kind == "tristate")
+        QCOMPARE(static_cast<QCheckBox *>(picked)->checkState(), Qt::PartiallyChecked);
+    QCOMPARE(picked->autoRepeat(), kind == "repeating");
+    QCOMPARE(toggled.size() + clicked.size() + otherToggled.size() + groupToggled.size(), 0);
+    if (kind == "tristate" || kind == "repeating")
+        return;
+    other->click(); // they exclude one another as ever
+    QVERIFY(other->isChecked() && !picked->isChecked());
+    picked->click();
+    QVERIFY(picked->isChecked() && !other->isChecked());
 }
 
 void tst_InspectorWindow::showsUsers()
