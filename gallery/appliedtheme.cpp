@@ -7,8 +7,10 @@
 #include <analysis/themeproject.h>
 #include <format/themepath.h>
 #include <hvtheme/inifile.h>
+#include <inspector/inspectedsheet.h>
+#include <inspector/programchanges.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -160,12 +162,10 @@ QStringList templateFiles(const QStringList &folders)
 
 // Themes name images relative to the program that they are for. The library looks beside this one,
 // so it gets a text that names the same images from here.
-QByteArray textWithImagesFrom(const QString &applicationFolder, const QString &theme)
+QByteArray textWithImagesFrom(const QString &applicationFolder, const QByteArray &theme)
 {
-    QFile file(theme);
     QTemporaryFile copy;
-    if (!file.open(QIODevice::ReadOnly) || !copy.open()
-        || copy.write(HV::iniText(file.readAll())) < 0 || !copy.flush())
+    if (!copy.open() || copy.write(HV::iniText(theme)) < 0 || !copy.flush())
         return {};
     {
         QSettings settings(copy.fileName(), QSettings::IniFormat);
@@ -298,9 +298,13 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     if (!source.applicationFolder.isEmpty()) {
         for (const QString &name : {defaultThemeName(), m_name}) {
             const QString file = themeFilePath(folder, name);
-            texts.insert(file, textWithImagesFrom(source.applicationFolder, file));
+            QFile theme(file);
+            const QByteArray text =
+                theme.open(QIODevice::ReadOnly) ? theme.readAll() : QByteArray();
+            texts.insert(file, textWithImagesFrom(source.applicationFolder, text));
         }
     }
+    showChangesWithImagesFrom(source.applicationFolder);
     const QStringList templateFolders =
         QStringList{":/gallery/stylesheet"} + source.templateFolders;
     for (const QString &templates : templateFolders) {
@@ -315,6 +319,7 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     if (texts != m_texts) { // else they are whoever's who changes themes in this program
         m_texts = texts;
         m_look.setUnsavedTexts(texts); // what is wrong with the look before is not asked
+        ProgramChanges::ofProgram()->showAgain();
     }
     const bool isApplied = m_look.setName(m_name);
     m_isLoaded = m_isLoaded || isApplied;
@@ -324,6 +329,28 @@ Problem AppliedTheme::apply(const ThemeSource &source)
     // All else has been looked at before, so it is a template, or a theme beyond what themes may be.
     return m_look.problem().contains(QLatin1String("templates folder")) ? Problem::Templates
                                                                         : Problem::ThemeName;
+}
+
+// Changes are made to the files as they are; the library gets them like the files themselves.
+void AppliedTheme::showChangesWithImagesFrom(const QString &applicationFolder)
+{
+    m_applicationFolder = applicationFolder;
+    ProgramChanges::Translation translation;
+    if (!applicationFolder.isEmpty())
+        translation = [applicationFolder](const QByteArray &text) {
+            return textWithImagesFrom(applicationFolder, text);
+        };
+    ProgramChanges::ofProgram()->setTranslation(translation);
+}
+
+std::unique_ptr<InspectedSheet> AppliedTheme::inspectedSheet() const
+{
+    InspectedTheme theme = InspectedTheme::inForce();
+    if (!m_applicationFolder.isEmpty()) {
+        theme.applicationFolder = m_applicationFolder;
+        theme.unsavedTexts = ProgramChanges::ofProgram()->contents();
+    }
+    return std::make_unique<InspectedSheet>(qApp->styleSheet(), theme);
 }
 
 QVector<QPair<QString, QColor>> AppliedTheme::palette() const

@@ -13,6 +13,7 @@
 
 #include <memory>
 
+class InspectedSheet;
 class ThemeProject;
 
 namespace Gallery
@@ -78,6 +79,10 @@ public:
     /*! \brief Returns the palette of that project's theme, in its order. */
     QVector<QPair<QString, QColor>> palette() const;
 
+    /*! \brief Returns the style sheet in force, with images from where the last load() had them; never
+     *         null. */
+    std::unique_ptr<InspectedSheet> inspectedSheet() const;
+
     /*! \brief Returns the files \a source was last read from, the images included. */
     QStringList files() const { return m_files; }
 
@@ -96,9 +101,11 @@ Q_SIGNALS:
 private:
     Problem readProject(const ThemeSource &source);
     Problem apply(const ThemeSource &source);
+    void showChangesWithImagesFrom(const QString &applicationFolder);
 
     HV::ApplicationTheme m_look;
     QStringList m_templateFolders; //!< that m_look has already
+    QString m_applicationFolder; //!< of the last load(); empty: this program's
     QHash<QString, QByteArray> m_texts; //!< of theme files of another application, by path
     std::unique_ptr<ThemeProject> m_project; //!< of the last load(), good or not; may be null
     QString m_name; //!< in m_project

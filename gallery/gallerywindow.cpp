@@ -408,7 +408,8 @@ void GalleryWindow::showPane(Pane pane)
     m_memory.keepPane(pane);
     if (pane != Pane::Inspector || m_inspector)
         return;
-    m_inspector = new InspectorPane(m_panes->widget(int(pane)));
+    m_inspector = new InspectorPane([this] { return m_applied.inspectedSheet(); },
+                                    m_panes->widget(int(pane)));
     m_panes->widget(int(pane))->layout()->addWidget(m_inspector);
     m_inspector->setFinder([this](const QPoint &place) {
         QWidget *widget = m_area->widgetAt(place);
