@@ -187,7 +187,8 @@ void tst_ThemeEditor::changedMeanwhile()
     QCOMPARE(saving.ours, editor.contents().value(m_file));
     QCOMPARE(read(m_file), theirs);
 
-    QVERIFY2(editor.adopt(m_file, theirs, ThemeEditor::Text::Theirs, &m_error), qPrintable(m_error));
+    QVERIFY2(editor.adopt(m_file, theirs, ThemeEditor::Text::Theirs, &m_error),
+             qPrintable(m_error));
     QCOMPARE(editor.contents().value(m_file), QByteArray("[Palettes]\nBg=123\nMore=1\nFg=9\n"));
     QCOMPARE(editor.changes().constFirst(), (ThemeChange{m_file, "Palettes/Bg", "777", "123"}));
     editor.undo();
