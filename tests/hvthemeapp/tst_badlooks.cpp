@@ -6,6 +6,7 @@
 
 #include <hvtheme/theme.h>
 #include <hvthemeapp/applicationtheme.h>
+#include <hvthemeapp/themedicon.h>
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -99,11 +100,15 @@ private Q_SLOTS:
     void missingImage();
     void damagedTemplates_data();
     void damagedTemplates();
+    void noTemplates_data();
+    void noTemplates();
     void missingFolders();
     void names_data();
     void names();
     void themeThatLacksColors();
     void changedWhileRead();
+    void templatesChangedWhileRead();
+    void iconChangedWhileRead();
     void switchFromWithin_data();
     void switchFromWithin();
     void deletedByItsSwitch();
@@ -290,6 +295,26 @@ void tst_BadLooks::damagedTemplates()
                    "out of the templates folder.");
 }
 
+// What is no file is no template, whatever it is called; a pipe would be waited for.
+void tst_BadLooks::noTemplates_data()
+{
+    QTest::addColumn<QByteArray>("how");
+    for (const char *how : {"missing", "folder", "pipe"})
+        QTest::newRow(how) << QByteArray(how);
+}
+
+void tst_BadLooks::noTemplates()
+{
+    QFETCH(QByteArray, how);
+    TemporaryFolder folder;
+    folder.write("a.qss", "QLabel#a {color: #010203;}");
+    QVERIFY(m_theme->addTemplates(folder.path()));
+    QVERIFY(qApp->styleSheet().contains("QLabel#a"));
+    damage(folder, "a.qss", how);
+    QVERIFY(m_theme->setName("light"));
+    QVERIFY(!qApp->styleSheet().contains("QLabel#a"));
+}
+
 void tst_BadLooks::missingFolders()
 {
     TemporaryFolder folder;
@@ -381,6 +406,68 @@ void tst_BadLooks::changedWhileRead()
     writer.join();
     QCOMPARE(looks, (QSet<QString>{"Dark dark chalk", "Light light ink"}));
     QCOMPARE(m_theme->problem(), QString());
+}
+
+// A template that is replaced all the time gives one rule or the other, never a part.
+void tst_BadLooks::templatesChangedWhileRead()
+{
+    const QByteArray rules[] = {"QLabel#a {color: #010203;}\n",
+                                QByteArray("QLabel#a {color: #040506;}\n").repeated(2000)};
+    TemporaryFolder folder;
+    folder.write("a.qss", rules[0]);
+    TemporaryFolder elsewhere;
+    QVERIFY(m_theme->addTemplates(folder.path()));
+    std::atomic<bool> isOver{false};
+    std::thread writer([&] {
+        for (int i = 0; !isOver; ++i) {
+            elsewhere.write("new", rules[i % 2]);
+            rename(qPrintable(elsewhere.filePath("new")), qPrintable(folder.filePath("a.qss")));
+        }
+    });
+    QSet<int> counts;
+    QElapsedTimer time;
+    time.start();
+    for (int i = 0; i < 20 || (counts.size() < 2 && time.elapsed() < 5000); ++i) {
+        if (!m_theme->setName(i % 2 ? "dark" : "light"))
+            break;
+        counts.insert(qApp->styleSheet().count("QLabel#a {color: #010203;}")
+                      + qApp->styleSheet().count("QLabel#a {color: #040506;}"));
+    }
+    isOver = true;
+    writer.join();
+    QCOMPARE(counts, (QSet<int>{1, 2000}));
+    QCOMPARE(m_theme->problem(), QString());
+}
+
+void tst_BadLooks::iconChangedWhileRead()
+{
+    const auto filled = [](const char *color) -> QByteArray {
+        return QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"20\" height=\"20\">"
+                          "<rect width=\"20\" height=\"20\" fill=\"")
+            + color + "\"/></svg>";
+    };
+    TemporaryFolder folder;
+    folder.write("a.svg", filled("#ff0000"));
+    std::atomic<bool> isOver{false};
+    std::thread writer([&] {
+        for (int i = 0; !isOver; ++i) {
+            folder.write("new", filled(i % 2 ? "#ff0000" : "#0000ff"));
+            rename(qPrintable(folder.filePath("new")), qPrintable(folder.filePath("a.svg")));
+        }
+    });
+    const QIcon icon = HV::themedIcon(folder.filePath("a.svg"));
+    QSet<QRgb> colors;
+    QElapsedTimer time;
+    time.start();
+    for (int i = 0; i < 50 || (colors.size() < 2 && time.elapsed() < 5000); ++i) {
+        if (!m_theme->setName(i % 2 ? "dark" : "light")) // draws it anew
+            break;
+        const QImage picture = icon.pixmap(20).toImage();
+        colors.insert(picture.pixel(picture.rect().center()));
+    }
+    isOver = true;
+    writer.join();
+    QCOMPARE(colors, (QSet<QRgb>{0xffff0000, 0xff0000ff}));
 }
 
 void tst_BadLooks::switchFromWithin_data()
