@@ -50,7 +50,7 @@ Suggestion::Suggestion(const QStringList &names)
 
 QString Suggestion::nearest(const QString &misspelt) const
 {
-    const QString folded = m_byFoldedName.value(misspelt.toCaseFolded());
+    QString folded = m_byFoldedName.value(misspelt.toCaseFolded());
     if (!folded.isEmpty())
         return folded;
     const auto known = m_known.constFind(misspelt);

@@ -63,7 +63,7 @@ void switching(benchmark::State &state)
     HV::ApplicationTheme theme;
     require(theme.addTemplates(ownTemplates(), "own"), "templates");
     require(theme.setName("dark"), "theme"); // files are known to Qt from here on
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         withoutLook();
         double core = 0;
         {
@@ -89,7 +89,7 @@ void switching(benchmark::State &state)
 // Once per process, since the first one reads what later ones find.
 void setUp(benchmark::State &state)
 {
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         const double empty = processorSeconds([] { qApp->setStyleSheet(QStringLiteral(";")); });
         qApp->setStyleSheet(QString());
         const double look = processorSeconds([] {

@@ -70,7 +70,7 @@ void sampleFolder(benchmark::State &state)
     options.folder = QStringLiteral(HVTHEME_SOURCE_DIR "/themes");
     options.applicationFolder = QCoreApplication::applicationDirPath();
     require(!check(options).isEmpty(), "the sample folder");
-    for (auto _ : state)
+    while (state.KeepRunning())
         check(options);
 }
 
@@ -81,7 +81,7 @@ void growing(benchmark::State &state)
     const ThemeProjectOptions options = grown(folder, int(state.range(0)));
     for (const Finding &finding : check(options))
         require(finding.severity != Severity::Error, qPrintable(finding.message));
-    for (auto _ : state)
+    while (state.KeepRunning())
         check(options);
     state.SetComplexityN(state.range(0));
 }

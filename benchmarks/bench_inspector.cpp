@@ -62,7 +62,7 @@ QWidget *windowOf(int count)
 void opening(benchmark::State &state)
 {
     const std::unique_ptr<QWidget> window(windowOf(int(state.range(0))));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         InspectorWindow inspector;
         inspector.show();
         QCoreApplication::processEvents();
@@ -78,7 +78,7 @@ void picking(benchmark::State &state)
     QCoreApplication::processEvents();
     const auto buttons = window->findChildren<QPushButton *>();
     int next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QWidget *widget = buttons.at(next++ % buttons.size());
         inspector.pane()->pick(widget);
         require(inspector.pane()->inspection().widget == widget, "another widget");
@@ -96,7 +96,7 @@ void findingUsers(benchmark::State &state)
         const_cast<QPushButton *>(button), widgetParts(button).constFirst(), *sheet); // NOLINT
     const QSet<int> rule = sheet->declarationsOfRule(
         inspection.value(QStringLiteral("background-color"))->match.offset);
-    for (auto _ : state)
+    while (state.KeepRunning())
         require(!usersOf(rule, widgets, *sheet).isEmpty(), "no users");
 }
 
@@ -128,7 +128,7 @@ void editing(benchmark::State &state)
     edit(QStringLiteral("#aa00ff"));
     std::vector<double> edits;
     std::vector<double> switches;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         for (const char *color : {"#ff00aa", "#aa00ff"})
             edits.push_back(processorSeconds([&] { edit(QLatin1String(color)); }));
         for (const char *theme : {"light", "dark"})

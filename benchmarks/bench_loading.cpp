@@ -57,7 +57,7 @@ void load(benchmark::State &state, const std::function<void(const QString &)> &r
     const int count = int(state.range(0));
     const QByteArray text = themeOf(count);
     int number = 0;
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         const TemporaryFolder folder;
         folder.write(QString("%1/default.theme").arg(++number), text);
         const QString path = folder.filePath(QString::number(number));
@@ -87,7 +87,7 @@ void flatValues(benchmark::State &state)
 {
     const TemporaryFolder folder;
     folder.write("default.theme", themeOf(int(state.range(0))));
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         HV::WorkableTheme theme;
         HV::changeTheme(&theme, "default", folder.path());
         int size = 0;
@@ -117,7 +117,7 @@ void lookUp(const char *name, Lookup lookup)
     benchmark::RegisterBenchmark(name, [lookup](benchmark::State &state) {
         HV::WorkableTheme &theme = largeTheme();
         require(lookup(theme), "lookup");
-        for (auto iteration : state)
+        while (state.KeepRunning())
             benchmark::DoNotOptimize(lookup(theme));
     });
 }

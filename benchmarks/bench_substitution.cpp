@@ -96,7 +96,7 @@ void measure(const char *name, MakeText make, Call call, bool hasTokens)
         if (call != copy)
             require(text.size() > 2000000 || call(text) == plainChain(text), "another text");
         require(hasTokens == (chain(text) != text), "tokens");
-        for (auto iteration : state)
+        while (state.KeepRunning())
             benchmark::DoNotOptimize(call(text));
         state.counters["characters"] = double(text.size());
     })->Unit(benchmark::kMillisecond);
@@ -119,7 +119,7 @@ void measurePasses()
         benchmark::RegisterBenchmark(name, [make, call = call](benchmark::State &state) {
             const QString text = make();
             require(call(text) != text, "no token");
-            for (auto iteration : state)
+            while (state.KeepRunning())
                 benchmark::DoNotOptimize(call(text));
         })->Unit(benchmark::kMillisecond);
     }
@@ -131,7 +131,7 @@ void measureMemory()
     benchmark::RegisterBenchmark("memory/64MB",
                                  [](benchmark::State &state) {
                                      theme().values();
-                                     for (auto iteration : state) {
+                                     while (state.KeepRunning()) {
                                          QString text = withTokens(64 << 20);
                                          const double textKilobytes =
                                              2.0 * double(text.size()) / 1024;

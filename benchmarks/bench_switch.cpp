@@ -22,7 +22,7 @@ RestyledApplication &fixture()
 // One window gets its first style sheet, switches to another, and has that replaced by Qt alone.
 void restyle(benchmark::State &state, bool isReplacedByQt)
 {
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         qApp->setStyleSheet(QString());
         const std::unique_ptr<QWidget> window(
             nestedWindow(int(state.range(0)), int(state.range(1))));
@@ -49,7 +49,7 @@ void restyle(benchmark::State &state, bool isReplacedByQt)
 void rest(benchmark::State &state, bool isNewFile)
 {
     const QString wanted = fixture().styleSheet(1);
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         TemporaryFolder folder;
         folder.write("default.theme", completeTheme(1));
         const QString path = isNewFile ? folder.path() : fixture().folder(1);
@@ -65,7 +65,7 @@ void rest(benchmark::State &state, bool isNewFile)
 
 void settingsOfRest(benchmark::State &state)
 {
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         TemporaryFolder folder;
         const QString path = folder.write("default.theme", completeTheme(1));
         int count = 0;
@@ -85,7 +85,7 @@ void manySwitches(benchmark::State &state)
     QPushButton button("push");
     polish(&button);
     const int last = int(state.range(0));
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         for (int i = 1; i <= last; ++i) {
             fixture().apply(i % 2);
             QCoreApplication::sendPostedEvents();

@@ -49,7 +49,7 @@ std::array<uchar, encodingSteps + 1> encodingTable()
 int encoded(double linear)
 {
     static const std::array<uchar, encodingSteps + 1> table = encodingTable();
-    return table[size_t(qBound(0.0, linear, 1.0) * encodingSteps + 0.5)];
+    return table[size_t(qRound(qBound(0.0, linear, 1.0) * encodingSteps))];
 }
 
 QRgb seen(const Matrix &matrix, QRgb color)

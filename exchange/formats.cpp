@@ -100,7 +100,7 @@ QByteArray paletteFile(const QPalette &palette)
     const auto add = [&](const char *name, QPalette::ColorGroup group) {
         QByteArray line;
         for (int role = 0; role <= QPalette::PlaceholderText; ++role) {
-            const QColor color = palette.color(group, QPalette::ColorRole(role));
+            const QColor &color = palette.color(group, QPalette::ColorRole(role));
             line += (line.isEmpty() ? "" : ", ") + color.name(QColor::HexArgb).toLatin1();
         }
         text += name + QByteArrayLiteral("_colors=") + line + '\n';

@@ -25,7 +25,7 @@ QString selectorText(const unsigned char *data, std::size_t size)
     for (std::size_t i = 0; i < size; ++i) {
         const char character = char(data[i]);
         text += QLatin1Char(
-            letters.contains(character) ? character : letters.at(data[i] % uint(letters.size())));
+            letters.contains(character) ? character : letters.at(int(data[i]) % letters.size()));
     }
     return text;
 }

@@ -34,6 +34,11 @@ QString firstOf(const QStringList &keys)
 
 } // namespace
 
+QApplication *guiApplication()
+{
+    return qobject_cast<QApplication *>(QCoreApplication::instance());
+}
+
 LookInForce &lookInForce()
 {
     static LookInForce look;
@@ -62,80 +67,122 @@ QString ApplicationTheme::Private::fitting(const QString &ofFolder) const
                            desktop->contrast());
 }
 
-void ApplicationTheme::watch()
+void ApplicationTheme::Private::watch()
 {
-    if (!d->watcher || d->name.isNull())
+    if (watcher && !name.isNull())
+        watcher->setPaths(files(), templates.folders());
+}
+
+// An application that ends takes its event filters with it.
+void ApplicationTheme::Private::lift()
+{
+    if (!liftsText || !guiApplication()) {
+        legibleText.reset();
         return;
-    d->watcher->setPaths(d->files(), d->templates.folders());
-}
-
-void ApplicationTheme::reload()
-{
-    if (lookInForce().owner == this)
-        apply(d->nameFolder, d->name);
-}
-
-// Returns false for a problem, so that it ends what failed.
-bool ApplicationTheme::report(const QString &problem)
-{
-    if (problem != d->problem) {
-        d->problem = problem;
-        if (!problem.isEmpty())
-            qCWarning(lcApp, "%ls", qUtf16Printable(problem));
-        Q_EMIT problemChanged();
     }
-    return problem.isEmpty();
+    if (!legibleText)
+        legibleText.reset(new LegibleText);
+    legibleText->setIsHighContrast(theme->values().value(QStringLiteral("HighContrast")).toBool());
+    legibleText->begin();
 }
 
-bool ApplicationTheme::apply(const QString &folder, const QString &name)
+void ApplicationTheme::Private::reload()
 {
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+    if (lookInForce().owner == q)
+        apply(nameFolder, name);
+}
+
+// Returns false for a problem, so that it ends what failed. Whoever is told may delete the object.
+bool ApplicationTheme::Private::report(const QString &newProblem)
+{
+    const bool isNone = newProblem.isEmpty();
+    if (newProblem != problem) {
+        problem = newProblem;
+        if (!isNone)
+            qCWarning(lcApp, "%ls", qUtf16Printable(newProblem));
+        Q_EMIT q->problemChanged();
+    }
+    return isNone;
+}
+
+bool ApplicationTheme::Private::apply(const QString &ofFolder, const QString &newName)
+{
+    if (!guiApplication())
         return report(tr("There is no application to give a look to; make a QApplication first."));
-    const ThemeFolder themes(folder);
-    for (const QString &problem : {themes.problemOf(name), d->templates.problem()}) {
-        if (!problem.isEmpty())
-            return report(problem);
+    const ThemeFolder themes(ofFolder);
+    for (const QString &fault : {themes.problemOf(newName), templates.problem()}) {
+        if (!fault.isEmpty())
+            return report(fault);
     }
-    if (d->isApplying || isPainting()) {
-        applyLater(folder, name);
+    if (isApplying || isPainting()) {
+        applyLater(ofFolder, newName);
         return true;
     }
 
-    const QStringList derived = readTheme(*d->theme, themes, name, d->accent, d->unsavedTexts);
+    const QStringList derived = readTheme(*theme, themes, newName, accent, unsavedTexts);
     const QString lacks = derived.isEmpty()
         ? QString()
         : QStringLiteral("The theme \"%1\" lacks %2 of the colours that a look is made of (%3); "
                          "they are derived from those that it has.")
-              .arg(themes.file(name), QString::number(derived.size()), firstOf(derived));
-    if (!lacks.isEmpty() && d->derivedColors.value(themes.file(name)) != lacks)
+              .arg(themes.file(newName), QString::number(derived.size()), firstOf(derived));
+    if (!lacks.isEmpty() && derivedColors.value(themes.file(newName)) != lacks)
         qCWarning(lcApp, "%ls", qUtf16Printable(lacks));
-    d->derivedColors.insert(themes.file(name), lacks);
+    derivedColors.insert(themes.file(newName), lacks);
 
-    const bool isOther = name != d->name;
-    d->name = name;
-    d->nameFolder = folder;
-    const QPointer<ApplicationTheme> guard(this);
+    const bool isOther = newName != name;
+    name = newName;
+    nameFolder = ofFolder;
+    laterFolder = QString(); // what waits is older than this
+    const QPointer<ApplicationTheme> guard(q);
     report(QString());
-    restyleAgain();
+    if (guard)
+        q->restyleAgain();
     if (guard && isOther)
-        Q_EMIT nameChanged();
+        Q_EMIT q->nameChanged();
     return true;
 }
 
-// Neither a painter nor a polish may lose the rules that it is at work with.
-void ApplicationTheme::applyLater(const QString &folder, const QString &name)
+// The accent stays what it was if the look does not come into force.
+bool ApplicationTheme::Private::applyWithAccent(const QColor &newAccent, const QString &ofFolder,
+                                                const QString &newName)
 {
-    const bool isPending = !d->laterFolder.isNull();
-    d->laterFolder = folder;
-    d->laterName = name;
+    const QColor former = std::exchange(accent, newAccent);
+    const QPointer<ApplicationTheme> guard(q);
+    const bool isApplied = newName.isNull() || apply(ofFolder, newName);
+    if (!guard)
+        return isApplied;
+    if (!isApplied && accent == newAccent)
+        accent = former;
+    if (accent != former)
+        Q_EMIT q->accentChanged();
+    return isApplied;
+}
+
+// A change of the accent alone leaves a look that does not follow it as it is.
+bool ApplicationTheme::Private::applyDesktop()
+{
+    const QString next = nextFolder();
+    const QString fittingName = fitting(next);
+    const QColor nextAccent = followsAccent ? desktop->accentColor() : ownAccent;
+    const bool isInForce = lookInForce().owner == q && fittingName == name && next == nameFolder
+        && nextAccent == accent;
+    return isInForce ? report(QString()) : applyWithAccent(nextAccent, next, fittingName);
+}
+
+// Neither a painter nor a polish may lose the rules that it is at work with.
+void ApplicationTheme::Private::applyLater(const QString &ofFolder, const QString &newName)
+{
+    const bool isPending = !laterFolder.isNull();
+    laterFolder = ofFolder;
+    laterName = newName;
     if (isPending)
         return;
     const auto applyPending = [this] {
-        const QString laterFolder = d->laterFolder;
-        d->laterFolder = QString();
-        apply(laterFolder, d->laterName);
+        const QString pending = std::exchange(laterFolder, QString());
+        if (!pending.isNull())
+            apply(pending, laterName);
     };
-    QMetaObject::invokeMethod(this, applyPending, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(q, applyPending, Qt::QueuedConnection);
 }
 
 void ApplicationTheme::restyleAgain()
@@ -143,7 +190,7 @@ void ApplicationTheme::restyleAgain()
     if (d->name.isNull())
         return;
     if (d->isApplying || isPainting()) {
-        applyLater(d->nameFolder, d->name);
+        d->applyLater(d->comingFolder(), d->comingName());
         return;
     }
     const QString look = d->templates.styleSheet(d->theme.get(), d->keepsFonts);
@@ -154,7 +201,8 @@ void ApplicationTheme::restyleAgain()
     complete(&palette, &styleSheet);
     lookInForce() = {this, look};
     d->palette = palette;
-    watch();
+    d->watch();
+    d->lift();
 
     // What happens to a widget may run any code of the application, which may delete the object.
     const QPointer<ApplicationTheme> guard(this);

@@ -45,13 +45,14 @@ ApplicationTheme::ApplicationTheme(QObject *parent)
 
 ApplicationTheme::ApplicationTheme(std::unique_ptr<Theme> theme, QObject *parent)
     : QObject(parent)
-    , d(std::make_unique<Private>(std::move(theme)))
+    , d(std::make_unique<Private>(this, std::move(theme)))
 {
     initResources();
     registerIcons();
-    startPalette();
-    if (qApp)
+    if (guiApplication()) {
+        startPalette();
         ThemedStyle::install();
+    }
 }
 
 ApplicationTheme::~ApplicationTheme()
@@ -71,18 +72,19 @@ bool ApplicationTheme::setFolder(const QString &folder)
         folder.isEmpty() ? ThemeFolder::defaultPath() : QFileInfo(folder).absoluteFilePath();
     const QString problem = ThemeFolder(path).problem();
     if (!problem.isEmpty())
-        return report(problem);
+        return d->report(problem);
     const QPointer<ApplicationTheme> guard(this);
     if (!d->name.isNull()) {
         const QString name = d->desktop ? d->fitting(path) : d->name;
-        if (ThemeFolder(path).names().contains(name) && !apply(path, name))
+        if (ThemeFolder(path).names().contains(name) && !d->apply(path, name))
             return false;
     }
     if (!guard)
         return true;
     d->folder = folder.isEmpty() ? QString() : path;
-    report(QString());
-    Q_EMIT folderChanged();
+    d->report(QString());
+    if (guard)
+        Q_EMIT folderChanged();
     return true;
 }
 
@@ -104,7 +106,7 @@ QString ApplicationTheme::name() const
 bool ApplicationTheme::setName(const QString &name)
 {
     const QPointer<ApplicationTheme> guard(this);
-    if (!apply(d->nextFolder(), name))
+    if (!d->applyWithAccent(d->ownAccent, d->nextFolder(), name))
         return false;
     if (guard)
         setFollowsDesktop(false);
@@ -113,17 +115,22 @@ bool ApplicationTheme::setName(const QString &name)
 
 bool ApplicationTheme::followDesktop()
 {
-    if (!qApp)
-        return apply(QString(), QString());
-    if (!d->desktop) {
+    if (!guiApplication())
+        return d->apply(QString(), QString());
+    const bool isNew = !d->desktop;
+    if (isNew) {
         d->desktop = std::make_unique<DesktopSettings>(startPalette());
         connect(d->desktop.get(), &DesktopSettings::changed, this, [this] {
-            if (lookInForce().owner == this)
-                applyDesktop();
+            const ApplicationTheme *owner = lookInForce().owner;
+            if (owner == this || (!owner && d->name.isNull()))
+                d->applyDesktop();
         });
-        Q_EMIT followsDesktopChanged();
     }
-    return applyDesktop();
+    const QPointer<ApplicationTheme> guard(this);
+    const bool isApplied = d->applyDesktop();
+    if (guard && isNew)
+        Q_EMIT followsDesktopChanged();
+    return isApplied;
 }
 
 bool ApplicationTheme::followsDesktop() const
@@ -145,23 +152,6 @@ void ApplicationTheme::setFollowsDesktop(bool follows)
     Q_EMIT followsDesktopChanged();
 }
 
-// A change of the accent alone leaves a look that does not follow it as it is.
-bool ApplicationTheme::applyDesktop()
-{
-    const QString folder = d->nextFolder();
-    const QString name = d->fitting(folder);
-    const bool isInForce =
-        lookInForce().owner == this && name == d->name && folder == d->nameFolder;
-    const bool isOtherAccent = d->followsAccent && d->accent != d->desktop->accentColor();
-    if (isOtherAccent)
-        d->accent = d->desktop->accentColor();
-    const QPointer<ApplicationTheme> guard(this);
-    const bool isApplied = (isInForce && !isOtherAccent) || apply(folder, name);
-    if (guard && isOtherAccent)
-        Q_EMIT accentChanged();
-    return isApplied;
-}
-
 QColor ApplicationTheme::accent() const
 {
     return d->accent;
@@ -170,14 +160,18 @@ QColor ApplicationTheme::accent() const
 bool ApplicationTheme::setAccent(const QColor &accent)
 {
     const QColor opaque = accent.isValid() ? QColor(accent.rgb()) : QColor();
-    if (opaque == d->accent)
-        return true;
-    d->accent = opaque;
+    const QColor former = std::exchange(d->ownAccent, opaque);
     const QPointer<ApplicationTheme> guard(this);
-    const bool isApplied = d->name.isNull() || apply(d->nameFolder, d->name);
-    if (guard)
-        Q_EMIT accentChanged();
+    const bool isApplied =
+        opaque == d->accent || d->applyWithAccent(opaque, d->comingFolder(), d->comingName());
+    if (guard && !isApplied)
+        d->ownAccent = former;
     return isApplied;
+}
+
+void ApplicationTheme::resetAccent()
+{
+    setAccent(QColor());
 }
 
 bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
@@ -188,7 +182,7 @@ bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
     if (byPath == d->unsavedTexts)
         return true;
     d->unsavedTexts = byPath;
-    return d->name.isNull() || apply(d->nameFolder, d->name);
+    return d->name.isNull() || d->apply(d->comingFolder(), d->comingName());
 }
 
 QHash<QString, QByteArray> ApplicationTheme::unsavedTexts() const
@@ -208,9 +202,9 @@ void ApplicationTheme::setFollowsAccent(bool follows)
     d->followsAccent = follows;
     const QPointer<ApplicationTheme> guard(this);
     if (d->desktop && follows)
-        applyDesktop();
-    else if (!follows)
-        setAccent(QColor());
+        d->applyDesktop();
+    else if (!follows && d->accent != d->ownAccent)
+        d->applyWithAccent(d->ownAccent, d->comingFolder(), d->comingName());
     if (guard)
         Q_EMIT followsAccentChanged();
 }
@@ -221,10 +215,12 @@ bool ApplicationTheme::addTemplates(const QString &folder, const QString &prefix
     more.add(QFileInfo(folder).absoluteFilePath(), prefix);
     const QString problem = more.problem();
     if (!problem.isEmpty())
-        return report(problem);
+        return d->report(problem);
     d->templates = more;
-    report(QString());
-    restyleAgain();
+    const QPointer<ApplicationTheme> guard(this);
+    d->report(QString());
+    if (guard)
+        restyleAgain();
     return true;
 }
 
@@ -238,28 +234,23 @@ void ApplicationTheme::setKeepsFonts(bool keeps)
     if (keeps == d->keepsFonts)
         return;
     d->keepsFonts = keeps;
+    const QPointer<ApplicationTheme> guard(this);
     restyleAgain();
-    Q_EMIT keepsFontsChanged();
+    if (guard)
+        Q_EMIT keepsFontsChanged();
 }
 
 bool ApplicationTheme::liftsText() const
 {
-    return d->legibleText != nullptr;
+    return d->liftsText;
 }
 
 void ApplicationTheme::setLiftsText(bool lifts)
 {
-    if (lifts == liftsText())
+    if (lifts == d->liftsText)
         return;
-    d->legibleText = lifts ? std::make_unique<LegibleText>() : nullptr;
-    if (lifts) {
-        const auto follow = [this] {
-            const QVariant flag = d->theme->values().value(QStringLiteral("HighContrast"));
-            d->legibleText->setIsHighContrast(flag.toBool());
-        };
-        connect(this, &ApplicationTheme::changed, d->legibleText.get(), follow);
-        follow();
-    }
+    d->liftsText = lifts;
+    d->lift();
     const QWidgetList all = QApplication::allWidgets();
     for (QWidget *widget : all)
         widget->update();
@@ -277,8 +268,8 @@ void ApplicationTheme::setLiveReload(bool reload)
         return;
     d->watcher = reload ? std::make_unique<ThemeWatcher>() : nullptr;
     if (reload) {
-        connect(d->watcher.get(), &ThemeWatcher::changed, this, &ApplicationTheme::reload);
-        watch();
+        connect(d->watcher.get(), &ThemeWatcher::changed, this, [this] { d->reload(); });
+        d->watch();
     }
     Q_EMIT liveReloadChanged();
 }
@@ -317,7 +308,7 @@ void ApplicationTheme::save(QSettings &settings) const
 {
     settings.setValue(themeKey, d->name);
     settings.setValue(followsDesktopKey, followsDesktop());
-    settings.setValue(accentKey, d->accent.isValid() ? d->accent.name() : QString());
+    settings.setValue(accentKey, d->ownAccent.isValid() ? d->ownAccent.name() : QString());
 }
 
 bool ApplicationTheme::restore(const QSettings &settings)
@@ -326,12 +317,12 @@ bool ApplicationTheme::restore(const QSettings &settings)
     const QString name = settings.value(themeKey).toString();
     if (!isFollowing && name.isEmpty())
         return false;
-    const QColor accent(settings.value(accentKey).toString());
-    if (accent != d->accent) { // in force with the look, not by a restyling of its own
-        d->accent = accent;
-        Q_EMIT accentChanged();
-    }
-    return isFollowing ? followDesktop() : setName(name);
+    const QColor former = std::exchange(d->ownAccent, QColor(settings.value(accentKey).toString()));
+    const QPointer<ApplicationTheme> guard(this);
+    const bool isApplied = isFollowing ? followDesktop() : setName(name);
+    if (guard && !isApplied)
+        d->ownAccent = former;
+    return isApplied;
 }
 
 } // namespace HV

@@ -45,7 +45,7 @@ class Theme;
  * Use it on the GUI thread. It may be made before the QApplication and outlive it; a look needs one.
  * An application has one look: of several objects the last one that set it has it, and the others no
  * longer react to files and the desktop until they set it again. Deleting the object leaves the look
- * as it is.
+ * as it is, but for text that is lifted.
  */
 class HVTHEMEAPP_EXPORT ApplicationTheme : public QObject
 {
@@ -100,8 +100,14 @@ public:
     /*! \brief Returns the name of the look in force; null before the first. */
     QString name() const;
 
-    /*! \brief Gives the application the look \a name; returns whether it has it now. If so, the
-     *         desktop is no longer followed. */
+    /*!
+     * \brief Gives the application the look \a name and follows the desktop no longer.
+     *
+     * During a paint event or another change of the look, here as in every function that changes it,
+     * that happens as the event loop goes on.
+     *
+     * \return whether the application has the look, or will have it then.
+     */
     bool setName(const QString &name);
 
     /*!
@@ -133,14 +139,16 @@ public:
      * colours. Images of the theme's own stay as they are.
      *
      * \param accent  its opacity does not count; an invalid colour gives themes their own brand back.
-     * \return whether the application has it now; true before the first look.
+     * \return whether the application has it now; true before the first look. If not, the accent stays
+     *         what it was.
      */
     bool setAccent(const QColor &accent);
-    void resetAccent() { setAccent(QColor()); }
+    void resetAccent();
 
     /*!
      * \brief Whether the desktop's accent colour is the accent while the desktop is followed; false at
-     *        first. A desktop without one leaves themes their own brand.
+     *        first. A desktop without one leaves themes their own brand; afterwards the accent is again
+     *        what setAccent() made it.
      */
     bool followsAccent() const;
     void setFollowsAccent(bool follows);
@@ -229,14 +237,14 @@ public:
     QMenu *menu(QWidget *parent = nullptr);
 
     /*! \brief Writes the user's choice, `Theme`, `FollowsDesktop` and `Accent`, below the current
-     *         group. */
+     *         group; an accent of the desktop's is none of the user's. */
     void save(QSettings &settings) const;
 
     /*!
      * \brief Makes what save() wrote the look.
      *
      * \return false if nothing is written there, which is no problem(), or if it did not come into
-     *         force; the caller then chooses: `if (!theme.restore(settings)) theme.followDesktop();`
+     *         force, and nothing then changes; the caller chooses: `if (!theme.restore(settings)) theme.followDesktop();`
      */
     bool restore(const QSettings &settings);
 
@@ -270,13 +278,6 @@ protected:
     virtual void complete(QPalette *palette, QString *styleSheet);
 
 private:
-    bool apply(const QString &folder, const QString &name);
-    bool applyDesktop();
-    void applyLater(const QString &folder, const QString &name);
-    bool report(const QString &problem);
-    void reload();
-    void watch();
-
     class Private;
     const std::unique_ptr<Private> d;
 };

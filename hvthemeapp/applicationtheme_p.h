@@ -20,6 +20,8 @@
 
 #include <memory>
 
+class QApplication;
+
 namespace HV
 {
 
@@ -31,29 +33,48 @@ struct LookInForce {
 
 LookInForce &lookInForce();
 
+/*! Returns the application that widgets need; null if there is none, or one without widgets. */
+QApplication *guiApplication();
+
 /*! What an application theme knows. Internal. */
 class HVTHEMEAPP_NO_EXPORT ApplicationTheme::Private
 {
 public:
-    explicit Private(std::unique_ptr<Theme> ownTheme)
-        : theme(std::move(ownTheme))
+    Private(ApplicationTheme *object, std::unique_ptr<Theme> ownTheme)
+        : q(object)
+        , theme(std::move(ownTheme))
     {
     }
 
+    bool report(const QString &problem);
+    bool apply(const QString &ofFolder, const QString &newName);
+    bool applyWithAccent(const QColor &newAccent, const QString &ofFolder, const QString &newName);
+    bool applyDesktop();
+    void applyLater(const QString &ofFolder, const QString &newName);
+    void reload();
+    void watch();
+    void lift();
+
     QString nextFolder() const { return folder.isNull() ? ThemeFolder::defaultPath() : folder; }
+    // The look in force, or the one that waits to be.
+    QString comingFolder() const { return laterFolder.isNull() ? nameFolder : laterFolder; }
+    QString comingName() const { return laterFolder.isNull() ? name : laterName; }
     QStringList files() const;
     QString fitting(const QString &ofFolder) const;
 
+    ApplicationTheme *const q;
     const std::unique_ptr<Theme> theme;
     QString folder; // that themes will be taken from; null for the default one
     QString name; // of the look in force,
     QString nameFolder; // which comes from here
-    QColor accent; // invalid for the brand of the theme itself
+    QColor accent; // in force; invalid for the brand of the theme itself
+    QColor ownAccent; // as it was set, not the desktop's
     QHash<QString, QByteArray> unsavedTexts; // by absolute path
     bool followsAccent = false;
     TemplateFolders templates;
     bool keepsFonts = false;
-    std::unique_ptr<LegibleText> legibleText; // null unless text is lifted
+    bool liftsText = false;
+    std::unique_ptr<LegibleText, EndLegibleText> legibleText; // while there is an application
     QPalette palette;
     QString problem;
     QHash<QString, QString> derivedColors; // told by file, so that each is told once

@@ -63,8 +63,9 @@ void drawNotches(const QStyleOptionSlider &option, QPainter &painter, const QPoi
     const double step = qMax(1, option.tickInterval ? option.tickInterval : option.singleStep);
     if (range <= 0 || step / range * radius * qDegreesToRadians(dialSpan) < closestMarks)
         return;
-    for (double value = 0; value <= range; value += step) {
-        const double angle = dialAngle(option, value / range);
+    const int last = int(range / step);
+    for (int mark = 0; mark <= last; ++mark) {
+        const double angle = dialAngle(option, mark * step / range);
         painter.drawLine(onCircle(centre, radius - markLength, angle),
                          onCircle(centre, radius, angle));
     }
@@ -174,7 +175,7 @@ void drawTickMarks(const QStyle &style, const QSlider &slider, QPainter &painter
 
     painter.save();
     painter.setPen(QPen(option.palette.color(QPalette::PlaceholderText), 1));
-    for (double value = option.minimum; value <= option.maximum; value += step) {
+    for (qint64 value = option.minimum; value <= option.maximum; value += step) {
         const QRect knob = knobAt(int(value));
         if (isUpright) {
             const int y = knob.center().y();

@@ -30,7 +30,8 @@ QStringList existing(const QString &name)
     const QStringList paths =
         QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, name);
     for (const QString &path : paths) {
-        if (QFileInfo(path).size() <= largestFile)
+        const QFileInfo file(path);
+        if (file.isFile() && file.size() <= largestFile)
             result.append(path);
     }
     return result;
@@ -114,7 +115,11 @@ DesktopFiles::DesktopFiles(QObject *parent)
     m_settling.setSingleShot(true);
     m_settling.setInterval(settlingMs);
     connect(&m_settling, &QTimer::timeout, this, &DesktopFiles::read);
-    const auto wait = [this] { m_settling.start(); };
+    // Not from the start again: others may write into the same folder all the time.
+    const auto wait = [this] {
+        if (!m_settling.isActive())
+            m_settling.start();
+    };
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, wait);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, wait);
     read();

@@ -30,6 +30,9 @@ const QLatin1String notFound("org.freedesktop.portal.Error.NotFound");
 const QLatin1String busName("org.freedesktop.DBus");
 const QLatin1String busPath("/org/freedesktop/DBus");
 
+// In milliseconds, for what answers with the others and for a look that changes only once.
+constexpr int longestWait = 50;
+
 // Without an address a bus would be looked for by starting programs.
 bool hasSessionBus()
 {
@@ -109,22 +112,24 @@ void DesktopPortal::begin()
 {
     if (hasSessionBus())
         m_bus = QDBusConnection::sessionBus();
-    if (!m_bus || !m_bus->isConnected()) {
+    if (!m_bus.isConnected()) {
         m_presence = Presence::Absent;
         Q_EMIT changed();
         return;
     }
     // First the signals, then the questions, so that no change is lost between them. No sender is
     // named, for Qt would wait for the bus to tell who that is.
-    m_bus->connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
-                   SLOT(takeSetting(QDBusMessage)));
-    m_bus->connect(busName, busPath, busName, QStringLiteral("NameOwnerChanged"), {portalService},
-                   QStringLiteral("sss"), this, SLOT(takeOwner(QString, QString, QString)));
+    m_bus.connect(QString(), portalPath, portalInterface, QStringLiteral("SettingChanged"), this,
+                  SLOT(takeSetting(QDBusMessage)));
+    m_bus.connect(busName, busPath, busName, QStringLiteral("NameOwnerChanged"), {portalService},
+                  QStringLiteral("sss"), this, SLOT(takeOwner(QString, QString, QString)));
     ask();
 }
 
 void DesktopPortal::ask()
 {
+    m_isWaitOver = false;
+    m_isOwnerNew = false;
     for (const QLatin1String &key : {portalScheme, portalContrast, portalAccent})
         ask(key, false);
 }
@@ -136,7 +141,7 @@ void DesktopPortal::ask(const QString &key, bool asOldVersion)
                                                                     : QStringLiteral("ReadOne"));
     call << appearance << key;
     ++m_pending;
-    auto *watcher = new QDBusPendingCallWatcher(m_bus->asyncCall(call), this);
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
             [this, key, asOldVersion](QDBusPendingCallWatcher *done) {
                 done->deleteLater();
@@ -163,7 +168,22 @@ void DesktopPortal::take(QDBusPendingCallWatcher *call, const QString &key, bool
         store(key, {});
     }
     if (m_pending == 0)
+        finish();
+    else if (m_isWaitOver)
         Q_EMIT changed();
+    else if (m_pending == 2) // the first answer of three
+        QTimer::singleShot(longestWait, this, [this] {
+            m_isWaitOver = m_pending > 0;
+            if (m_isWaitOver && m_presence == Presence::Present)
+                Q_EMIT changed();
+        });
+}
+
+void DesktopPortal::finish()
+{
+    Q_EMIT changed();
+    if (m_isOwnerNew)
+        ask();
 }
 
 void DesktopPortal::store(const QString &key, const QVariant &value)
@@ -199,7 +219,7 @@ void DesktopPortal::takeSetting(const QDBusMessage &message)
     m_presence = Presence::Present;
     store(arguments.at(1).toString(), arguments.at(2));
     // Changes during the first questions are told with their answers.
-    if (m_pending == 0 && (!wasPresent || before != m_preferences))
+    if ((m_pending == 0 || m_isWaitOver) && (!wasPresent || before != m_preferences))
         Q_EMIT changed();
 }
 
@@ -211,6 +231,8 @@ void DesktopPortal::takeOwner(const QString &, const QString &, const QString &n
     m_owner = now;
     if (m_pending == 0)
         ask();
+    else
+        m_isOwnerNew = true;
 }
 
 } // namespace HV

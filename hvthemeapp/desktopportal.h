@@ -35,7 +35,8 @@ public:
     const DesktopPreferences &preferences() const { return m_preferences; }
 
 Q_SIGNALS:
-    /*! \brief Emitted when all that was asked is answered, and at each change after it. */
+    /*! \brief Emitted when all that was asked is answered, and at each change after it. An answer
+     *         that lets others wait holds none of them back. */
     void changed();
 
 private Q_SLOTS:
@@ -49,11 +50,15 @@ private:
     void take(QDBusPendingCallWatcher *call, const QString &key, bool asOldVersion);
     void store(const QString &key, const QVariant &value);
 
-    std::optional<QDBusConnection> m_bus; // none until it was asked for
+    void finish();
+
+    QDBusConnection m_bus; // not connected until it was asked for
     Presence m_presence = Presence::Unknown;
     DesktopPreferences m_preferences;
     QString m_owner; // of the portal's name, once it has answered
     int m_pending = 0;
+    bool m_isWaitOver = false; // for those that have not answered
+    bool m_isOwnerNew = false; // since they were asked
 };
 
 } // namespace HV

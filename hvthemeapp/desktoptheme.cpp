@@ -7,6 +7,7 @@
 #include <hvtheme/inifile.h>
 
 #include <QColor>
+#include <QFileInfo>
 #include <QSettings>
 
 #include <optional>
@@ -17,12 +18,22 @@ namespace HV
 namespace
 {
 
+// Nothing but a file is opened: a pipe would never end. A theme too large to be taken has no say.
+QString readable(const QString &path)
+{
+    constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
+    const QFileInfo file(path);
+    const bool isTaken = file.isFile() && file.size() <= sizeLimit;
+    return isTaken ? path : QStringLiteral(":/hvthemeapp/none");
+}
+
 /*! The two files of a theme, read without a theme's messages. */
 class ThemeFiles
 {
 public:
     ThemeFiles(const QString &folder, const QString &name)
-        : ThemeFiles(themeFilePath(folder, defaultThemeName()), themeFilePath(folder, name), name)
+        : ThemeFiles(readable(themeFilePath(folder, defaultThemeName())),
+                     readable(themeFilePath(folder, name)), name)
     {
     }
 

@@ -105,13 +105,13 @@ QColor color(const QString &key, QIcon::Mode mode, bool *found)
     const bool isColor = value.userType() == QMetaType::QColor;
     if (found)
         *found = isColor || s.generation == 0;
-    const QColor normal = isColor ? value.value<QColor>() : colorOfPalette(key, palette);
+    QColor normal = isColor ? value.value<QColor>() : colorOfPalette(key, palette);
     const Ground own = groundOfOwn();
     if (mode != QIcon::Selected && !own.ground.isValid())
         return normal;
 
     // A shape must stand out from the ground, which shows where something is cut out of it.
-    const QColor ground = own.ground.isValid() ? own.ground : palette.color(QPalette::Highlight);
+    QColor ground = own.ground.isValid() ? own.ground : palette.color(QPalette::Highlight);
     if (key == cutOutKey || key == signGroundKey)
         return ground;
     if (ColorMath::contrastRatio(normal, ground) >= enoughContrast && key != inkKey)

@@ -34,7 +34,7 @@ QString pathOf(const QString &name)
 {
     if (isPath(name))
         return name;
-    const QString own = IconColors::imageFile(name);
+    QString own = IconColors::imageFile(name);
     if (!own.isEmpty() && QFile::exists(own))
         return own;
     const QString builtIn = builtInDrawings() + name + QLatin1String(".hvicon");
@@ -51,7 +51,7 @@ QString pathOf(const QString &name, QIcon::Mode mode, QIcon::State state, bool *
         name + (state == QIcon::On ? QLatin1String("_on") : QLatin1String("_off"));
     const QString base = pathOf(stated).isEmpty() ? name : stated;
     if (mode == QIcon::Disabled || mode == QIcon::Active) {
-        const QString path = pathOf(
+        QString path = pathOf(
             base
             + (mode == QIcon::Disabled ? QLatin1String("_disabled") : QLatin1String("_hover")));
         if (!path.isEmpty()) {

@@ -6,8 +6,11 @@
 #include <QGuiApplication>
 #include <QtPlugin>
 
+// The names are those that Qt's macros make.
+// NOLINTBEGIN(readability-identifier-naming)
 extern const QStaticPlugin qt_static_plugin_HVDrawingIconPlugin();
 extern const QStaticPlugin qt_static_plugin_HVDrawingImagePlugin();
+// NOLINTEND(readability-identifier-naming)
 
 // Outside of all namespaces, as the macros ask for. Called, not left to a static object: the linker
 // drops those of a static library.

@@ -91,7 +91,8 @@ std::optional<QColor> groundBelow(const QPainter &painter, const QRectF &rect)
     const int columns = qMin(area.width(), 24);
     const int rows = qMin(area.height(), 7);
     std::vector<QRgb> pixels;
-    pixels.reserve(size_t(columns * rows));
+    const size_t count = size_t(columns) * size_t(rows);
+    pixels.reserve(count);
     for (int row = 0; row < rows; ++row) {
         const int y = area.top() + (2 * row + 1) * area.height() / (2 * rows);
         for (int column = 0; column < columns; ++column) {
@@ -102,7 +103,7 @@ std::optional<QColor> groundBelow(const QPainter &painter, const QRectF &rect)
         }
     }
     // What is translucent gets its ground later, where it cannot be seen from here.
-    if (pixels.size() * 2 < size_t(columns * rows))
+    if (pixels.size() * 2 < count)
         return std::nullopt;
     return commonColor(pixels);
 }
@@ -150,6 +151,20 @@ LegibleText::LegibleText()
     : m_ratio(normalRatio)
     , m_forwarding(this)
 {
+}
+
+void LegibleText::begin()
+{
+    m_forwarding.install();
+}
+
+void LegibleText::end()
+{
+    m_forwarding.uninstall();
+    if (m_forwarding.widget())
+        m_forwarding.setWhenPainted([this] { deleteLater(); });
+    else
+        delete this;
 }
 
 void LegibleText::setIsHighContrast(bool isHigh)

@@ -9,7 +9,7 @@
 #include <QHash>
 
 /*!
- * \brief While it lives, text that does not stand out from its ground is painted lighter or darker.
+ * \brief From begin() to end(), text that does not stand out from its ground is painted lighter or darker.
  *
  * All widgets of the application on the screen are meant, whoever chose the colour of the text: an
  * item of a model, a document, a palette of a widget, a paint event. Hue stays and nothing but the
@@ -22,8 +22,14 @@
 class LegibleText : public QObject, private TextColors
 {
 public:
-    /*! \brief Needs a QApplication and is used by its thread. */
+    /*! \brief Does nothing before begin(); made with new, and deleted by end(). */
     LegibleText();
+
+    /*! \brief Begins with the application that there is now, on whose thread this is used. */
+    void begin();
+
+    /*! \brief Ends, and deletes the object: at once, or after the paint that it is at work in. */
+    void end();
 
     /*! \brief Sets the contrast to reach: 7 (WCAG 2.1) if it is to be high, 4.5 if not, as at first.
      *         Disabled text reaches 3. */
@@ -35,6 +41,11 @@ private:
     double m_ratio;
     PaintForwarding m_forwarding;
     QHash<quint64, QColor> m_lifted; // by colour and ground
+};
+
+/*! Ends instead of deleting. */
+struct EndLegibleText {
+    void operator()(LegibleText *text) const { text->end(); }
 };
 
 #endif

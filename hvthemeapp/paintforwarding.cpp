@@ -35,7 +35,17 @@ bool isPicture(const QPaintDevice *device)
 PaintForwarding::PaintForwarding(TextColors *colors)
     : m_colors(colors)
 {
+}
+
+void PaintForwarding::install()
+{
     qApp->installEventFilter(this);
+}
+
+void PaintForwarding::uninstall()
+{
+    if (qApp)
+        qApp->removeEventFilter(this);
 }
 
 bool PaintForwarding::eventFilter(QObject *object, QEvent *event)
@@ -66,5 +76,7 @@ bool PaintForwarding::paint(QWidget *widget, const QRegion &region)
     widget->setAttribute(Qt::WA_WState_InPaintEvent);
     m_engine = outerEngine;
     m_widget = outerWidget;
+    if (!m_widget && m_whenPainted)
+        m_whenPainted();
     return true;
 }

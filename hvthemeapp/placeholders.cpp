@@ -22,7 +22,7 @@ void correct(QWidget *field)
     bool isCorrected = false;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         const QRgb text = palette.color(group, QPalette::Text).rgb();
-        const QColor wanted = application.color(group, QPalette::PlaceholderText);
+        const QColor &wanted = application.color(group, QPalette::PlaceholderText);
         const QColor color = palette.color(group, QPalette::PlaceholderText);
         if (color.rgb() != text || color == wanted)
             continue;

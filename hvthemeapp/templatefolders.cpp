@@ -56,7 +56,7 @@ bool isClosed(const QString &text)
 
 QString problemOfTemplate(const QString &file)
 {
-    const QString fault = ThemeFolder::problemOfText(file);
+    QString fault = ThemeFolder::problemOfText(file);
     if (!fault.isEmpty())
         return fault;
     QString text;

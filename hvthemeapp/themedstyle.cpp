@@ -27,6 +27,8 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <typeinfo>
+#include <utility>
 
 namespace HV
 {
@@ -109,6 +111,13 @@ QTreeView *treeOfCategories(QWidget *viewport)
     return isOne ? tree : nullptr;
 }
 
+// A class of the program's own may paint something else.
+bool isUprightProgress(const QWidget &widget)
+{
+    return typeid(widget) == typeid(QProgressBar)
+        && static_cast<const QProgressBar &>(widget).orientation() == Qt::Vertical;
+}
+
 } // namespace
 
 ThemedStyle::ThemedStyle(const QString &name)
@@ -169,49 +178,54 @@ void ThemedStyle::unpolish(QWidget *widget)
 
 bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Paint && IconColors::hasValues()) {
-        auto *slider = qobject_cast<QSlider *>(watched);
-        if (slider && slider->tickPosition() != QSlider::NoTicks) {
-            // A style sheet that draws the groove draws no marks, and asks no style for them.
-            QPainter painter(slider);
-            drawTickMarks(*slider->style(), *slider, painter);
-        }
-        auto *progress = qobject_cast<QProgressBar *>(watched);
-        if (progress && progress->orientation() == Qt::Vertical) {
-            // Style sheets write across a bar, however narrow it is.
-            QPainter painter(progress);
-            drawUprightProgress(*progress, painter);
-            return true;
-        }
-        auto *button = qobject_cast<QPushButton *>(watched);
-        if (button && hasIconOnBrand(*button)) {
-            const IconColors::OnGround ground(
-                IconColors::color(QStringLiteral("AccentBackgroundColor"), QIcon::Normal),
-                IconColors::color(QStringLiteral("AccentForegroundColor"), QIcon::Normal));
-            watched->event(event);
-            return true;
-        }
-        auto *menu = qobject_cast<QMenu *>(watched);
-        if (menu && hasSeparators(*menu)) {
-            // One that draws the items of a menu leaves out the titles of its sections.
-            watched->event(event);
-            QPainter painter(menu);
-            drawMenuSeparators(*menu, painter);
-            return true;
-        }
-        auto *viewport = qobject_cast<QWidget *>(watched);
-        QTreeView *tree = m_paintsTree ? nullptr : treeOfCategories(viewport);
-        if (tree) {
-            // The tree paints its viewport by a filter of its own, which comes after this one.
-            m_paintsTree = true;
-            QCoreApplication::sendEvent(viewport, event);
-            m_paintsTree = false;
-            QPainter painter(viewport);
-            drawCategorySigns(*tree, painter);
-            return true;
-        }
+    const bool isForeign = event->type() == QEvent::Paint && watched != m_painted
+        && watched->isWidgetType() && IconColors::hasValues();
+    return (isForeign && paint(*static_cast<QWidget *>(watched), *event))
+        || QProxyStyle::eventFilter(watched, event);
+}
+
+// Adds what style sheets do not let a style draw. Returns whether the widget has been painted.
+bool ThemedStyle::paint(QWidget &widget, QEvent &event)
+{
+    auto *slider = qobject_cast<QSlider *>(&widget);
+    auto *button = qobject_cast<QPushButton *>(&widget);
+    auto *menu = qobject_cast<QMenu *>(&widget);
+    if (slider && slider->tickPosition() != QSlider::NoTicks) {
+        // A style sheet that draws the groove draws no marks, and asks no style for them.
+        QPainter painter(slider);
+        drawTickMarks(*slider->style(), *slider, painter);
+    } else if (isUprightProgress(widget)) {
+        // Style sheets write across a bar, however narrow it is.
+        QPainter painter(&widget);
+        drawUprightProgress(static_cast<QProgressBar &>(widget), painter);
+        return true;
+    } else if (button && hasIconOnBrand(*button)) {
+        const IconColors::OnGround ground(
+            IconColors::color(QStringLiteral("AccentBackgroundColor"), QIcon::Normal),
+            IconColors::color(QStringLiteral("AccentForegroundColor"), QIcon::Normal));
+        paintItself(widget, event);
+        return true;
+    } else if (menu && hasSeparators(*menu)) {
+        // One that draws the items of a menu leaves out the titles of its sections.
+        paintItself(widget, event);
+        QPainter painter(menu);
+        drawMenuSeparators(*menu, painter);
+        return true;
+    } else if (const QTreeView *tree = treeOfCategories(&widget)) {
+        paintItself(widget, event);
+        QPainter painter(&widget);
+        drawCategorySigns(*tree, painter);
+        return true;
     }
-    return QProxyStyle::eventFilter(watched, event);
+    return false;
+}
+
+// With the filters that come after this one: the program's own, and the tree's for its viewport.
+void ThemedStyle::paintItself(QWidget &widget, QEvent &event)
+{
+    const QObject *const outer = std::exchange(m_painted, &widget);
+    QCoreApplication::sendEvent(&widget, &event);
+    m_painted = outer;
 }
 
 QIcon ThemedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
@@ -320,6 +334,8 @@ int ThemedStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
                              const QWidget *widget) const
 {
     const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    if (!IconColors::hasValues())
+        return own;
     switch (metric) {
     case PM_ToolBarExtensionExtent:
         // The usual twelve leave six for the sign that there is more, which nobody sees.

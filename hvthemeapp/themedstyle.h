@@ -14,8 +14,8 @@ namespace HV
  *
  * They are those of message boxes, file dialogs, dialog buttons, title bars, line edits and tool bars.
  * What style sheets do not reach takes the colours of the palette: title bars and grounds of windows
- * inside windows, dials, tick marks of sliders, titles in menus, frames and dividing
- * lines, arrows and boxes of items, and icons that cannot be used. Until a theme is in force the style's own stay.
+ * inside windows, dials, tick marks of sliders, titles in menus, frames and dividing lines, arrows and
+ * boxes of items, and icons that cannot be used. Until a theme is in force the style's own stay.
  */
 class ThemedStyle : public QProxyStyle
 {
@@ -67,7 +67,10 @@ public:
 private:
     explicit ThemedStyle(const QString &name);
 
-    bool m_paintsTree = false;
+    bool paint(QWidget &widget, QEvent &event);
+    void paintItself(QWidget &widget, QEvent &event);
+
+    const QObject *m_painted = nullptr; // by itself, as was asked for
 };
 
 } // namespace HV

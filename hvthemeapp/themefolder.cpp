@@ -34,7 +34,7 @@ QString problemOfFile(const QString &path, bool isTheme)
         return ApplicationTheme::tr("\"%1\" is larger than 4 MiB").arg(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        return QStringLiteral("\"%1\" cannot be read").arg(path);
+        return ApplicationTheme::tr("\"%1\" cannot be read").arg(path);
     const QByteArray text = file.readAll();
     if (text.contains('\0'))
         return ApplicationTheme::tr("\"%1\" is no text").arg(path);
@@ -137,7 +137,7 @@ QStringList ThemeFolder::names() const
     const auto isNoFile = [this](const QString &name) { return !QFileInfo(file(name)).isFile(); };
     names.erase(std::remove_if(names.begin(), names.end(), isNoFile), names.end());
     names.sort();
-    if (names.size() > 1) {
+    if (names.size() > 1 && names.contains(defaultThemeName())) {
         const QSettings settings(defaultFile(), iniFormat(defaultFile()));
         if (!settings.childGroups().contains(QStringLiteral("Colors")))
             names.removeOne(defaultThemeName());
@@ -147,6 +147,9 @@ QStringList ThemeFolder::names() const
 
 QString ThemeFolder::displayName(const QString &name) const
 {
+    const QFileInfo info(file(name));
+    if (!info.isFile() || info.size() > sizeLimit)
+        return name;
     const QSettings settings(file(name), iniFormat(file(name)));
     const QString displayName = settings.value(QStringLiteral("ThemeName")).toString();
     return displayName.isEmpty() ? name : displayName;

@@ -19,11 +19,13 @@ ThemeMenu::ThemeMenu(ApplicationTheme *theme, QWidget *parent)
     connect(this, &QMenu::aboutToShow, this, &ThemeMenu::rebuild);
     connect(m_choices, &QActionGroup::triggered, this, [this](const QAction *action) {
         const QString name = action->data().toString();
+        const QPointer<ThemeMenu> guard(this); // programs that hear of it may make their menus anew
         if (m_theme && name.isEmpty())
             m_theme->followDesktop();
         else if (m_theme)
             m_theme->setName(name);
-        check(); // back to what it was if there was a problem
+        if (guard)
+            check(); // back to what it was if there was a problem
     });
     rebuild();
 }

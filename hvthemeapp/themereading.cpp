@@ -26,7 +26,7 @@ namespace
 QStringList keysOf(QSettings &settings, const QString &section)
 {
     settings.beginGroup(section);
-    const QStringList keys = settings.allKeys();
+    QStringList keys = settings.allKeys();
     settings.endGroup();
     return keys;
 }
@@ -49,6 +49,8 @@ public:
             return;
         for (auto it = m_sections.cbegin(); it != m_sections.cend(); ++it)
             file.write(QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1());
+        if (!file.flush())
+            return;
         const QString path = file.fileName(); // a closed file that was never named is lost
         file.close();
         QSettings settings(path, iniFormat(path));
@@ -82,7 +84,7 @@ public:
         read(m_first);
         if (m_second)
             read(*m_second);
-        const QStringList derived = addColors();
+        QStringList derived = addColors();
         addMissingImages(m_theme);
         // Everything is stored now, so what the theme's class requires is looked for in an empty
         // part of the default file; this also gives the theme its file path.
@@ -194,7 +196,7 @@ public:
 private:
     static bool write(QTemporaryFile *file, const QByteArray &text)
     {
-        if (!file->open() || file->write(text) != text.size())
+        if (!file->open() || file->write(text) != text.size() || !file->flush())
             return false;
         file->fileName(); // a closed file that was never named is lost
         file->close();

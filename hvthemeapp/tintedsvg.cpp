@@ -297,7 +297,7 @@ QString Tinter::tinted(const QString &text)
 QColor Tinter::color(const QString &key)
 {
     bool found = false;
-    const QColor result = IconColors::color(key, m_mode, &found);
+    QColor result = IconColors::color(key, m_mode, &found);
     if (!found)
         remark(QStringLiteral("line %1: the theme has no colour \"%2\"; the palette's is taken")
                    .arg(m_in.lineNumber())

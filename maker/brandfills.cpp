@@ -153,7 +153,7 @@ QString BrandFills::bestText(const QString &ground) const
     const auto ratio = [&](const QString &text) {
         return ColorMath::contrastRatio(m_colors.resolved(text), color);
     };
-    const QString own = m_colors.text(QStringLiteral("Color_W100"));
+    QString own = m_colors.text(QStringLiteral("Color_W100"));
     if (!own.isEmpty() && ratio(own) >= m_textRatio)
         return own;
     const auto named = [&](const char *name, const QColor &plain) {

@@ -157,6 +157,10 @@ void ForeignProgram::complete(QPalette *palette, QString *styleSheet)
     m_themePalette = *palette;
     m_themeStyleSheets.removeAll(*styleSheet);
     m_themeStyleSheets << *styleSheet;
+    // What a program has kept of ours is seldom older, and an edited theme makes one at each change.
+    constexpr int kept = 16;
+    while (m_themeStyleSheets.size() > kept)
+        m_themeStyleSheets.removeFirst();
     for (auto it = m_ownBrushes.cbegin(); it != m_ownBrushes.cend(); ++it)
         palette->setBrush(it.key().first, it.key().second, it.value());
     if (!m_ownStyleSheet.isEmpty())

@@ -53,7 +53,7 @@ private:
     Options m_options;
     bool m_isThemeLikeProgram = false; // instead of the one that is asked for
     QPalette m_themePalette; // as the theme has it
-    QStringList m_themeStyleSheets; // of all themes so far, the one in force last
+    QStringList m_themeStyleSheets; // of the last themes, the one in force at the end
     QPalette m_palette; // what the application has since the last look
     QString m_styleSheet;
     QString m_ownStyleSheet; // what the program has set

@@ -24,7 +24,7 @@ const char *const builtIn[] = {
 QStringList linesOf(const QString &path)
 {
     QFile file(path);
-    const qint64 most = 1024 * 1024; // a list and nothing else
+    const qint64 most = qint64(1024) * 1024; // a list and nothing else
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
     return QString::fromUtf8(file.read(most)).split(QLatin1Char('\n'));

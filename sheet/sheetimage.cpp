@@ -12,7 +12,7 @@
 namespace
 {
 
-constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
 
 // Of four bytes each: 128 MB. Most formats are decoded whole even to be drawn small.
 constexpr qint64 pixelLimit = qint64(32) * 1024 * 1024;

@@ -12,6 +12,7 @@
 #include <QSet>
 
 /*! \brief One theme of a sheet: a column of it. */
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the compiler's own, for a copy of the array
 struct SheetTheme {
     QString name;
     QString displayName;

@@ -15,6 +15,7 @@ QStringList words(const char *text)
     return QString::fromLatin1(text).split(QLatin1Char(' '));
 }
 
+// NOLINTNEXTLINE(readability-function-size): a list is as long as what it lists
 QHash<QString, const QMetaObject *> widgetClasses()
 {
     const QMetaObject *const classes[] = {&QCalendarWidget::staticMetaObject,

@@ -95,11 +95,11 @@ public:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
     {
         calls << message.member();
-        if (m_manner == Manner::Silent) {
+        const QString key = message.arguments().value(1).toString();
+        if (m_manner == Manner::Silent || key == silentKey) {
             m_waiting << message;
             return true;
         }
-        const QString key = message.arguments().value(1).toString();
         const bool isNew = message.member() == "ReadOne";
         if (isNew && m_version == Version::Old)
             connection.send(message.createErrorReply(QDBusError::UnknownMethod, "No such method"));
@@ -119,6 +119,7 @@ public:
     }
 
     bool isOnBus = false;
+    QString silentKey; // that is never answered
     QStringList calls;
 
 private:

@@ -106,6 +106,7 @@ private Q_SLOTS:
     void names_data();
     void names();
     void themeThatLacksColors();
+    void namesBesideAPipe();
     void changedWhileRead();
     void templatesChangedWhileRead();
     void iconChangedWhileRead();
@@ -378,6 +379,25 @@ void tst_BadLooks::themeThatLacksColors()
 }
 
 // Files that are replaced all the time give one look or the other, whole.
+// What lists themes opens nothing that would never end.
+void tst_BadLooks::namesBesideAPipe()
+{
+    TemporaryFolder folder;
+    folder.write("default.theme", "ThemeName=Base\n");
+    folder.write("day.theme", "ThemeName=Day\n[Colors]\nBackgroundColor_3=FFFFFF\n");
+    folder.write("night.theme", "ThemeName=Night\n[Colors]\nBackgroundColor_3=000000\n");
+    QVERIFY(m_theme->setFolder(folder.path()));
+    damage(folder, "default.theme", "pipe");
+    damage(folder, "night.theme", "pipe");
+    QCOMPARE(m_theme->names(), QStringList("day"));
+    QCOMPARE(m_theme->displayName("day"), QString("Day"));
+    QCOMPARE(m_theme->displayName("night"), QString("night"));
+    QCOMPARE(m_theme->displayName("default"), QString("default"));
+    QVERIFY(!m_theme->followDesktop());
+    m_theme->setFollowsDesktop(false);
+    compareProblem(*m_theme, "\"" + folder.filePath("default.theme") + "\" is no file", QString());
+}
+
 void tst_BadLooks::changedWhileRead()
 {
     TemporaryFolder folder;

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void strangersAreNotHeard();
     void silentPortal();
     void latePortal();
+    void answerThatNeverComes();
     void restartedPortal();
     void portalThatComesLater();
     void remembered();
@@ -245,6 +246,22 @@ void tst_DesktopSettings::latePortal()
     QVERIFY(changed.wait(reactionMs));
     QCOMPARE(settings.colorScheme(), ColorScheme::Dark);
     QCOMPARE(changed.size(), 1);
+}
+
+void tst_DesktopSettings::answerThatNeverComes()
+{
+    const Home home;
+    StandInPortal stand({{"color-scheme", 1U}, {"contrast", 1U}});
+    stand.silentKey = "accent-color";
+    DesktopSettings settings(palette(false));
+    QSignalSpy changed(&settings, &DesktopSettings::changed);
+    QVERIFY(changed.wait(reactionMs));
+    QCOMPARE(settings.colorScheme(), ColorScheme::Dark);
+    QCOMPARE(settings.contrast(), Contrast::High);
+    QCOMPARE(changed.size(), 1);
+    stand.change("color-scheme", 2U);
+    QVERIFY(changed.wait(reactionMs));
+    QCOMPARE(settings.colorScheme(), ColorScheme::Light);
 }
 
 void tst_DesktopSettings::restartedPortal()

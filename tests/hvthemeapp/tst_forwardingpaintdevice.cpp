@@ -153,7 +153,8 @@ void tst_ForwardingPaintDevice::pages()
     painted(paint, window->size(), scale, nullptr); // for what is made at the first paint
     const QImage expected = painted(paint, window->size(), scale, nullptr);
     KeptColors colors;
-    const PaintForwarding forwarding(&colors);
+    PaintForwarding forwarding(&colors);
+    forwarding.install();
     const QImage seen = painted(paint, window->size(), scale, nullptr);
     QVERIFY(!forwarding.widget());
     QVERIFY(!colors.extents.isEmpty());

@@ -1,0 +1,315 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+// Looks that change where the application is in the middle of something: a paint, a signal, another change.
+
+#include "temporaryfolder.h"
+
+#include <hvtheme/theme.h>
+#include <hvthemeapp/applicationtheme.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <functional>
+#include <memory>
+
+using HV::ApplicationTheme;
+
+namespace
+{
+
+class Painting : public QWidget
+{
+public:
+    std::function<void()> call;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        if (call)
+            std::exchange(call, nullptr)();
+        painter.drawText(rect(), Qt::AlignCenter, "text");
+    }
+};
+
+using Change = std::function<void(ApplicationTheme &)>;
+using OwnerChange = std::function<void(std::unique_ptr<ApplicationTheme> &)>;
+using Signal = void (ApplicationTheme::*)();
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+Q_DECLARE_METATYPE(OwnerChange)
+Q_DECLARE_METATYPE(Signal)
+
+class tst_LookChanges : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void waiting_data();
+    void waiting();
+    void newerThanWhatWaits();
+    void byASignal_data();
+    void byASignal();
+    void deletedByASignal_data();
+    void deletedByASignal();
+    void liftingEndsInAPaint_data();
+    void liftingEndsInAPaint();
+    void menuMadeAnew();
+    void accentThatCannotBe();
+    void accentsOfUserAndLook();
+    void restoredTheme();
+    void barsOfTheProgram();
+    void filtersOfTheProgram();
+
+private:
+    std::unique_ptr<ApplicationTheme> m_theme;
+};
+
+void tst_LookChanges::init()
+{
+    m_theme = std::make_unique<ApplicationTheme>();
+    QVERIFY(m_theme->setName("dark"));
+}
+
+void tst_LookChanges::waiting_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::newRow("fonts") << Change([](ApplicationTheme &theme) { theme.setKeepsFonts(true); });
+    QTest::newRow("accent") << Change([](ApplicationTheme &theme) { theme.setAccent(Qt::red); });
+    QTest::newRow("unsaved") << Change([](ApplicationTheme &theme) {
+        QFile file(":/hvthemeapp/themes/light.theme");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        theme.setUnsavedTexts({{file.fileName(), file.readAll() + "\n"}});
+    });
+    QTest::newRow("once more") << Change([](ApplicationTheme &theme) { theme.restyleAgain(); });
+}
+
+// A change of something else does not call back the theme that was chosen before it.
+void tst_LookChanges::waiting()
+{
+    QFETCH(Change, change);
+    Painting widget;
+    bool isAccepted = false;
+    widget.call = [&] {
+        isAccepted = m_theme->setName("light");
+        change(*m_theme);
+    };
+    widget.grab();
+    QVERIFY(isAccepted);
+    QCOMPARE(m_theme->name(), QString("dark"));
+    QTRY_COMPARE(m_theme->name(), QString("light"));
+}
+
+void tst_LookChanges::newerThanWhatWaits()
+{
+    Painting widget;
+    widget.call = [&] { m_theme->setName("light"); };
+    widget.grab();
+    QVERIFY(m_theme->setName("contrast"));
+    QCoreApplication::processEvents();
+    QCOMPARE(m_theme->name(), QString("contrast"));
+}
+
+void tst_LookChanges::byASignal_data()
+{
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("chosen") << Change([](ApplicationTheme &theme) { theme.setName("contrast"); })
+                            << "contrast";
+    QTest::newRow("not followed") << Change([](ApplicationTheme &theme) {
+        theme.setFollowsDesktop(false);
+    }) << QString();
+}
+
+void tst_LookChanges::byASignal()
+{
+    QFETCH(Change, change);
+    QFETCH(QString, name);
+    bool isFirst = true;
+    connect(m_theme.get(), &ApplicationTheme::followsDesktopChanged, [&] {
+        if (std::exchange(isFirst, false))
+            change(*m_theme);
+    });
+    m_theme->followDesktop();
+    QCoreApplication::processEvents();
+    QVERIFY(!m_theme->followsDesktop());
+    if (!name.isEmpty())
+        QCOMPARE(m_theme->name(), name);
+}
+
+void tst_LookChanges::deletedByASignal_data()
+{
+    QTest::addColumn<Signal>("signal");
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *tag, Signal signal, const Change &change) {
+        QTest::newRow(tag) << signal << change;
+    };
+    row("fonts", &ApplicationTheme::changed, [](auto &theme) { theme.setKeepsFonts(true); });
+    row("name", &ApplicationTheme::changed, [](auto &theme) { theme.setName("light"); });
+    row("accent", &ApplicationTheme::changed, [](auto &theme) { theme.setAccent(Qt::red); });
+    row("desktop", &ApplicationTheme::nameChanged, [](auto &theme) { theme.followDesktop(); });
+    row("folder", &ApplicationTheme::changed,
+        [](auto &theme) { theme.setFolder(":/hvthemeapp/themes"); });
+    row("problem", &ApplicationTheme::problemChanged,
+        [](auto &theme) { theme.setFolder("/there is none"); });
+    row("no problem", &ApplicationTheme::problemChanged, [](auto &theme) {
+        theme.blockSignals(true);
+        theme.setFolder("/there is none");
+        theme.blockSignals(false);
+        theme.setName("light");
+    });
+    row("templates", &ApplicationTheme::problemChanged, [](auto &theme) {
+        theme.blockSignals(true);
+        theme.setFolder("/there is none");
+        theme.blockSignals(false);
+        theme.addTemplates(QDir::tempPath());
+    });
+}
+
+void tst_LookChanges::deletedByASignal()
+{
+    QFETCH(Signal, signal);
+    QFETCH(Change, change);
+    const QPointer<ApplicationTheme> theme(new ApplicationTheme);
+    QVERIFY(theme->setName("contrast"));
+    if (QByteArray(QTest::currentDataTag()).contains("problem")
+        || QByteArray(QTest::currentDataTag()) == "templates")
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("there is none"));
+    connect(theme.data(), signal, theme.data(), [&] { delete theme.data(); });
+    change(*theme);
+    QCoreApplication::processEvents();
+    delete theme.data();
+    QVERIFY(m_theme->setName("light"));
+}
+
+void tst_LookChanges::liftingEndsInAPaint_data()
+{
+    QTest::addColumn<OwnerChange>("change");
+    QTest::newRow("off") << OwnerChange([](auto &theme) { theme->setLiftsText(false); });
+    QTest::newRow("deleted") << OwnerChange([](auto &theme) { theme.reset(); });
+    QTest::newRow("off and events") << OwnerChange([](auto &theme) {
+        theme->setLiftsText(false);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+}
+
+void tst_LookChanges::liftingEndsInAPaint()
+{
+    QFETCH(OwnerChange, change);
+    m_theme->setLiftsText(true);
+    Painting widget;
+    widget.call = [&] { change(m_theme); };
+    widget.grab();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    widget.grab();
+    QVERIFY(!m_theme || !m_theme->liftsText());
+}
+
+void tst_LookChanges::menuMadeAnew()
+{
+    std::unique_ptr<QMenu> menu(m_theme->menu());
+    connect(m_theme.get(), &ApplicationTheme::changed, [&] { menu.reset(m_theme->menu()); });
+    for (const int choice : {2, 3, 0}) {
+        QAction *action = menu->actions().at(choice);
+        action->trigger();
+    }
+    QVERIFY(m_theme->followsDesktop());
+}
+
+void tst_LookChanges::accentThatCannotBe()
+{
+    TemporaryFolder folder;
+    folder.write("default.theme", "[Palettes]\nBrand_5=#204080\n");
+    folder.write("mine.theme", "[Colors]\nColor=Brand_5\n");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("lacks .* of the colours"));
+    QVERIFY(m_theme->setFolder(folder.path()));
+    QVERIFY(m_theme->setName("mine"));
+    QVERIFY(QFile::remove(folder.filePath("mine.theme")));
+    QSignalSpy changes(m_theme.get(), &ApplicationTheme::accentChanged);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("mine.theme"));
+    for (int again = 0; again < 2; ++again) {
+        QVERIFY(!m_theme->setAccent(Qt::red));
+        QVERIFY(!m_theme->accent().isValid());
+    }
+    QCOMPARE(changes.size(), 0);
+}
+
+void tst_LookChanges::accentsOfUserAndLook()
+{
+    QVERIFY(m_theme->setAccent(Qt::red));
+    m_theme->setFollowsAccent(true);
+    m_theme->setFollowsAccent(false);
+    QCOMPARE(m_theme->accent(), QColor(Qt::red));
+}
+
+void tst_LookChanges::restoredTheme()
+{
+    TemporaryFolder folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    settings.setValue("Theme", "gone");
+    settings.setValue("Accent", "#ff0000");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("gone"));
+    QVERIFY(!m_theme->restore(settings));
+    QVERIFY(!m_theme->accent().isValid());
+    QCOMPARE(m_theme->name(), QString("dark"));
+    settings.setValue("Theme", "light");
+    QVERIFY(m_theme->restore(settings));
+    QCOMPARE(m_theme->accent(), QColor(Qt::red));
+    settings.clear();
+    m_theme->save(settings);
+    QCOMPARE(settings.value("Accent").toString(), QString("#ff0000"));
+}
+
+// A meter of the program's own, which a rule for bars must not cover.
+void tst_LookChanges::barsOfTheProgram()
+{
+    class Meter : public QProgressBar
+    {
+    public:
+        int paints = 0;
+
+    protected:
+        void paintEvent(QPaintEvent *) override { ++paints; }
+    };
+    Meter meter;
+    meter.setOrientation(Qt::Vertical);
+    meter.grab();
+    QCOMPARE(meter.paints, 1);
+}
+
+void tst_LookChanges::filtersOfTheProgram()
+{
+    class Counter : public QObject
+    {
+    public:
+        int paints = 0;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            paints += event->type() == QEvent::Paint;
+            return false;
+        }
+    } counter;
+    QMenu menu;
+    menu.addAction("one");
+    menu.addSeparator();
+    menu.addAction("two");
+    menu.installEventFilter(&counter);
+    menu.ensurePolished();
+    menu.grab();
+    QCOMPARE(counter.paints, 1);
+}
+
+QTEST_MAIN(tst_LookChanges)
+#include "tst_lookchanges.moc"
