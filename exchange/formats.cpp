@@ -3,6 +3,8 @@
 
 #include <exchange/formats.h>
 
+#include <colormath/csstext.h>
+
 #include <QCollator>
 #include <QStringList>
 
@@ -31,23 +33,6 @@ QString cssName(const char *group, const QString &key)
     return name;
 }
 
-QString cssColor(const QColor &color)
-{
-    const QString opaque = color.name(QColor::HexRgb);
-    return color.alpha() == 255
-        ? opaque
-        : opaque % QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
-}
-
-QString cssGradient(const QGradientStops &stops)
-{
-    QStringList parts{QStringLiteral("to right")};
-    for (const QGradientStop &stop : stops)
-        parts << cssColor(stop.second) % QLatin1Char(' ') % QString::number(stop.first * 100)
-                % QLatin1Char('%');
-    return QLatin1String("linear-gradient(") % parts.join(QLatin1String(", ")) % QLatin1Char(')');
-}
-
 } // namespace
 
 QByteArray cssProperties(const ThemeContent &theme)
@@ -57,11 +42,11 @@ QByteArray cssProperties(const ThemeContent &theme)
         css += QLatin1String("  ") % name % QLatin1String(": ") % value % QLatin1String(";\n");
     };
     for (auto it = theme.palette.cbegin(); it != theme.palette.cend(); ++it)
-        add(cssName("palette", it.key()), cssColor(it.value()));
+        add(cssName("palette", it.key()), ColorMath::cssColor(it.value()));
     for (auto it = theme.colors.cbegin(); it != theme.colors.cend(); ++it) {
         const QString &entry = it.value().palette;
         add(cssName("color", it.key()),
-            entry.isEmpty() ? cssColor(it.value().color)
+            entry.isEmpty() ? ColorMath::cssColor(it.value().color)
                             : QLatin1String("var(") % cssName("palette", entry) % QLatin1Char(')'));
     }
     for (auto it = theme.integers.cbegin(); it != theme.integers.cend(); ++it)
@@ -69,7 +54,7 @@ QByteArray cssProperties(const ThemeContent &theme)
             QString::number(it.value())
                 % QLatin1String(it.key().startsWith(QLatin1String("FontSize_")) ? "px" : ""));
     for (auto it = theme.gradients.cbegin(); it != theme.gradients.cend(); ++it)
-        add(cssName("gradient", it.key()), cssGradient(it.value()));
+        add(cssName("gradient", it.key()), ColorMath::cssGradient(it.value()));
     for (auto it = theme.flags.cbegin(); it != theme.flags.cend(); ++it)
         add(cssName("flag", it.key()), QLatin1String(it.value() ? "1" : "0"));
     return QString(css % QLatin1String("}\n")).toUtf8();

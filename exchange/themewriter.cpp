@@ -44,7 +44,8 @@ void writeGradient(const QString &key, const QGradientStops &stops, QSettings *s
     settings->beginWriteArray(key, int(stops.size()));
     for (int i = 0; i < stops.size(); ++i) {
         settings->setArrayIndex(i);
-        settings->setValue(QStringLiteral("pos"), QString::number(stops.at(i).first));
+        settings->setValue(QStringLiteral("pos"),
+                           QString::number(stops.at(i).first, 'g', QLocale::FloatingPointShortest));
         settings->setValue(QStringLiteral("color"), Maker::hexadecimal(stops.at(i).second));
     }
     settings->endArray();

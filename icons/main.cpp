@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTextStream>
@@ -121,7 +122,19 @@ std::optional<QString> readText(const QString &path)
                  % (isSpecial(path) ? QStringLiteral("not a regular file") : file.errorString()));
         return std::nullopt;
     }
-    return QString::fromUtf8(file.readAll());
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        complain(path % QLatin1String(": ") % file.errorString());
+        return std::nullopt;
+    }
+    if (content.startsWith("\xEF\xBB\xBF"))
+        content.remove(0, 3);
+    const QString text = QString::fromUtf8(content);
+    if (text.toUtf8() != content) {
+        complain(path % QLatin1String(": not in UTF-8; save it so"));
+        return std::nullopt;
+    }
+    return text;
 }
 
 /*! Says why a token cannot be replaced by a colour that SVG knows; null if it can. */
@@ -188,6 +201,20 @@ bool tint(HV::Theme *theme, const QString &source, const QDir &output)
     return writeIfChanged(copy, text->toUtf8());
 }
 
+// Copies have the names of their sources, and the last of one name would be the only one.
+bool areApart(const QStringList &sources)
+{
+    QHash<QString, QString> known;
+    for (const QString &source : sources) {
+        const QString name = QFileInfo(source).fileName();
+        if (known.contains(name))
+            return complain(source % QLatin1String(": its copy would replace that of ")
+                            % known.value(name));
+        known.insert(name, source);
+    }
+    return true;
+}
+
 int run(const QStringList &arguments)
 {
     if (arguments.size() == 2
@@ -202,6 +229,10 @@ int run(const QStringList &arguments)
         QTextStream(stderr) << usage;
         return WrongUsage;
     }
+    QStringList sources = arguments.mid(4);
+    sources.removeDuplicates();
+    if (!areApart(sources))
+        return WrongUsage;
     HV::WorkableTheme theme;
     if (!loadTheme(&theme, arguments[1], arguments[2]))
         return Failure;
@@ -211,7 +242,7 @@ int run(const QStringList &arguments)
         return Failure;
     }
     int exitCode = Success;
-    for (const QString &source : arguments.mid(4)) {
+    for (const QString &source : qAsConst(sources)) {
         if (!tint(&theme, source, output))
             exitCode = Failure;
     }

@@ -6,6 +6,7 @@
 #include <analysis/theme/inputfile.h>
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QMimeDatabase>
 
@@ -50,13 +51,19 @@ QString dataUri(const QString &path)
         % QString::fromLatin1(content.toBase64());
 }
 
-QSize sizeIfTooLarge(const QString &path)
+QString whyTooLarge(const QString &path)
 {
+    if (QFileInfo(path).isFile() && QFileInfo(path).size() > sizeLimit)
+        return QStringLiteral("is larger than %1 MB").arg(sizeLimit / 1024 / 1024);
     QByteArray content = contentOf(path);
     QBuffer buffer(&content);
     buffer.open(QIODevice::ReadOnly);
     const QImageReader reader(&buffer);
-    return isTooLarge(reader) ? reader.size() : QSize();
+    if (!isTooLarge(reader))
+        return {};
+    return QStringLiteral("has %1 x %2 pixels")
+        .arg(reader.size().width())
+        .arg(reader.size().height());
 }
 
 QImage fittedImage(const QString &path, QSize size, double scale)

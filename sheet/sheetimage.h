@@ -17,10 +17,12 @@ QString dataUri(const QString &path);
 QImage fittedImage(const QString &path, QSize size, double scale);
 
 /*!
- * \brief Returns the size of the image file at \a path if it has too many pixels to be drawn.
+ * \brief Returns what is too large about the image file at \a path, "has 30000 x 30000 pixels" say,
+ *        or a null text.
  *
- * Above 32 million, both functions take it for no readable image. Vector images are never too large.
+ * Above 32 million pixels or 4 MB both functions take it for no readable image. Vector images never
+ * have too many pixels.
  */
-QSize sizeIfTooLarge(const QString &path);
+QString whyTooLarge(const QString &path);
 
 #endif

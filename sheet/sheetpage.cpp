@@ -3,6 +3,7 @@
 
 #include <sheet/sheetpage.h>
 
+#include <colormath/csstext.h>
 #include <format/printabletext.h>
 #include <sheet/sheetimage.h>
 #include <sheet/sheetmodel.h>
@@ -18,40 +19,15 @@ static void initStyle()
     Q_INIT_RESOURCE(sheet);
 }
 
+using ColorMath::cssColor;
+using ColorMath::cssGradient;
+
 namespace
 {
 
 QString escaped(const QString &text)
 {
     return printable(text).toHtmlEscaped();
-}
-
-// In style sheets of the web, the opacity comes last.
-QString cssColor(const QColor &color)
-{
-    if (color.alpha() == 255)
-        return color.name();
-    return color.name() % QStringLiteral("%1").arg(color.alpha(), 2, 16, QLatin1Char('0'));
-}
-
-// Qt takes stops in any order and leaves out those that lie outside.
-QString cssGradient(const QGradientStops &gradient)
-{
-    QGradientStops sorted;
-    std::copy_if(gradient.cbegin(), gradient.cend(), std::back_inserter(sorted),
-                 [](const QGradientStop &stop) { return stop.first >= 0.0 && stop.first <= 1.0; });
-    std::stable_sort(
-        sorted.begin(), sorted.end(),
-        [](const QGradientStop &a, const QGradientStop &b) { return a.first < b.first; });
-    QStringList stops;
-    for (const QGradientStop &stop : qAsConst(sorted))
-        stops << cssColor(stop.second) % QLatin1Char(' ') % QString::number(stop.first * 100.0)
-                % QLatin1Char('%');
-    if (stops.size() == 1)
-        stops << stops.constFirst();
-    return stops.isEmpty() ? QStringLiteral("none")
-                           : QLatin1String("linear-gradient(to right, ")
-            % stops.join(QLatin1String(", ")) % QLatin1Char(')');
 }
 
 QString themeStyle(const SheetTheme &theme)

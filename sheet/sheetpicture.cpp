@@ -8,6 +8,7 @@
 #include <sheet/sheetmodel.h>
 
 #include <QBuffer>
+#include <QImageWriter>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -26,6 +27,7 @@ constexpr int runNameWidth = 80;
 constexpr int iconWidth = 46; // of one theme's share of an icon's card
 constexpr double scale = 2.0; // pixels for each unit of the layout, for screens of today
 constexpr double largestSide = 32767.0; // of what QPainter draws on
+constexpr double mostPixels = 128.0 * 1024 * 1024; // 512 MB, and as much for other eyes
 
 const QColor pageColor(0xf6, 0xf7, 0xf9);
 const QColor textColor(0x14, 0x18, 0x1f);
@@ -346,13 +348,21 @@ QByteArray sheetPicture(const SheetModel &model, QString *error)
     QPainter trialPainter(&trial);
     Picture trialPicture(model, &trialPainter);
     const QSizeF size(trialPicture.width() * scale, trialPicture.draw() * scale);
-    if (size.width() > largestSide || size.height() > largestSide) {
+    if (size.width() > largestSide || size.height() > largestSide
+        || size.width() * size.height() > mostPixels) {
         *error = QStringLiteral("these themes have too many values for a picture; "
                                 "name a .html file instead");
         return {};
     }
 
     QImage image(size.toSize(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) {
+        *error = QStringLiteral("there is no memory for a picture of %1 x %2 pixels; "
+                                "name a .html file instead")
+                     .arg(size.toSize().width())
+                     .arg(size.toSize().height());
+        return {};
+    }
     image.setDevicePixelRatio(scale);
     image.fill(pageColor);
     QPainter painter(&image);
@@ -362,6 +372,10 @@ QByteArray sheetPicture(const SheetModel &model, QString *error)
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
-    ColorMath::seenBy(model.vision(), image).save(&buffer, "PNG");
+    QImageWriter writer(&buffer, "PNG");
+    if (!writer.write(ColorMath::seenBy(model.vision(), image))) {
+        *error = QLatin1String("the picture cannot be made: ") % writer.errorString();
+        return {};
+    }
     return content;
 }

@@ -61,15 +61,13 @@ void reportLargeImages(const SheetModel &model)
     for (const SheetTheme &theme : model.themes()) {
         for (const StoredValue &image : theme.values[int(Kind::ImageFile)]) {
             const QString path = image.value.toString();
-            const QSize size = sizeIfTooLarge(path);
-            if (size.isEmpty() || reported.contains(path))
+            const QString reason = whyTooLarge(path);
+            if (reason.isEmpty() || reported.contains(path))
                 continue;
             reported << path;
             printError(QLatin1String("image file ") % image.key() % QLatin1String(": ") % path
-                       % QStringLiteral(" has %1 x %2 pixels, too many for a sheet, which shows it "
-                                        "as missing")
-                             .arg(size.width())
-                             .arg(size.height()));
+                       % QLatin1Char(' ') % reason
+                       % QLatin1String(", too much for a sheet, which shows it as missing"));
         }
     }
 }

@@ -17,6 +17,7 @@
 
 #include <QApplication>
 
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -72,8 +73,15 @@ QString helpText()
     return text;
 }
 
-// Qt's chatter about the environment is no report: the commands show what belongs to theirs.
-void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
+// Qt's chatter about the environment is no report: the commands show what belongs to theirs. What
+// ends the program is told, and ends it like any other environment that is of no use.
+void ignoreMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtFatalMsg)
+        return;
+    printError(message.simplified());
+    std::_Exit(ExitUnusable);
+}
 
 int runCommand(const Command &command, int &argc, char **argv)
 {

@@ -55,6 +55,22 @@ QString tooLarge(const QString &path, qint64 limit)
         % QLatin1String(" MB, which no file of this kind is");
 }
 
+// Returns all, or a byte more than the limit. Takes no more memory than the file needs, and no size
+// for granted: files of the system have none.
+QByteArray contentOf(QFile *file, qint64 limit)
+{
+    constexpr qint64 smallestRead = 64 * 1024;
+    const qint64 most = qMax(smallestRead, file->size() + 1);
+    QByteArray content;
+    while (content.size() <= limit) {
+        const QByteArray part = file->read(qMin(most, limit + 1 - content.size()));
+        if (part.isEmpty())
+            break;
+        content += part;
+    }
+    return content;
+}
+
 } // namespace
 
 std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QString *error)
@@ -87,9 +103,16 @@ std::optional<InputFile> InputFile::read(const QString &path, qint64 limit, QStr
             return std::nullopt;
         }
         input.m_stamp = stampOf(status);
-        file.open(descriptor.number(), QIODevice::ReadOnly, QFile::DontCloseHandle);
+        if (!file.open(descriptor.number(), QIODevice::ReadOnly, QFile::DontCloseHandle)) {
+            *error = path % QLatin1String(": ") % file.errorString();
+            return std::nullopt;
+        }
     }
-    input.m_content = file.read(limit + 1);
+    input.m_content = contentOf(&file, limit);
+    if (file.error() != QFileDevice::NoError) {
+        *error = path % QLatin1String(": ") % file.errorString();
+        return std::nullopt;
+    }
     if (input.m_content.size() > limit) {
         *error = tooLarge(path, limit);
         return std::nullopt;

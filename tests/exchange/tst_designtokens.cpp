@@ -40,7 +40,7 @@ ThemeContent smallTheme()
                     {"Direct", {QColor(1, 2, 3, 4), QString()}},
                     {"Key with blanks", {QColor("#abcdef"), QString()}}};
     theme.imageFiles = {{"add", "../share/a,b.svg"}, {"none", ""}};
-    theme.gradients = {{"Heading", {{0, QColor("#000000")}, {0.25, QColor(9, 8, 7, 6)}}}};
+    theme.gradients = {{"Heading", {{0, QColor("#000000")}, {0.33333333, QColor(9, 8, 7, 6)}}}};
     theme.flags = {{"Dark", true}, {"Loud", false}};
     theme.integers = {{"FontSize_L", 14}, {"Width", -3}};
     return theme;
@@ -284,7 +284,7 @@ void tst_DesignTokens::themeFiles()
     QVERIFY(made->files.at(1).content.contains("Text=Ink"));
     QVERIFY(made->files.at(1).content.contains("Direct=#04010203"));
     QVERIFY(made->files.at(1).content.contains("Key%20with%20blanks=#ABCDEF"));
-    QVERIFY(made->files.at(1).content.contains("Heading\\2\\pos=0.25"));
+    QVERIFY(made->files.at(1).content.contains("Heading\\2\\pos=0.33333333"));
 }
 
 QTEST_GUILESS_MAIN(tst_DesignTokens)

@@ -15,6 +15,8 @@ class tst_Formats : public QObject
 
 private Q_SLOTS:
     void css();
+    void cssGradients_data();
+    void cssGradients();
     void gimp();
     void scheme();
 };
@@ -39,6 +41,36 @@ void tst_Formats::css()
                    "  --gradient-Heading: linear-gradient(to right, #000000 0%, #ffffff 50%);\n"
                    "  --flag-Dark: 1;\n"
                    "}\n"));
+}
+
+void tst_Formats::cssGradients_data()
+{
+    QTest::addColumn<QGradientStops>("stops");
+    QTest::addColumn<QByteArray>("expected");
+
+    QTest::newRow("two") << QGradientStops{{0, Qt::black}, {1, Qt::white}}
+                         << QByteArray("linear-gradient(to right, #000000 0%, #ffffff 100%)");
+    QTest::newRow("one") << QGradientStops{{0.25, Qt::black}}
+                         << QByteArray("linear-gradient(to right, #000000 25%, #000000 25%)");
+    QTest::newRow("out-of-order") << QGradientStops{{1, Qt::black}, {0, Qt::white}}
+                                  << QByteArray(
+                                         "linear-gradient(to right, #ffffff 0%, #000000 100%)");
+    QTest::newRow("outside") << QGradientStops{{-1, Qt::red},
+                                               {0, Qt::black},
+                                               {1, Qt::white},
+                                               {1.5, Qt::red}}
+                             << QByteArray("linear-gradient(to right, #000000 0%, #ffffff 100%)");
+    QTest::newRow("all-outside") << QGradientStops{{2, Qt::red}} << QByteArray("none");
+}
+
+// Valid CSS, and what Qt paints.
+void tst_Formats::cssGradients()
+{
+    QFETCH(QGradientStops, stops);
+    QFETCH(QByteArray, expected);
+    ThemeContent theme;
+    theme.gradients = {{"G", stops}};
+    QCOMPARE(cssProperties(theme), QByteArray(":root {\n  --gradient-G: " + expected + ";\n}\n"));
 }
 
 void tst_Formats::gimp()

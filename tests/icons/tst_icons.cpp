@@ -75,6 +75,8 @@ private Q_SLOTS:
     void hugeGradient();
     void otherPicturesAreStillMade();
     void sourceIsNeverReplaced();
+    void readError();
+    void copiesOfOneName();
     void wrongUsage();
     void help();
     void version();
@@ -150,6 +152,12 @@ void tst_Icons::unusableInput_data()
         << "pen.svg" << QByteArray("global.theme.color.Veil")
         << "pen.svg:1: global.theme.color.Veil: the colour is translucent, "
            "which SVG writes as an opacity of its own";
+    QTest::newRow("latin-1") << "red"
+                             << "pen.svg" << QByteArray("<svg><text>\xfc</text></svg>")
+                             << "pen.svg: not in UTF-8; save it so";
+    QTest::newRow("utf-16") << "red"
+                            << "pen.svg" << QByteArray("\xff\xfe<\0s\0v\0g\0/\0>\0", 14)
+                            << "pen.svg: not in UTF-8; save it so";
     QTest::newRow("integer")
         << "red"
         << "pen.svg" << QByteArray("global.theme.integer.Width")
@@ -233,6 +241,31 @@ void tst_Icons::sourceIsNeverReplaced()
     QCOMPARE(outcome.exitCode, 1);
     QVERIFY(outcome.error.contains("pen.svg: its copy would replace it\n"));
     QCOMPARE(content(shop.filePath("pen.svg")), QByteArray(picture));
+}
+
+// Files of the system can be opened and yet not be read.
+void tst_Icons::readError()
+{
+    const Workshop shop;
+    const Outcome outcome = shop.tint("red", {"/proc/self/mem"});
+    QVERIFY2(outcome.error.contains("hvtheme-icons: /proc/self/mem: Input/output error\n"),
+             qUtf8Printable(outcome.error));
+    QCOMPARE(outcome.exitCode, 1);
+    QVERIFY(!QFile::exists(shop.filePath("out/mem")));
+}
+
+void tst_Icons::copiesOfOneName()
+{
+    const Workshop shop;
+    shop.write("a/pen.svg", picture);
+    const QStringList sources{shop.filePath("pen.svg"), shop.filePath("a/pen.svg")};
+    const Outcome outcome = shop.tint("red", sources);
+    QCOMPARE(outcome.error,
+             QString("hvtheme-icons: %1: its copy would replace that of %2\n")
+                 .arg(sources.at(1), sources.at(0)));
+    QCOMPARE(outcome.exitCode, 2);
+    QVERIFY(!QFile::exists(shop.filePath("out")));
+    QCOMPARE(shop.tint("red", {sources.at(0), sources.at(0)}).exitCode, 0);
 }
 
 void tst_Icons::wrongUsage()

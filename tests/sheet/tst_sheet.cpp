@@ -26,6 +26,9 @@ private Q_SLOTS:
     void pictureShowsColors();
     void pictureGrowsWithThemes();
     void pictureHasAnEnd();
+    void pictureHasAnArea();
+    void pictureWithoutMemory();
+    void largeFilesStayOut();
     void largeImagesStayOut_data();
     void largeImagesStayOut();
 };
@@ -258,6 +261,71 @@ void tst_Sheet::pictureHasAnEnd()
     QVERIFY(sheet(".html", {theme.path(), "default"}).contains("Key1999"));
 }
 
+// As large as a picture may be on either side, but not on both.
+void tst_Sheet::pictureHasAnArea()
+{
+    QByteArray text = "[Integers]\n";
+    for (int i = 0; i < 400; ++i)
+        text += "Key" + QByteArray::number(i) + "=1\n";
+    const TemporaryTheme theme(text);
+    QStringList arguments{"sheet", theme.path()};
+    for (int i = 0; i < 70; ++i) {
+        const QString name = "t" + QString::number(i);
+        theme.write(name + ".theme", "[Integers]\nOwn=1\n");
+        arguments << name;
+    }
+    const CommandRun run(arguments + QStringList{"-o", theme.path("out.png")});
+    QCOMPARE(run.exitCode, 2);
+    QCOMPARE(run.errors,
+             QByteArray("hvtheme: these themes have too many values for a picture; name a .html "
+                        "file instead\n"));
+    QVERIFY(!QFile::exists(theme.path("out.png")));
+}
+
+// A limit on memory stands for a machine that has no more.
+void tst_Sheet::pictureWithoutMemory()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("the sanitizer reserves more address space than the limit leaves");
+#endif
+    QByteArray text = "[Integers]\n";
+    for (int i = 0; i < 760; ++i)
+        text += "Key" + QByteArray::number(i) + "=1\n";
+    const TemporaryTheme theme(text);
+    QStringList arguments{
+        "-c", "ulimit -v 400000; exec \"$@\"", "bash", commandPath(), "sheet", theme.path()};
+    for (int i = 0; i < 4; ++i) {
+        const QString name = "t" + QString::number(i);
+        theme.write(name + ".theme", "[Integers]\nOwn=1\n");
+        arguments << name;
+    }
+    QProcess shell;
+    shell.start("bash", arguments + QStringList{"-o", theme.path("out.png")});
+    QVERIFY(shell.waitForFinished());
+    const QString errors = shell.readAllStandardError();
+    QVERIFY2(errors.contains("hvtheme: there is no memory for a picture of "), qPrintable(errors));
+    QCOMPARE(errors.count('\n'), 1);
+    QCOMPARE(shell.exitCode(), 2);
+}
+
+// What the check takes and a sheet does not is told.
+void tst_Sheet::largeFilesStayOut()
+{
+    const TemporaryTheme theme("[ImageFiles]\nlarge=large.png\n");
+    QImage image(8, 8, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(theme.path("large.png"), "PNG"));
+    QFile file(theme.path("large.png"));
+    QVERIFY(file.resize(5 * 1024 * 1024));
+    const CommandRun run({"sheet", theme.path(), "default", "--app-dir", theme.path(), "-o",
+                          theme.path("out.html")});
+    QCOMPARE(QString(run.errors),
+             "hvtheme: image file large: " + QFileInfo(theme.path()).canonicalFilePath()
+                 + "/large.png is larger than 4 MB, too much for a sheet, which shows it as "
+                   "missing\n");
+    QCOMPARE(run.exitCode, 0);
+}
+
 // A picture of 900 million pixels, in a file of some hundred bytes.
 void tst_Sheet::largeImagesStayOut_data()
 {
@@ -284,7 +352,7 @@ void tst_Sheet::largeImagesStayOut()
     QVERIFY(shell.waitForFinished());
     QCOMPARE(QString(shell.readAllStandardError()),
              "hvtheme: image file large: " + QFileInfo(theme.path()).canonicalFilePath()
-                 + "/large.png has 30000 x 30000 pixels, too many for a sheet, which shows it as "
+                 + "/large.png has 30000 x 30000 pixels, too much for a sheet, which shows it as "
                    "missing\n");
     QCOMPARE(shell.exitCode(), 0);
     QFile file(theme.path(output));

@@ -36,6 +36,7 @@ private Q_SLOTS:
     void endlessSubstitutionEnds();
     void changingFile();
     void needsNoDisplay();
+    void missingPlatform();
 };
 
 namespace
@@ -415,6 +416,30 @@ void tst_Cli::needsNoDisplay()
     const Result result =
         run(checkArguments(folder), {"QT_QPA_PLATFORM=xcb", "DISPLAY=:99999", leaks});
     QCOMPARE(result.code, 0);
+}
+
+// A command of its own, in whose folder a file leads Qt's plugins to where there are none.
+void tst_Cli::missingPlatform()
+{
+    const QTemporaryDir folder;
+    writeTheme(folder);
+    const QTemporaryDir programs;
+    const QString command = programs.filePath("hvtheme");
+    QVERIFY(QFile::copy(HVTHEME_COMMAND, command));
+    QFile settings(programs.filePath("qt.conf"));
+    QVERIFY(settings.open(QIODevice::WriteOnly));
+    settings.write("[Paths]\nPlugins=/nowhere\n");
+    settings.close();
+    QProcess process;
+    process.start(command, checkArguments(folder));
+    QVERIFY(process.waitForFinished(30000));
+    const QByteArray errors = process.readAllStandardError();
+    QVERIFY2(errors.startsWith("hvtheme: This application failed to start because no Qt platform "
+                               "plugin could be initialized."),
+             errors.constData());
+    QCOMPARE(errors.count('\n'), 1);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 2);
 }
 
 QTEST_GUILESS_MAIN(tst_Cli)

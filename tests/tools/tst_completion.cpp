@@ -151,6 +151,11 @@ void tst_Completion::words_data()
     QTest::newRow("templates") << "render themes night --templates templates/A" << "templates/A.css";
     QTest::newRow("application") << "render themes night --app-dir im" << "images";
     QTest::newRow("new-folder") << "new the" << "themes";
+    QTest::newRow("new-from") << "new x --from themes/n" << "themes/night";
+    QTest::newRow("new-from-folder") << "new x --from them" << "themes";
+    QTest::newRow("import-file") << "import templates/b" << "templates/b.qss";
+    QTest::newRow("import-folder") << "import templates/b.qss the" << "themes";
+    QTest::newRow("import-has-two-arguments") << "import templates/b.qss themes n" << "";
     QTest::newRow("new-neutral") << "new x --neutral " << "cool warm";
     QTest::newRow("new-has-one-argument") << "new x " << "";
     QTest::newRow("themes-to-run-in") << "run --theme " << "contrast dark default light";

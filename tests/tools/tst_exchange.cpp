@@ -22,6 +22,7 @@ private Q_SLOTS:
     void importRefused();
     void importNowhere_data();
     void importNowhere();
+    void filesOfTheSystem();
     void fullDisk();
     void keepsWhatIsThere();
 };
@@ -257,6 +258,20 @@ void tst_Exchange::importNowhere()
     QVERIFY2(run.errors.contains(reason), run.errors.constData());
     QCOMPARE(run.errors.count('\n'), 1);
     QVERIFY(!QFileInfo::exists(place.filePath("out")));
+}
+
+// Files of the system can be opened and yet not be read, and have no size before they are.
+void tst_Exchange::filesOfTheSystem()
+{
+    const QTemporaryDir place;
+    const QString out = place.filePath("out");
+    const CommandRun unreadable({"import", "/proc/self/mem", out});
+    QCOMPARE(unreadable.exitCode, 2);
+    QCOMPARE(unreadable.errors, QByteArray("hvtheme: /proc/self/mem: Input/output error\n"));
+    const CommandRun read({"import", "/proc/self/environ", out});
+    QCOMPARE(read.exitCode, 2);
+    QVERIFY2(read.errors.startsWith("hvtheme: /proc/self/environ: no JSON: illegal value at byte"),
+             read.errors.constData());
 }
 
 // A limit on the size of files stands for a full disk.
