@@ -34,7 +34,7 @@ QString labelOf(const QWidget *widget)
 QString nameFor(const QWidget *widget)
 {
     for (const char *property : {"imageBtn", "switchStyle", "checkStyle"}) {
-        const QString value = widget->property(property).toString();
+        QString value = widget->property(property).toString();
         if (!value.isEmpty())
             return value;
     }

@@ -77,7 +77,7 @@ void PageMenu::addWidget(QWidget *widget)
     QWidget *specimen = specimenOf(widget);
     QWidget *meant = specimen != nullptr ? specimen : widget;
     const QPointer<QWidget> guarded(meant);
-    addAction(QStringLiteral("Inspect"), this, [this, guarded] {
+    connect(addAction(QStringLiteral("Inspect")), &QAction::triggered, this, [this, guarded] {
         if (guarded)
             Q_EMIT inspected(guarded);
     });
