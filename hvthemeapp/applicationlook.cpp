@@ -114,7 +114,7 @@ bool ApplicationTheme::Private::apply(const QString &ofFolder, const QString &ne
         if (!fault.isEmpty())
             return report(fault);
     }
-    if (isApplying || isPainting()) {
+    if (lookInForce().isChanging || isPainting()) {
         applyLater(ofFolder, newName);
         return true;
     }
@@ -189,17 +189,18 @@ void ApplicationTheme::restyleAgain()
 {
     if (d->name.isNull())
         return;
-    if (d->isApplying || isPainting()) {
+    if (lookInForce().isChanging || isPainting()) {
         d->applyLater(d->comingFolder(), d->comingName());
         return;
     }
     const QString look = d->templates.styleSheet(d->theme.get(), d->keepsFonts);
     QString styleSheet = look;
     QPalette palette = applicationPalette(d->theme->values());
-    d->isApplying = true;
+    lookInForce().isChanging = true;
     ThemedStyle::install();
     complete(&palette, &styleSheet);
-    lookInForce() = {this, look};
+    lookInForce().owner = this;
+    lookInForce().styleSheet = look;
     d->palette = palette;
     d->watch();
     d->lift();
@@ -207,10 +208,9 @@ void ApplicationTheme::restyleAgain()
     // What happens to a widget may run any code of the application, which may delete the object.
     const QPointer<ApplicationTheme> guard(this);
     setProgramLook(palette, QVariantMap(d->theme->values()), styleSheet);
-    if (!guard)
-        return;
-    d->isApplying = false;
-    Q_EMIT changed();
+    lookInForce().isChanging = false;
+    if (guard)
+        Q_EMIT changed();
 }
 
 void ApplicationTheme::complete(QPalette *, QString *styleSheet)

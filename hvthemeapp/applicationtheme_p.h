@@ -29,6 +29,7 @@ namespace HV
 struct LookInForce {
     ApplicationTheme *owner = nullptr;
     QString styleSheet;
+    bool isChanging = false; // widget by widget
 };
 
 LookInForce &lookInForce();
@@ -80,7 +81,6 @@ public:
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
     std::unique_ptr<DesktopSettings> desktop; // while it is followed
     std::unique_ptr<ThemeWatcher> watcher; // while files are
-    bool isApplying = false;
     QString laterFolder; // of a look that waits, or null
     QString laterName;
 };

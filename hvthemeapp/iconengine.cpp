@@ -73,13 +73,31 @@ QPixmap faded(const QPixmap &pixmap)
     return result;
 }
 
+QPixmap scaled(const QPixmap &pixmap, const QSize &size)
+{
+    return pixmap.size() == size
+        ? pixmap
+        : pixmap.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
+// Decoded once for each size, and again when the file changes.
 QPixmap pixelsOf(const QString &path, const QSize &size)
 {
+    const QString key = QStringLiteral("hvimage:%1x%2:%3:")
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(QFileInfo(path).lastModified().toMSecsSinceEpoch())
+        % path;
+    QPixmap result;
+    if (QPixmapCache::find(key, &result))
+        return result;
     QImageReader reader(path);
     const QSize own = reader.size();
     if (own.isValid() && (own.width() > size.width() || own.height() > size.height()))
         reader.setScaledSize(own.scaled(size, Qt::KeepAspectRatio));
-    return QPixmap::fromImage(reader.read());
+    result = scaled(QPixmap::fromImage(reader.read()), size);
+    QPixmapCache::insert(key, result);
+    return result;
 }
 
 } // namespace
@@ -222,9 +240,8 @@ QPixmap IconEngine::drawn(const Picture &picture, const QSize &size) const
         return {};
     QPixmap result;
     if (!picture.pixmap.isNull() || !isDrawing(picture.path)) {
-        result = picture.pixmap.isNull() ? pixelsOf(picture.path, size) : picture.pixmap;
-        if (result.size() != size)
-            result = result.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        result =
+            picture.pixmap.isNull() ? pixelsOf(picture.path, size) : scaled(picture.pixmap, size);
         return picture.mode == QIcon::Disabled ? faded(result) : result;
     }
     const QString key = QStringLiteral("hvicon:%1x%2:%3:%4:%5:%6:")

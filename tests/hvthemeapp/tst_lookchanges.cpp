@@ -66,6 +66,7 @@ private Q_SLOTS:
     void deletedByASignal();
     void liftingEndsInAPaint_data();
     void liftingEndsInAPaint();
+    void twoThemesAtOnce();
     void menuMadeAnew();
     void accentThatCannotBe();
     void accentsOfUserAndLook();
@@ -215,6 +216,37 @@ void tst_LookChanges::liftingEndsInAPaint()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     widget.grab();
     QVERIFY(!m_theme || !m_theme->liftsText());
+}
+
+// The look of one object is not mixed with that of another.
+void tst_LookChanges::twoThemesAtOnce()
+{
+    class Switching : public QWidget
+    {
+    public:
+        ApplicationTheme *other = nullptr;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (event->type() == QEvent::StyleChange && other)
+                std::exchange(other, nullptr)->setName("contrast");
+            QWidget::changeEvent(event);
+        }
+    };
+    ApplicationTheme other;
+    Switching widget;
+    widget.show();
+    QSignalSpy changes(m_theme.get(), &ApplicationTheme::changed);
+    connect(m_theme.get(), &ApplicationTheme::changed,
+            [&] { QCOMPARE(QApplication::palette(), m_theme->palette()); });
+    widget.other = &other;
+    QVERIFY(m_theme->setName("light"));
+    QCOMPARE(changes.size(), 1);
+    QVERIFY(!widget.other);
+    QTRY_COMPARE(other.name(), QString("contrast"));
+    QCOMPARE(ApplicationTheme::inForce(), &other);
+    QCOMPARE(QApplication::palette(), other.palette());
 }
 
 void tst_LookChanges::menuMadeAnew()
