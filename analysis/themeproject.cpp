@@ -114,7 +114,7 @@ bool ThemeProject::readTemplates(QString *error)
     return true;
 }
 
-// The library opens the files a second time, by their names.
+// A file that somebody is writing, emptied perhaps and half full again, is none to report on.
 bool ThemeProject::isUnchanged(QString *error) const
 {
     for (const auto &layer : m_layers) {

@@ -42,6 +42,38 @@ QString textOf(const ThemeFile &file, const ThemeFileEntry &entry,
     return QString::fromUtf8(file.content().mid(entry.valueStart, length));
 }
 
+struct KnownText {
+    KnownText(const QString &path, const QByteArray &content)
+        : file(fileOf(path, content))
+        , values(ChangedText::values(content))
+    {
+    }
+
+    const ThemeFile file;
+    const QMap<QString, QVariant> values;
+};
+
+QVector<ThemeChange> differences(const KnownText &before, const KnownText &after)
+{
+    QVector<ThemeChange> changes;
+    const QString path = after.file.path();
+    for (const ThemeFileEntry &entry : after.file.entries()) {
+        if (!entry.isEffective)
+            continue;
+        const ThemeFileEntry *old = before.file.find(entry.key);
+        ThemeChange change{path, entry.key, QString(), textOf(after.file, entry, after.values)};
+        if (old)
+            change.before = textOf(before.file, *old, before.values);
+        if (!old || change.before != change.value)
+            changes.append(change);
+    }
+    for (const ThemeFileEntry &entry : before.file.entries()) {
+        if (entry.isEffective && !after.file.find(entry.key))
+            changes.append({path, entry.key, textOf(before.file, entry, before.values), QString()});
+    }
+    return changes;
+}
+
 std::optional<QByteArray> changed(const QString &path, QByteArray content,
                                   const QVector<ThemeChange> &changes, QString *error)
 {
@@ -57,6 +89,40 @@ std::optional<QByteArray> changed(const QString &path, QByteArray content,
         content = *next;
     }
     return content;
+}
+
+using ValuesByKey = QHash<QString, QString>; // of changes
+
+ValuesByKey byKey(const QVector<ThemeChange> &changes)
+{
+    ValuesByKey values;
+    for (const ThemeChange &each : changes)
+        values.insert(each.key, each.value);
+    return values;
+}
+
+// Tells whether all that was changed before still is: no key was reset, and none is there again.
+bool goesOn(const ValuesByKey &before, const ValuesByKey &now)
+{
+    for (auto it = before.cbegin(); it != before.cend(); ++it) {
+        const auto found = now.constFind(it.key());
+        if (found == now.cend() || (it->isNull() && !found->isNull()))
+            return false;
+    }
+    return true;
+}
+
+QVector<ThemeChange> added(const ValuesByKey &before, const QVector<ThemeChange> &changes)
+{
+    QVector<ThemeChange> added;
+    for (const ThemeChange &each : changes) {
+        const auto known = before.constFind(each.key);
+        const bool isSame = known != before.cend() && *known == each.value
+            && known->isNull() == each.value.isNull();
+        if (!isSame)
+            added.append(each);
+    }
+    return added;
 }
 
 bool isName(const QString &name)
@@ -122,29 +188,9 @@ bool ThemeEditor::setValue(const QString &file, const QString &key, const QStrin
 
 QVector<ThemeChange> ThemeEditor::changesOf(const QString &file, const QByteArray &content) const
 {
-    QVector<ThemeChange> changes;
     const QByteArray saved = m_saved.value(file);
-    if (content == saved)
-        return changes;
-    const ThemeFile before = fileOf(file, saved);
-    const ThemeFile after = fileOf(file, content);
-    const auto valuesBefore = ChangedText::values(saved);
-    const auto valuesAfter = ChangedText::values(content);
-    for (const ThemeFileEntry &entry : after.entries()) {
-        if (!entry.isEffective)
-            continue;
-        const ThemeFileEntry *old = before.find(entry.key);
-        ThemeChange change{file, entry.key, QString(), textOf(after, entry, valuesAfter)};
-        if (old)
-            change.before = textOf(before, *old, valuesBefore);
-        if (!old || change.before != change.value)
-            changes.append(change);
-    }
-    for (const ThemeFileEntry &entry : before.entries()) {
-        if (entry.isEffective && !after.find(entry.key))
-            changes.append({file, entry.key, textOf(before, entry, valuesBefore), QString()});
-    }
-    return changes;
+    return content == saved ? QVector<ThemeChange>()
+                            : differences(KnownText(file, saved), KnownText(file, content));
 }
 
 QVector<ThemeChange> ThemeEditor::changes() const
@@ -249,14 +295,27 @@ bool ThemeEditor::adopt(const QString &file, const QByteArray &theirs, Text text
     if (!ThemeFile::fromContent(file, theirs, error))
         return false;
     QVector<State> states = m_states;
+    const KnownText saved(file, m_saved.value(file));
+    QHash<QByteArray, QByteArray> adopted; // by our text
+    ValuesByKey before; // what led to content
+    QByteArray content = theirs;
     for (State &each : states) {
         if (text == Text::Ours)
             break;
-        const auto content =
-            ::changed(file, theirs, changesOf(file, each.contents.value(file)), error);
-        if (!content)
-            return false;
-        each.contents.insert(file, *content);
+        const QByteArray ours = each.contents.value(file);
+        if (!adopted.contains(ours)) {
+            const QVector<ThemeChange> changes = differences(saved, KnownText(file, ours));
+            // A step seldom does more than one thing to what the one before it made.
+            const bool isFurther = goesOn(before, byKey(changes));
+            const auto next = ::changed(file, isFurther ? content : theirs,
+                                        isFurther ? added(before, changes) : changes, error);
+            if (!next)
+                return false;
+            adopted.insert(ours, *next);
+            before = byKey(changes);
+            content = *next;
+        }
+        each.contents.insert(file, adopted.value(ours));
     }
     m_states = states;
     m_saved.insert(file, theirs);

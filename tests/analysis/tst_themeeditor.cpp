@@ -35,6 +35,8 @@ private Q_SLOTS:
     void changedMeanwhile();
     void touchedMeanwhile();
     void savedByOthersAlike();
+    void adoptAnySteps();
+    void adoptManySteps();
     void adoptOurs();
     void vanished();
     void readOnly();
@@ -214,6 +216,63 @@ void tst_ThemeEditor::savedByOthersAlike()
     write("a.theme", editor.contents().value(m_file));
     QVERIFY(editor.save(m_file).isSaved());
     QVERIFY(!editor.isChanged());
+}
+
+// Steps that take back, remove and bring back what others changed.
+void tst_ThemeEditor::adoptAnySteps()
+{
+    ThemeEditor editor;
+    QVERIFY(set(&editor, "Palettes/Bg", "1"));
+    QVERIFY(set(&editor, "Palettes/Fg", QString()));
+    editor.reset(m_file, "Palettes/Bg");
+    QVERIFY(set(&editor, "Palettes/Fg", "000"));
+    QVERIFY(set(&editor, "Palettes/New", "2"));
+    QVERIFY(set(&editor, "Palettes/Bg", "1"));
+    const QByteArray theirs("[Palettes]\nBg=777 ; theirs\nFg=888\nMore=1\n");
+    QVERIFY2(editor.adopt(m_file, theirs, ThemeEditor::Text::Theirs, &m_error),
+             qPrintable(m_error));
+    const QByteArrayList expected{
+        "[Palettes]\nBg=1 ; theirs\nFg=888\nMore=1\nNew=2\n",
+        "[Palettes]\nBg=777 ; theirs\nFg=888\nMore=1\nNew=2\n",
+        "[Palettes]\nBg=777 ; theirs\nFg=888\nMore=1\n",
+        "[Palettes]\nBg=777 ; theirs\nMore=1\n",
+        "[Palettes]\nBg=1 ; theirs\nMore=1\n",
+        "[Palettes]\nBg=1 ; theirs\nFg=888\nMore=1\n",
+    };
+    for (const QByteArray &content : expected) {
+        QCOMPARE(editor.contents().value(m_file, theirs), content);
+        editor.undo();
+    }
+    QVERIFY(!editor.isChanged());
+    QVERIFY(!editor.canUndo());
+}
+
+// The time must not grow with the square of the steps.
+void tst_ThemeEditor::adoptManySteps()
+{
+    constexpr int steps = 300;
+    QByteArray text("[Palettes]\n");
+    for (int i = 0; i < 400; ++i)
+        text += "P" + QByteArray::number(i) + "=#000000\n";
+    write("a.theme", text);
+    ThemeEditor editor;
+    for (int i = 0; i < steps; ++i)
+        QVERIFY(set(&editor, "Palettes/P" + QString::number(i), "1"));
+    QByteArray theirs = text;
+    theirs.replace("P7=#000000", "P7=theirs ; by hand").append("More=1\n");
+    QVERIFY2(editor.adopt(m_file, theirs, ThemeEditor::Text::Theirs, &m_error),
+             qPrintable(m_error));
+    for (int i = steps; i >= 0; --i) {
+        QByteArray expected = theirs;
+        for (int j = 0; j < i; ++j) {
+            const QByteArray entry = "P" + QByteArray::number(j) + '=';
+            const QByteArray value = j == 7 ? "theirs" : "#000000";
+            expected.replace(QByteArray(entry + value), QByteArray(entry + '1'));
+        }
+        QCOMPARE(editor.contents().value(m_file, theirs), expected);
+        editor.undo();
+    }
+    QVERIFY(!editor.canUndo());
 }
 
 void tst_ThemeEditor::adoptOurs()
