@@ -3,35 +3,53 @@
 
 #include <analysis/changetarget.h>
 
+#include <QHash>
 #include <QSet>
-
-#include <algorithm>
 
 namespace
 {
 
-bool isTakenBy(const ThemeStack &theme, const Definition &entry, const Definition &taker)
+// A million palette entries can be taken one from another; nobody looks for the place to change a
+// value further away than this.
+constexpr int mostTargets = 100;
+
+using Takers = QHash<const Definition *, QVector<const Definition *>>;
+
+// By palette entry, all that is taken from it directly; an entry that is stored later gives nothing.
+Takers takersIn(const ThemeStack &theme)
 {
-    if (entry.kind() != Kind::Palette || taker.fate != Definition::Fate::Stored)
-        return false;
-    const QVector<GradientStopValue> &stops = taker.value->stops;
-    const bool isInStops = std::any_of(stops.cbegin(), stops.cend(), [&](const auto &stop) {
-        return stop.color.toString() == entry.key();
-    });
-    return isInStops || (taker.palette >= 0 && &theme.definitions().at(taker.palette) == &entry);
+    Takers takers;
+    const QVector<Definition> &definitions = theme.definitions();
+    for (int i = 0; i < definitions.size(); ++i) {
+        const Definition &taker = definitions.at(i);
+        if (taker.fate != Definition::Fate::Stored)
+            continue;
+        QSet<int> entries{taker.palette};
+        for (const GradientStopValue &stop : qAsConst(taker.value->stops)) {
+            const QString name = stop.color.toString();
+            entries.insert(theme.stored(Kind::Palette).value(name, -1));
+        }
+        for (const int entry : qAsConst(entries)) {
+            if (entry >= 0 && entry < i)
+                takers[&definitions.at(entry)].append(&taker);
+        }
+    }
+    return takers;
 }
 
-// Entries are taken only from those that are stored before, so that this ends.
-void collectTakers(const ThemeStack &theme, const Definition &definition,
-                   QSet<const Definition *> *takers)
+// Returns the definition and all that is taken from it, over however many steps.
+QSet<const Definition *> changedWith(const Definition &definition, const Takers &takers)
 {
-    if (takers->contains(&definition))
-        return;
-    takers->insert(&definition);
-    for (const Definition &other : theme.definitions()) {
-        if (isTakenBy(theme, definition, other))
-            collectTakers(theme, other, takers);
+    QSet<const Definition *> changed;
+    QVector<const Definition *> open{&definition};
+    while (!open.isEmpty()) {
+        const Definition *each = open.takeLast();
+        if (changed.contains(each))
+            continue;
+        changed.insert(each);
+        open += takers.value(each);
     }
+    return changed;
 }
 
 int countDeclarations(const ThemeProject &project, const ThemeStack &theme,
@@ -50,7 +68,7 @@ int countDeclarations(const ThemeProject &project, const ThemeStack &theme,
 }
 
 ChangeTarget target(const ThemeProject &project, const ThemeStack &theme,
-                    const Definition &definition)
+                    const Definition &definition, const Takers &takers)
 {
     ChangeTarget result;
     result.kind = definition.kind();
@@ -64,9 +82,8 @@ ChangeTarget target(const ThemeProject &project, const ThemeStack &theme,
         if (same && same->value == definition.value)
             result.themes << other->name();
     }
-    QSet<const Definition *> changed;
-    collectTakers(theme, definition, &changed);
-    for (const Definition *each : qAsConst(changed))
+    const QSet<const Definition *> changed = changedWith(definition, takers);
+    for (const Definition *each : changed)
         result.keys << each->key();
     result.keys.sort();
     result.declarations = countDeclarations(project, theme, changed);
@@ -77,8 +94,9 @@ QVector<ChangeTarget> targets(const ThemeProject &project, const ThemeStack &the
                               const Definition *definition)
 {
     QVector<ChangeTarget> targets;
-    while (definition) {
-        targets.append(target(project, theme, *definition));
+    const Takers takers = definition ? takersIn(theme) : Takers();
+    while (definition && targets.size() < mostTargets) {
+        targets.append(target(project, theme, *definition, takers));
         definition =
             definition->palette < 0 ? nullptr : &theme.definitions().at(definition->palette);
     }

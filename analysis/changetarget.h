@@ -25,7 +25,7 @@ struct ChangeTarget {
  * \brief Returns where the value that style sheets see as \a key could be changed in \a theme.
  *
  * The line of the key comes first, then, for a colour that is taken from the palette, that of the entry, the one
- * which that is taken from, and so on. Empty if the theme has no such key.
+ * which that is taken from, and so on, a hundred lines at most. Empty if the theme has no such key.
  */
 QVector<ChangeTarget> changeTargets(const ThemeProject &project, const ThemeStack &theme,
                                     const QString &key);

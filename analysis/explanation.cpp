@@ -45,28 +45,33 @@ ExplanationStep step(Topic topic, const Definition &definition)
 
 } // namespace
 
+// One hop after the other: a file of 16 MB has room for a million of them.
 QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &definition)
 {
-    QVector<ExplanationStep> steps{step(Topic::Origin, definition)};
-    const QString &text = definition.value->text();
-    const bool isColor = definition.kind() == Kind::Color || definition.kind() == Kind::Palette;
-    if (isColor && definition.palette < 0 && !isHexadecimalColor(text)) {
+    QVector<ExplanationStep> steps;
+    const Definition *each = &definition;
+    while (each->palette >= 0) {
+        steps.append(step(Topic::Origin, *each));
+        each = &theme.definitions().at(each->palette);
+    }
+    steps.append(step(Topic::Origin, *each));
+    const QString &text = each->value->text();
+    const bool isColor = each->kind() == Kind::Color || each->kind() == Kind::Palette;
+    if (isColor && !isHexadecimalColor(text)) {
         const bool isLate = theme.find(Kind::Palette, text) != nullptr;
         const QString note = isLate
             ? QStringLiteral("the palette entry of that name is stored only later, so it is black")
             : QStringLiteral("neither a palette entry nor a hexadecimal colour, so it is black");
         steps.append({Topic::Note, {}, note});
     }
-    if (definition.kind() == Kind::Gradient) {
-        const QString prefix = definition.entry()->key % QLatin1Char('/');
-        for (const ThemeFileEntry &entry : definition.layer->file.entries()) {
+    if (each->kind() == Kind::Gradient) {
+        const QString prefix = each->entry()->key % QLatin1Char('/');
+        for (const ThemeFileEntry &entry : each->layer->file.entries()) {
             if (entry.isEffective && entry.key.startsWith(prefix))
-                steps.append(step(Topic::Origin, definition.layer->file, entry,
+                steps.append(step(Topic::Origin, each->layer->file, entry,
                                   QString::fromUtf8(entry.rawValue.trimmed())));
         }
     }
-    if (definition.palette >= 0)
-        steps += originSteps(theme, theme.definitions().at(definition.palette));
     return steps;
 }
 

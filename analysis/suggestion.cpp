@@ -14,6 +14,9 @@ namespace
 // compare each of them with every name would take time with the square of their number.
 constexpr int searchLimit = 200;
 
+// What is longer was not typed, and to compare it takes time with the square of its length.
+constexpr int longestName = 256;
+
 // The optimal string alignment distance.
 int distance(const QString &a, const QString &b)
 {
@@ -56,7 +59,7 @@ QString Suggestion::nearest(const QString &misspelt) const
     const auto known = m_known.constFind(misspelt);
     if (known != m_known.cend())
         return *known;
-    if (m_known.size() >= searchLimit)
+    if (m_known.size() >= searchLimit || misspelt.size() > longestName)
         return {};
 
     QString best;

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void targets_data();
     void targets();
     void countsAreTrue();
+    void entryThatIsLate();
+    void longChain();
 
 private:
     std::unique_ptr<ThemeProject> read(const QHash<QString, QByteArray> &contents) const;
@@ -123,6 +125,39 @@ void tst_ChangeTarget::countsAreTrue()
         }
         QCOMPARE(differing, target.declarations);
     }
+}
+
+// A gradient of the default file is there before the entries of the theme's own.
+void tst_ChangeTarget::entryThatIsLate()
+{
+    const auto project = read({{m_folder.filePath("default.theme"),
+                                "[Gradients]\nGlow\\1\\pos=0\nGlow\\1\\color=Late\nGlow\\size=1\n"
+                                "Glow=1\n"},
+                               {m_folder.filePath("night.theme"),
+                                "ThemeName=Night\n[Palettes]\nLate=#fff\n[Gradients]\nOwn=1\n"
+                                "Own\\1\\pos=0\nOwn\\1\\color=Late\nOwn\\size=1\n"}});
+    const auto targets = paletteChangeTargets(*project, project->theme("night"), "Late");
+    QCOMPARE(targets.size(), 1);
+    QCOMPARE(targets.first().keys, QStringList({"Late", "Own"}));
+}
+
+// Entries that are taken one from another, as many as a file of this size has room for.
+void tst_ChangeTarget::longChain()
+{
+    constexpr int count = 50000;
+    const auto name = [](int i) { return QStringLiteral("a%1").arg(i, 6, 10, QLatin1Char('0')); };
+    QByteArray text = "[Palettes]\na000000=#123456\n";
+    for (int i = 1; i < count; ++i)
+        text += (name(i) + '=' + name(i - 1) + '\n').toLatin1();
+    text += "[Colors]\nEdge=" + name(count - 1).toLatin1() + '\n';
+    const auto project = read({{m_folder.filePath("default.theme"), text}});
+    const auto targets = changeTargets(*project, project->theme("night"), "Edge");
+    QCOMPARE(targets.size(), 100);
+    QCOMPARE(targets.at(1).key, name(count - 1));
+    QCOMPARE(targets.at(99).keys.size(), 100);
+    const auto whole = paletteChangeTargets(*project, project->theme("night"), name(0));
+    QCOMPARE(whole.size(), 1);
+    QCOMPARE(whole.first().keys.size(), count + 1);
 }
 
 QTEST_GUILESS_MAIN(tst_ChangeTarget)

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void changingFile();
     void needsNoDisplay();
     void missingPlatform();
+    void longNames_data();
+    void longNames();
 };
 
 namespace
@@ -440,6 +442,40 @@ void tst_Cli::missingPlatform()
     QCOMPARE(errors.count('\n'), 1);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 2);
+}
+
+void tst_Cli::longNames_data()
+{
+    QTest::addColumn<QByteArray>("theme");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("lines"); // that the output ends with, but for the templates
+
+    QByteArray chain = "[Palettes]\na000000=#123456\n";
+    for (int i = 1; i < 100000; ++i)
+        chain += 'a' + QByteArray::number(i).rightJustified(6, '0') + "=a"
+            + QByteArray::number(i - 1).rightJustified(6, '0') + '\n';
+    QTest::newRow("chain-of-entries") << chain + "[Colors]\nEdge=a099999\n"
+                                      << "Edge" << 0 << QByteArray("[Palettes] a000000=#123456\n");
+    QTest::newRow("long-key") << "[Colors]\n" + QByteArray(120001, 'a') + "=#fff\n"
+                              << QString(120000, 'a') << 1 << QByteArray("No template uses it.\n");
+}
+
+// As long as a file may make them: neither the stack nor the patience runs out.
+void tst_Cli::longNames()
+{
+    QFETCH(QByteArray, theme);
+    QFETCH(QString, key);
+    QFETCH(int, code);
+    QFETCH(QByteArray, lines);
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("default.theme"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(theme) == theme.size());
+    file.close();
+    const Result result = run({"explain", folder.path(), "default", key});
+    QCOMPARE(result.code, code);
+    QCOMPARE(result.errors, QByteArray());
+    QVERIFY2(result.output.contains(lines), result.output.right(400).constData());
 }
 
 QTEST_GUILESS_MAIN(tst_Cli)
