@@ -118,6 +118,14 @@ bool isUprightProgress(const QWidget &widget)
         && static_cast<const QProgressBar &>(widget).orientation() == Qt::Vertical;
 }
 
+// Qt 6 takes the ground of a selected row from the group of the view and the text from that of the row,
+// and a row may be disabled alone.
+QPalette withOneHighlight(QPalette palette, QPalette::ColorGroup group)
+{
+    palette.setBrush(QPalette::Highlight, palette.brush(group, QPalette::Highlight));
+    return palette;
+}
+
 } // namespace
 
 ThemedStyle::ThemedStyle(const QString &name)
@@ -162,11 +170,12 @@ void ThemedStyle::keepName()
 void ThemedStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
-    if (auto *area = qobject_cast<QMdiArea *>(widget))
+    auto *area = qobject_cast<QMdiArea *>(widget);
+    if (area)
         followPalette(*area);
-    else if (qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
-             || qobject_cast<QPushButton *>(widget) || qobject_cast<QProgressBar *>(widget)
-             || treeOfCategories(widget))
+    if (area || qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
+        || qobject_cast<QPushButton *>(widget) || qobject_cast<QProgressBar *>(widget)
+        || treeOfCategories(widget))
         widget->installEventFilter(this);
 }
 
@@ -178,6 +187,11 @@ void ThemedStyle::unpolish(QWidget *widget)
 
 bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
 {
+    // With Qt 6 a palette reaches the widgets after they are polished.
+    auto *area =
+        event->type() == QEvent::PaletteChange ? qobject_cast<QMdiArea *>(watched) : nullptr;
+    if (area)
+        followPalette(*area);
     const bool isForeign = event->type() == QEvent::Paint && watched != m_painted
         && watched->isWidgetType() && IconColors::hasValues();
     return (isForeign && paint(*static_cast<QWidget *>(watched), *event))
@@ -273,6 +287,14 @@ void ThemedStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
 void ThemedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                                 QPainter *painter, const QWidget *widget) const
 {
+    const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (item && !(item->state & State_Enabled) && IconColors::hasValues()
+        && (element == PE_PanelItemViewItem || element == PE_PanelItemViewRow)) {
+        QStyleOptionViewItem disabled = *item;
+        disabled.palette = withOneHighlight(item->palette, QPalette::Disabled);
+        QProxyStyle::drawPrimitive(element, &disabled, painter, widget);
+        return;
+    }
     const char *name = IconColors::hasValues() ? primitiveDrawing(element, *option) : nullptr;
     if (!name) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);

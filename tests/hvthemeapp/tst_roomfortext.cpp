@@ -92,6 +92,18 @@ QRectF hiddenPart(const RecordedText &text)
     return most > antialiasing ? lost : QRectF();
 }
 
+/*! Adds \a text in the place of its shadow, if it has one: styles draw disabled texts twice, a pixel apart. */
+void append(QVector<Text> &texts, const Text &text)
+{
+    const auto isShadow = [&](const Text &other) {
+        const QPointF distance = other.ink.topLeft() - text.ink.topLeft();
+        return other.text == text.text && other.widget == text.widget
+            && distance.manhattanLength() <= 2;
+    };
+    texts.erase(std::remove_if(texts.begin(), texts.end(), isShadow), texts.end());
+    texts.append(text);
+}
+
 QVector<Text> textsOf(const Zoo::Page &page)
 {
     const std::unique_ptr<QWidget> window(page.make());
@@ -110,8 +122,9 @@ QVector<Text> textsOf(const Zoo::Page &page)
         TextRecorder recorder(one->size(), one->devicePixelRatioF());
         recorder.record(one);
         for (const RecordedText &text : recorder.texts())
-            texts.append({text.text, text.widget, text.ink, hiddenPart(text), false,
-                          isInScrolled(text.drawnBy)});
+            append(texts,
+                   {text.text, text.widget, text.ink, hiddenPart(text), false,
+                    isInScrolled(text.drawnBy)});
     }
     markElided(texts);
     return texts;

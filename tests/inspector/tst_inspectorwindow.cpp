@@ -60,6 +60,7 @@ void tst_InspectorWindow::initTestCase()
 
 void tst_InspectorWindow::init()
 {
+    QCursor::setPos(700, 700); // where the test before left it, a window would come to lie below it
     m_program = std::make_unique<QWidget>();
     auto *column = new QVBoxLayout(m_program.get());
     m_button = new QPushButton("Push");

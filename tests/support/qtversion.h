@@ -31,6 +31,10 @@ constexpr bool keysEndBeforeLineBreaks = isQt6;
 /*! Of how many pointers a QString consists. */
 constexpr int pointersOfText = isQt6 ? 3 : 1;
 
+/*! Lines and grounds of texts have smooth edges where a scale puts them between pixels, if they are
+    drawn with the text. */
+constexpr bool smoothsLinesOfTexts = isQt6;
+
 /*! What Qt logs when an invalid regular expression is used; Qt 6 tells the pattern too. */
 inline QString badExpression(const QString &pattern)
 {
