@@ -34,7 +34,8 @@ void CopyLabel::mouseReleaseEvent(QMouseEvent *event)
 
 void CopyLabel::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Space)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
+        || event->key() == Qt::Key_Space)
         copy(event->modifiers());
     else
         QLabel::keyPressEvent(event);

@@ -217,6 +217,7 @@ Problem GalleryWindow::reload()
     if (problem == Problem::None && !showsMade())
         m_memory.keepSource(m_source);
     m_checkTimer.start();
+    m_navigation->refresh();
     Q_EMIT reloaded();
     return problem;
 }

@@ -295,8 +295,7 @@ void MakerPage::checkName()
     const bool isGood = Maker::isThemeName(name)
         && name.compare(QLatin1String("default"), Qt::CaseInsensitive) != 0;
     m_save->setEnabled(isGood);
-    m_status->setText(
-        isGood ? QString()
+    say(isGood ? QString()
                : QStringLiteral("This name cannot name files: take letters, digits, “-”, "
                                 "“_” and single spaces, and not “default”."));
 }

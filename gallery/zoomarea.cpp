@@ -218,7 +218,9 @@ bool ZoomArea::eventFilter(QObject *object, QEvent *event)
             isOfPage(object) || object == m_area->viewport() || object == m_view->viewport();
         if (!isHere || wheel->modifiers() != Qt::ControlModifier)
             break;
-        zoomBy(wheel->angleDelta().y() / wheelStep);
+        m_wheel += wheel->angleDelta().y(); // touchpads send less than a step at a time
+        zoomBy(m_wheel / wheelStep);
+        m_wheel %= wheelStep;
         return true;
     }
     case QEvent::MouseButtonPress:
@@ -236,7 +238,7 @@ bool ZoomArea::eventFilter(QObject *object, QEvent *event)
                 Q_EMIT picked(at);
             return true; // as the inspector's own filter does, if it is there
         }
-        if (mouse->modifiers() != Qt::NoModifier)
+        if (mouse->modifiers() != Qt::NoModifier || event->type() != QEvent::MouseButtonPress)
             break;
         m_clicked = widgetAt(mouse->globalPos());
         m_clickPlace = mouse->globalPos();

@@ -97,6 +97,7 @@ private:
     QPointer<QWidget> m_clicked;
     QPoint m_clickPlace;
     QTimer m_clickTimer;
+    int m_wheel = 0; //!< turned, but less than a step
 };
 
 } // namespace Gallery

@@ -38,7 +38,9 @@ public:
         const auto *key = static_cast<QKeyEvent *>(event);
         if (QKeySequence(key->key() | int(key->modifiers())) != QKeySequence(m_key))
             return false;
-        if (window())
+        if (key->isAutoRepeat())
+            return true; // held down it would open and close
+        if (Inspector::isOpen())
             window()->close(); // which may ask
         else
             Inspector::open();
@@ -53,7 +55,7 @@ private:
 
 void Inspector::open(QWidget *widget)
 {
-    if (!window()) {
+    if (!isOpen()) { // one that was closed may still be there for a while
         window() = new InspectorWindow;
         window()->show();
     } else {
@@ -71,7 +73,7 @@ void Inspector::close()
 
 bool Inspector::isOpen()
 {
-    return window() != nullptr;
+    return window() && window()->isVisible();
 }
 
 void Inspector::installShortcut(const QKeySequence &keys)

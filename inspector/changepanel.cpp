@@ -90,6 +90,7 @@ ChangePanel::ChangePanel(ProgramChanges *changes, QWidget *parent)
     const auto edits = findChildren<QLineEdit *>();
     for (QLineEdit *edit : edits)
         edit->installEventFilter(this);
+    m_integer->installEventFilter(this); // it hands its edit such events past all filters
     setSubject({}, {});
 }
 

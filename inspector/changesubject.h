@@ -17,6 +17,12 @@ struct ColorPartner {
 
     /*! \brief Returns the contrast with \a color; nothing for a ground that lets others shine through. */
     std::optional<double> ratio(const QColor &color) const;
+
+    bool operator==(const ColorPartner &other) const
+    {
+        return color == other.color && isGround == other.isGround
+            && qFuzzyCompare(wanted, other.wanted);
+    }
 };
 
 /*! \brief A value that can be changed, and where. */

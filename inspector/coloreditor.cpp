@@ -79,9 +79,7 @@ ColorEditor::ColorEditor(QWidget *parent)
     const auto take = [this](const QTreeWidgetItem *item) {
         if (!item)
             return;
-        const auto &entry = m_entries.at(
-            m_list->indexOfTopLevelItem(const_cast<QTreeWidgetItem *>(item))); // NOLINT
-        edit(m_choice == Entries::Named ? entry.first : hexText(entry.second));
+        edit(textOf(m_list->indexOfTopLevelItem(const_cast<QTreeWidgetItem *>(item)))); // NOLINT
         m_text->setText(m_value);
     };
     connect(m_list, &QTreeWidget::currentItemChanged, this, take);
@@ -104,8 +102,10 @@ void ColorEditor::setEntries(const QVector<QPair<QString, QColor>> &entries)
 
 void ColorEditor::setPartner(const std::optional<ColorPartner> &partner)
 {
-    m_partner = partner;
     m_list->setColumnHidden(2, !partner);
+    if (partner == m_partner)
+        return;
+    m_partner = partner;
     showEntries();
     showColor();
 }
@@ -183,16 +183,33 @@ void ColorEditor::openDialog()
     m_dialog->raise();
 }
 
+// What choosing the entry of a row edits.
+QString ColorEditor::textOf(int row) const
+{
+    const auto &entry = m_entries.at(row);
+    return m_choice == Entries::Named ? entry.first : hexText(entry.second);
+}
+
+// An entry that is chosen by its colour stays, so that the next key goes on from there.
+void ColorEditor::showChosen()
+{
+    const QSignalBlocker blocker(m_list);
+    QTreeWidgetItem *chosen = m_list->currentItem();
+    if (chosen && textOf(m_list->indexOfTopLevelItem(chosen)) == m_value)
+        return;
+    chosen = nullptr;
+    for (int i = 0; i < m_entries.size(); ++i) {
+        if (m_entries.at(i).first == m_value)
+            chosen = m_list->topLevelItem(i);
+    }
+    m_list->setCurrentItem(chosen);
+}
+
 void ColorEditor::showColor()
 {
     const QColor color = colorOf(m_value);
     m_swatch->setPixmap(colorSwatch(color, swatchSize, devicePixelRatioF()));
-    const QSignalBlocker blocker(m_list);
-    m_list->setCurrentItem(nullptr);
-    for (int i = 0; i < m_entries.size(); ++i) {
-        if (m_entries.at(i).first == m_value)
-            m_list->setCurrentItem(m_list->topLevelItem(i));
-    }
+    showChosen();
     const std::optional<double> ratio =
         m_partner && color.isValid() ? m_partner->ratio(color) : std::nullopt;
     QString told;
@@ -220,9 +237,18 @@ void ColorEditor::showColor()
 void ColorEditor::showEntries()
 {
     const QSignalBlocker blocker(m_list);
-    m_list->clear();
-    for (const auto &entry : qAsConst(m_entries)) {
-        auto *item = new QTreeWidgetItem(m_list, {entry.first, hexText(entry.second)});
+    // Colours change while the user goes through the entries, which then stay where they are.
+    while (m_list->topLevelItemCount() > m_entries.size())
+        delete m_list->topLevelItem(m_list->topLevelItemCount() - 1);
+    while (m_list->topLevelItemCount() < m_entries.size())
+        new QTreeWidgetItem(m_list);
+    for (int i = 0; i < m_entries.size(); ++i) {
+        const auto &entry = m_entries.at(i);
+        QTreeWidgetItem *item = m_list->topLevelItem(i);
+        item->setText(0, entry.first);
+        item->setText(1, hexText(entry.second));
+        item->setText(2, QString());
+        item->setData(2, Qt::AccessibleTextRole, QVariant());
         item->setIcon(0, colorSwatch(entry.second, QSize(16, 16), devicePixelRatioF()));
         const std::optional<double> ratio =
             m_partner ? m_partner->ratio(entry.second) : std::nullopt;

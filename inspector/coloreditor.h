@@ -17,7 +17,7 @@ class QTreeWidget;
 /*!
  * \brief Chooses a colour: the theme's palette entries first, each with its contrast, or any other.
  *
- * A colour is chosen by its entry, by a text (,  or the name of an entry) or in a dialog.
+ * A colour is chosen by its entry, by a text (#RRGGBB, #AARRGGBB or the name of an entry) or in a dialog.
  */
 class ColorEditor : public QWidget
 {
@@ -48,7 +48,9 @@ private:
     void edit(const QString &text);
     void readText(const QString &text);
     void openDialog();
+    QString textOf(int row) const;
     void showColor();
+    void showChosen();
     void showEntries();
 
     QVector<QPair<QString, QColor>> m_entries;

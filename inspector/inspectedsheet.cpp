@@ -17,12 +17,14 @@ Place placeIn(const QString &text, int offset)
     return {QString(), textPosition(text, offset)};
 }
 
+// Returns -1 if no rule has the offset: one may begin in a template and end in the next one.
 int ruleIndexAt(const QVector<StyleRule> &rules, int offset)
 {
     const auto after =
         std::upper_bound(rules.cbegin(), rules.cend(), offset,
                          [](int wanted, const StyleRule &rule) { return wanted < rule.start; });
-    return int(after - rules.cbegin()) - 1;
+    const int index = int(after - rules.cbegin()) - 1;
+    return index >= 0 && offset < rules.at(index).end ? index : -1;
 }
 
 } // namespace
@@ -152,6 +154,8 @@ DeclarationOrigin InspectedSheet::originOf(int offset) const
     if (!section)
         return origin;
     const int number = ruleIndexAt(section->finished, offset);
+    if (number < 0)
+        return origin;
     const StyleRule &finished = section->finished.at(number);
     int index = 0;
     while (finished.declarations.at(index).start != declaration->start)
@@ -169,7 +173,8 @@ Place InspectedSheet::placeOfRule(int offset) const
     if (!section)
         return placeIn(m_text, offset);
     const int number = ruleIndexAt(section->finished, offset);
-    return section->templates.placeAt(section->rules.rules().at(number).start);
+    return number < 0 ? placeIn(m_text, offset)
+                      : section->templates.placeAt(section->rules.rules().at(number).start);
 }
 
 // The same few keys come again and again.
@@ -230,23 +235,21 @@ QVector<ValueChain> InspectedSheet::chains(const DeclarationOrigin &origin) cons
     return chains;
 }
 
+// Of all keys at once, as all of the text is looked through for that.
 QSet<int> InspectedSheet::declarationsOfKey(const QString &key) const
 {
-    QSet<int> offsets;
-    for (const auto &section : m_sections) {
-        for (int i = 0; i < section->finished.size(); ++i) {
-            const auto &written = section->rules.rules().at(i).declarations;
+    for (; m_sectionsRead < m_sections.size(); ++m_sectionsRead) {
+        const Section &section = *m_sections[m_sectionsRead];
+        for (int i = 0; i < section.finished.size(); ++i) {
+            const auto &written = section.rules.rules().at(i).declarations;
             for (int j = 0; j < written.size(); ++j) {
-                const auto tokens = Tokens::find(written.at(j).value, section->templates.prefix());
-                const bool isUser =
-                    std::any_of(tokens.cbegin(), tokens.cend(),
-                                [&](const TemplateToken &token) { return token.key == key; });
-                if (isUser)
-                    offsets << section->finished.at(i).declarations.at(j).start;
+                const auto tokens = Tokens::find(written.at(j).value, section.templates.prefix());
+                for (const TemplateToken &token : tokens)
+                    m_users[token.key] << section.finished.at(i).declarations.at(j).start;
             }
         }
     }
-    return offsets;
+    return m_users.value(key);
 }
 
 QSet<int> InspectedSheet::declarationsOfPalette(const QString &entry) const

@@ -94,6 +94,8 @@ private:
     std::vector<std::unique_ptr<Section>> m_sections;
     mutable std::unique_ptr<ThemeProject> m_project;
     mutable QHash<QString, ValueChain> m_chains;
+    mutable QHash<QString, QSet<int>> m_users; // declarations by key
+    mutable std::size_t m_sectionsRead = 0; // into m_users
     mutable QString m_problem;
     mutable bool m_isProjectRead = false;
 };

@@ -224,13 +224,38 @@ void InspectorPane::pick(QWidget *widget, const WidgetPart &part)
             list->clear(); // what was chosen there was of another widget
         showChange(nullptr);
     }
+    if (m_widget)
+        disconnect(m_widget, &QObject::destroyed, this, &InspectorPane::lookSoon);
     m_widget = widget;
+    connect(m_widget, &QObject::destroyed, this, &InspectorPane::lookSoon);
     m_part = part;
     if (!m_tree.indexOf(widget).isValid())
-        m_tree.refresh();
+        readTree();
     showInTree();
     look();
     Q_EMIT picked(widget);
+}
+
+// What was open stays open.
+void InspectorPane::readTree()
+{
+    QVector<QPointer<QWidget>> open;
+    const std::function<void(const QModelIndex &)> note = [&](const QModelIndex &parent) {
+        for (int i = 0; i < m_tree.rowCount(parent); ++i) {
+            const QModelIndex index = m_tree.index(i, 0, parent);
+            if (!m_widgets->isExpanded(index))
+                continue;
+            open.append(m_tree.widgetAt(index));
+            note(index);
+        }
+    };
+    note({});
+    m_tree.refresh();
+    for (const QPointer<QWidget> &widget : qAsConst(open)) {
+        if (widget)
+            m_widgets->expand(m_tree.indexOf(widget));
+    }
+    showInTree();
 }
 
 void InspectorPane::showInTree()
@@ -244,8 +269,7 @@ void InspectorPane::showInTree()
 
 void InspectorPane::refresh()
 {
-    m_tree.refresh();
-    showInTree();
+    readTree();
     m_sheet = m_source();
     showTheme();
     look();
@@ -261,12 +285,10 @@ void InspectorPane::look()
         showTheme();
     }
     if (!m_widget) {
-        m_picked->showNothing();
-        m_properties->setWidget(nullptr, *m_sheet);
-        refreshChange();
+        showNothing();
         return;
     }
-    QWidget *painted = paintedAs(m_widget);
+    QWidget *painted = m_painted = paintedAs(m_widget);
     m_parts = widgetParts(painted);
     for (const WidgetPart &part : qAsConst(m_parts)) { // as it is now
         if (part.subControl == m_part.subControl && part.label == m_part.label
@@ -286,6 +308,24 @@ void InspectorPane::look()
     refreshChange();
     if (painted->isVisible())
         m_outline.add(painted, m_part.rect);
+}
+
+// Before anything is picked, and when what was picked is gone.
+void InspectorPane::showNothing()
+{
+    m_forced.setWidget(nullptr);
+    m_parts.clear();
+    m_part = {};
+    m_inspection = {};
+    m_textContrast.reset();
+    m_picked->showNothing();
+    for (QTreeWidget *list : {m_values, m_rules, m_boxes})
+        fill(list, [list] { list->clear(); });
+    m_contrast->clear();
+    m_contrast->setStyleSheet({});
+    m_whyNot->setInspection(m_inspection, m_sheet->cascade().attributes());
+    m_properties->setWidget(nullptr, *m_sheet);
+    refreshChange();
 }
 
 void InspectorPane::showContrast()
@@ -374,7 +414,7 @@ void InspectorPane::showChange(const QTreeWidgetItem *item)
 void InspectorPane::showUsers(const QSet<int> &declarations, const QString &what)
 {
     m_users.clear();
-    m_tree.refresh();
+    readTree();
     const QVector<StyleUser> users = usersOf(declarations, m_tree.widgets(), *m_sheet);
     QSet<const QWidget *> widgets;
     for (const StyleUser &user : users) {
@@ -408,7 +448,7 @@ bool InspectorPane::eventFilter(QObject *object, QEvent *event)
     case QEvent::FocusOut:
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-        if (object == m_widget)
+        if (object == m_widget || object == m_painted)
             lookSoon();
         break;
     default:

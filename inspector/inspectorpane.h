@@ -83,8 +83,10 @@ private:
     QWidget *makeTools();
     QWidget *makeDetails();
     QTreeWidget *makeList(const QString &title, const QStringList &columns);
+    void readTree();
     void showInTree();
     void look();
+    void showNothing();
     void showContrast();
     void fill(QTreeWidget *list, const std::function<void()> &show);
     void showTheme();
@@ -105,6 +107,7 @@ private:
     QTimer m_later;
 
     QPointer<QWidget> m_widget;
+    QPointer<QWidget> m_painted; // which the picked one is seen in
     WidgetPart m_part;
     QVector<WidgetPart> m_parts;
     Inspection m_inspection;

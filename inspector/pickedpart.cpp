@@ -42,6 +42,12 @@ PickedPart::PickedPart(QWidget *parent)
 void PickedPart::showNothing()
 {
     m_name->setText(tr("Nothing is picked."));
+    m_parts->clear();
+    for (QCheckBox *box : qAsConst(m_states)) {
+        const QSignalBlocker blocker(box);
+        box->setChecked(false);
+        box->setEnabled(false);
+    }
 }
 
 void PickedPart::show(const Inspection &inspection, const QVector<WidgetPart> &parts,

@@ -48,6 +48,15 @@ bool Picker::eventFilter(QObject *object, QEvent *event)
             return true;
         }
         return false;
+    case QEvent::ContextMenu:
+    case QEvent::Wheel:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TabletPress:
+    case QEvent::TabletMove:
+    case QEvent::TabletRelease:
+        return object->isWidgetType() && filterOther(static_cast<QWidget *>(object), event);
     case QEvent::Show:
         // A tool tip hides itself at any click that its own filter sees first.
         if (object->inherits("QTipLabel")) {
@@ -58,6 +67,17 @@ bool Picker::eventFilter(QObject *object, QEvent *event)
     default:
         return false;
     }
+}
+
+// What else a hand does while it picks. What comes from pens and fingers is ignored, so that Qt makes
+// mouse events of it.
+bool Picker::filterOther(const QWidget *widget, QEvent *event)
+{
+    const bool isOfClick = m_isRelease && event->type() == QEvent::ContextMenu;
+    if (!(m_isPicking || isOfClick) || m_isOwn(widget))
+        return false;
+    event->setAccepted(event->type() == QEvent::ContextMenu || event->type() == QEvent::Wheel);
+    return true;
 }
 
 bool Picker::filterMouse(QEvent *event)

@@ -52,6 +52,7 @@ Q_SIGNALS:
 private:
     Seen seenAt(const QPoint &position) const;
     bool filterMouse(QEvent *event);
+    bool filterOther(const QWidget *widget, QEvent *event);
 
     const std::function<bool(const QWidget *)> m_isOwn;
     Finder m_find;

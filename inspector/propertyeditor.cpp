@@ -39,6 +39,33 @@ void setChoices(QComboBox *box, const QStringList &choices, const QString &text)
     box->setCurrentText(text);
 }
 
+// What a user is writing while the choices are read anew.
+class KeptText
+{
+public:
+    explicit KeptText(QLineEdit *edit)
+        : m_edit(edit)
+        , m_text(edit->text())
+        , m_cursor(edit->cursorPosition())
+        , m_isModified(edit->isModified())
+    {
+    }
+
+    bool isModified() const { return m_isModified; }
+    void putBack() const
+    {
+        m_edit->setText(m_text);
+        m_edit->setCursorPosition(m_cursor);
+        m_edit->setModified(m_isModified);
+    }
+
+private:
+    QLineEdit *const m_edit;
+    const QString m_text;
+    const int m_cursor;
+    const bool m_isModified;
+};
+
 } // namespace
 
 PropertyEditor::PropertyEditor(ProgramChanges *changes, QWidget *parent)
@@ -90,17 +117,26 @@ void PropertyEditor::setWidget(QWidget *widget, const InspectedSheet &sheet)
 {
     const bool isOther = widget != m_widget;
     m_widget = widget;
-    const QString chosen = isOther ? QString() : name();
-    const QString written = m_value->currentText();
-    const bool isBeingWritten = !isOther && m_value->lineEdit()->isModified();
+    const bool hasName = !isOther && !name().isEmpty();
+    const KeptText keptName(m_name->lineEdit());
+    const KeptText keptValue(m_value->lineEdit());
+    const QTreeWidgetItem *current = isOther ? nullptr : m_list->currentItem();
+    const QString row = current ? current->text(0) : QString();
     showProperties(sheet);
     {
-        const QSignalBlocker blocker(m_name);
-        m_name->setCurrentText(chosen.isEmpty() ? firstName() : chosen);
+        const QSignalBlocker nameBlocker(m_name);
+        const QSignalBlocker listBlocker(m_list);
+        if (hasName)
+            keptName.putBack();
+        else
+            m_name->setCurrentText(firstName());
+        const auto rows = m_list->findItems(row, Qt::MatchExactly);
+        if (!row.isEmpty() && !rows.isEmpty())
+            m_list->setCurrentItem(rows.constFirst());
     }
     showValues();
-    if (isBeingWritten)
-        m_value->setCurrentText(written);
+    if (!isOther && keptValue.isModified())
+        keptValue.putBack();
 }
 
 // What the widget has is what people are about to change.

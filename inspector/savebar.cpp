@@ -163,25 +163,31 @@ void SaveBar::saveAs()
     dialog->open();
 }
 
+// The program may close the inspector while it asks: then all of this is gone.
 bool SaveBar::mayClose(Closing closing)
 {
     if (!m_changes->isUnsaved())
         return true;
-    QMessageBox box(QMessageBox::Question, tr("Unsaved changes"),
-                    tr("%1. Save them?").arg(m_state->text()), QMessageBox::NoButton, this);
-    box.setPalette(inspectorPalette());
-    const QAbstractButton *saving = box.addButton(tr("&Save"), QMessageBox::AcceptRole);
+    const QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Question, tr("Unsaved changes"),
+                        tr("%1. Save them?").arg(m_state->text()), QMessageBox::NoButton, this);
+    box->setPalette(inspectorPalette());
+    const QAbstractButton *saving = box->addButton(tr("&Save"), QMessageBox::AcceptRole);
     const QAbstractButton *keeping = nullptr;
     if (closing == Closing::Inspector) {
-        box.setInformativeText(
+        box->setInformativeText(
             tr("Kept changes stay in force, and stand in the list when the inspector is opened "
                "again, until the program ends."));
-        keeping = box.addButton(tr("&Keep for now"), QMessageBox::AcceptRole);
+        keeping = box->addButton(tr("&Keep for now"), QMessageBox::AcceptRole);
     }
-    const QAbstractButton *discarding = box.addButton(tr("&Discard"), QMessageBox::DestructiveRole);
-    box.addButton(QMessageBox::Cancel);
-    box.exec();
-    const QAbstractButton *clicked = box.clickedButton();
+    const QAbstractButton *discarding =
+        box->addButton(tr("&Discard"), QMessageBox::DestructiveRole);
+    box->addButton(QMessageBox::Cancel);
+    box->exec();
+    if (!box)
+        return false;
+    const QAbstractButton *clicked = box->clickedButton();
+    box->deleteLater();
     if (clicked == saving)
         return save();
     if (clicked == discarding)

@@ -10,6 +10,9 @@
 #include <QHash>
 #include <QImage>
 #include <QPixmap>
+#include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QTextEdit>
 
 namespace
 {
@@ -18,6 +21,7 @@ namespace
 constexpr double largePoints = 18;
 constexpr double largeBoldPoints = 14;
 constexpr int largestPicture = 4000;
+constexpr int countedSide = 200; // of more only samples are counted
 
 bool isLargeText(const QFont &font)
 {
@@ -27,7 +31,12 @@ bool isLargeText(const QFont &font)
 
 bool hasText(const QWidget *widget)
 {
-    for (const char *property : {"text", "plainText", "currentText", "title", "placeholderText"}) {
+    // These would put all of a long text together.
+    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
+        return !edit->document()->isEmpty() || !edit->placeholderText().isEmpty();
+    if (const auto *edit = qobject_cast<const QTextEdit *>(widget))
+        return !edit->document()->isEmpty() || !edit->placeholderText().isEmpty();
+    for (const char *property : {"text", "currentText", "title", "placeholderText"}) {
         if (!widget->property(property).toString().isEmpty())
             return true;
     }
@@ -42,18 +51,27 @@ QColor textColor(const Inspection &inspection)
     return ofRule.isValid() ? ofRule : widget->palette().color(widget->foregroundRole());
 }
 
-QColor commonest(const QImage &picture)
+QColor commonest(const QImage &whole)
 {
+    if (whole.isNull())
+        return {};
+    const QImage picture =
+        whole.scaled(qMin(whole.width(), countedSide),
+                     qMin(whole.height(), countedSide)); // takes pixels as they are
     QHash<QRgb, int> counts;
     QRgb best = 0;
+    int most = 0;
     for (int y = 0; y < picture.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(picture.constScanLine(y)); // NOLINT
         for (int x = 0; x < picture.width(); ++x) {
-            if (++counts[line[x]] > counts.value(best))
-                best = line[x];
+            const int count = ++counts[line[x]];
+            if (count <= most)
+                continue;
+            most = count;
+            best = line[x];
         }
     }
-    return counts.isEmpty() ? QColor() : QColor(best);
+    return QColor(best);
 }
 
 } // namespace

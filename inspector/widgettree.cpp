@@ -100,7 +100,9 @@ QWidget *WidgetTree::widgetAt(const QModelIndex &index) const
 QModelIndex WidgetTree::indexOf(const QWidget *widget) const
 {
     const QStandardItem *item = m_itemOf.value(widget);
-    return item ? mapFromSource(item->index()) : QModelIndex();
+    // A widget that is gone may have left its address to another one.
+    const bool isIt = item && m_widgets.value(item->data(numberRole).toInt()) == widget;
+    return isIt ? mapFromSource(item->index()) : QModelIndex();
 }
 
 QList<QWidget *> WidgetTree::widgets() const

@@ -366,6 +366,7 @@ void tst_MakerPage::names()
     part<QLineEdit>("name")->setText(name);
     QCOMPARE(part<QPushButton>("save")->isEnabled(), isGood);
     QCOMPARE(part<QLabel>("status")->text().isEmpty(), isGood);
+    QCOMPARE(part<QLabel>("status")->isHidden(), isGood);
 }
 
 // What has no text of its own tells people who do not see it what it is.

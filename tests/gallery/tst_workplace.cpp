@@ -41,8 +41,12 @@ private Q_SLOTS:
     void search_data();
     void search();
     void escapeEndsTheSearch();
+    void searchFollowsTheTheme();
     void zoomKeys_data();
     void zoomKeys();
+    void zoomsByWheel_data();
+    void zoomsByWheel();
+    void aClickIsOne();
     void zoomedPageIsAlive();
     void contextMenu_data();
     void contextMenu();
@@ -532,6 +536,26 @@ void tst_Workplace::escapeEndsTheSearch()
     QVERIFY(part<QListWidget>("pages")->isVisible());
 }
 
+// A key that the theme gets while it is searched for is found.
+void tst_Workplace::searchFollowsTheTheme()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.themesFolder = copyOfThemes();
+    open(options);
+    part<QLineEdit>("search")->setText(QStringLiteral("SomethingNew"));
+    auto *results = part<QListWidget>("results");
+    QCOMPARE(results->item(0)->text(), QStringLiteral("Nothing has this in its name."));
+    QFile theme(options.source.themesFolder + QStringLiteral("/dark.theme"));
+    QVERIFY(theme.open(QIODevice::ReadWrite));
+    const QByteArray text =
+        theme.readAll().replace("[Colors]\n", "[Colors]\nSomethingNew=#123456\n");
+    QVERIFY(theme.seek(0) && theme.write(text) == text.size());
+    theme.close();
+    QCOMPARE(int(m_window->reload()), int(Problem::None));
+    QVERIFY2(results->item(0)->text().startsWith(QLatin1String("SomethingNew\n")),
+             qPrintable(results->item(0)->text()));
+}
+
 void tst_Workplace::zoomKeys_data()
 {
     QTest::addColumn<QVector<int>>("keys");
@@ -560,6 +584,47 @@ void tst_Workplace::zoomKeys()
     const int zoomed = area->mapToScreen(specimen, QPoint(specimen->width(), 0)).x()
         - area->mapToScreen(specimen, QPoint()).x();
     QVERIFY(qAbs(zoomed - specimen->width() * zoom / 100.0) <= 1);
+}
+
+void tst_Workplace::zoomsByWheel_data()
+{
+    QTest::addColumn<int>("turned"); // at a time
+    QTest::addColumn<int>("times");
+    QTest::addColumn<int>("zoom");
+
+    QTest::newRow("mouse") << 120 << 2 << 150;
+    QTest::newRow("touchpad") << 30 << 8 << 150;
+    QTest::newRow("touchpad-back") << -40 << 3 << 80;
+    QTest::newRow("less-than-a-step") << 30 << 3 << 100;
+}
+
+void tst_Workplace::zoomsByWheel()
+{
+    QFETCH(int, turned);
+    QFETCH(int, times);
+    QFETCH(int, zoom);
+    open(QStringLiteral("buttons"));
+    QWidget *page = m_window->page();
+    for (int i = 0; i < times; ++i) {
+        QWheelEvent wheel(QPointF(3, 3), page->mapToGlobal(QPoint(3, 3)), {}, {0, turned}, {},
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(m_window->page(), &wheel);
+    }
+    QCOMPARE(m_window->findChild<ZoomArea *>()->zoom(), zoom);
+}
+
+void tst_Workplace::aClickIsOne()
+{
+    share(QStringLiteral("buttons"));
+    QWidget *specimen = findSpecimen(m_window->page(), QStringLiteral("QPushButton"));
+    auto *area = m_window->findChild<ZoomArea *>();
+    area->reveal(specimen);
+    QSignalSpy clicked(area, &ZoomArea::clicked);
+    QTest::mousePress(specimen, Qt::LeftButton);
+    QTRY_COMPARE(clicked.size(), 1);
+    QTest::mouseRelease(specimen, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    QCOMPARE(clicked.size(), 1);
 }
 
 void tst_Workplace::zoomedPageIsAlive()

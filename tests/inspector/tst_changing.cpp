@@ -27,6 +27,8 @@ private Q_SLOTS:
     void color_data();
     void color();
     void colorByEntry();
+    void entriesByKeys_data();
+    void entriesByKeys();
     void contrast_data();
     void contrast();
     void targets();
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void property();
     void propertyOfTheClass();
     void propertyBoxesStay();
+    void writtenPropertyStays();
     void save_data();
     void save();
     void changedMeanwhile_data();
@@ -62,6 +65,7 @@ private Q_SLOTS:
     void saveAsCannotGoOn();
     void closing_data();
     void closing();
+    void closedWhileAsked();
     void lastWindow();
     void brokenMeanwhile();
     void anotherThemeMeanwhile();
@@ -290,6 +294,38 @@ void tst_Changing::colorByEntry()
     QCOMPARE(ground(), m_theme->theme()->readNamedColor("Brand_8").first);
 }
 
+void tst_Changing::entriesByKeys_data()
+{
+    QTest::addColumn<int>("target");
+
+    QTest::newRow("key") << 0;
+    QTest::newRow("palette-entry") << 1;
+}
+
+void tst_Changing::entriesByKeys()
+{
+    QFETCH(int, target);
+    QVERIFY(choose("Values", "background-color"));
+    press(m_window->findChildren<QRadioButton *>().at(target));
+    auto *entries = part<QTreeWidget>("Palette entries");
+    QTreeWidgetItem *first = entries->topLevelItem(entries->topLevelItemCount() / 2);
+    entries->scrollToItem(first, QAbstractItemView::PositionAtTop);
+    QTest::mouseClick(entries->viewport(), Qt::LeftButton, {},
+                      entries->visualItemRect(first).center());
+    const int row = entries->indexOfTopLevelItem(first);
+    const int scrolled = entries->verticalScrollBar()->value();
+    QVERIFY(scrolled > 0);
+    for (int i = 1; i < 4; ++i) {
+        settle();
+        QCOMPARE(entries->verticalScrollBar()->value(), scrolled);
+        QTest::keyClick(entries, Qt::Key_Down);
+        const QTreeWidgetItem *item = entries->topLevelItem(row + i);
+        QCOMPARE(entries->currentItem(), item);
+        QCOMPARE(ProgramChanges::ofProgram()->values().constFirst().value,
+                 item->text(target == 0 ? 0 : 1));
+    }
+}
+
 void tst_Changing::contrast_data()
 {
     QTest::addColumn<QString>("property");
@@ -358,6 +394,12 @@ void tst_Changing::integer()
     QCOMPARE(box->value(), before + 2);
     QCOMPARE(QFontInfo(m_button->font()).pixelSize(), before + 2);
     QCOMPARE(ProgramChanges::ofProgram()->values().constFirst().value, QString::number(before + 2));
+    box->selectAll();
+    QTest::keyClicks(box, "30");
+    QCOMPARE(QFontInfo(m_button->font()).pixelSize(), 30);
+    QTest::keyClick(box, Qt::Key_Z, Qt::ControlModifier); // the change, not a digit
+    QVERIFY(!ProgramChanges::ofProgram()->isUnsaved());
+    QCOMPARE(QFontInfo(m_button->font()).pixelSize(), before);
 }
 
 void tst_Changing::image_data()
@@ -621,6 +663,24 @@ void tst_Changing::propertyBoxesStay()
     for (int i = 0; i < 3; ++i)
         settle();
     QCOMPARE(int(m_window->findChildren<QCompleter *>().size()), before);
+}
+
+void tst_Changing::writtenPropertyStays()
+{
+    auto *list = part<QTreeWidget>("Properties");
+    auto *tabs = m_window->findChild<QTabWidget *>();
+    tabs->setCurrentIndex(tabs->indexOf(list->parentWidget()));
+    list->setCurrentItem(list->findItems("style", Qt::MatchExactly).value(0));
+    auto *value = part<QComboBox>("Value of the property")->lineEdit();
+    type(value, "half written");
+    value->setCursorPosition(4);
+    for (int i = 0; i < 3; ++i) {
+        settle();
+        QCOMPARE(value->text(), QString("half written"));
+        QCOMPARE(value->cursorPosition(), 4);
+        QVERIFY(list->currentItem());
+        QCOMPARE(list->currentItem()->text(0), QString("style"));
+    }
 }
 
 void tst_Changing::save_data()
@@ -965,6 +1025,23 @@ void tst_Changing::closing()
         m_window->setAttribute(Qt::WA_DeleteOnClose, false);
         QCOMPARE(part<QTreeWidget>("Changes")->topLevelItemCount(), 1);
     }
+}
+
+// The program closes the inspector without a question, even while it asks one.
+void tst_Changing::closedWhileAsked()
+{
+    QVERIFY(choose("Values", "background-color"));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    bool isAsked = false;
+    QTimer::singleShot(0, this, [&] {
+        isAsked = dialog<QMessageBox>() != nullptr;
+        m_window.reset();
+    });
+    InspectorWindow *window = m_window.get();
+    window->close();
+    QVERIFY(isAsked && !m_window);
+    QVERIFY(ProgramChanges::ofProgram()->isUnsaved());
+    QCOMPARE(ground(), QColor("#ff00aa"));
 }
 
 // The inspector stays for its question; the program then ends with it.

@@ -68,6 +68,7 @@ private Q_SLOTS:
     void plainValues();
     void ownStyleSheet();
     void replacedStyleSheet();
+    void ruleOfTwoTemplates();
     void containers();
     void parts();
     void whyNot_data();
@@ -179,6 +180,30 @@ void tst_Inspection::replacedStyleSheet()
     InspectedSheet both(qApp->styleSheet() + own, InspectedTheme::inForce());
     const Inspection added = Inspection::of(window.button, itself(window.button), both);
     QVERIFY(added.value("background-color")->origin.isTemplate());
+}
+
+// Templates are put together as they are, whatever one ends with.
+void tst_Inspection::ruleOfTwoTemplates()
+{
+    QTemporaryDir folder;
+    InspectedTheme theme = InspectedTheme::inForce();
+    theme.templates.clear();
+    QString text;
+    for (const char *part : {"QLabel,\n", "QFrame { color: #112233 }\n"}) {
+        const QString path = folder.filePath(QString::number(theme.templates.size()) + ".qss");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(part) > 0);
+        theme.templates.append({path, "global.theme"});
+        text += QLatin1String(part);
+    }
+    const InspectedSheet sheet(text, theme);
+    const StyleRule &rule = sheet.rules().rules().constFirst();
+    QCOMPARE(rule.start, 0);
+    QCOMPARE(sheet.placeOfRule(rule.start).position.line, 1);
+    QCOMPARE(sheet.originOf(rule.declarations.constFirst().start).value, QString("#112233"));
+    Window window;
+    QCOMPARE(Inspection::of(window.label, itself(window.label), sheet).value("color")->value,
+             QString("#112233"));
 }
 
 void tst_Inspection::containers()

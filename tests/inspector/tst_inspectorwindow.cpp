@@ -23,6 +23,8 @@ private Q_SLOTS:
     void picksByClick();
     void picksDirectly();
     void escapeEndsPicking();
+    void handsOffWhilePicking_data();
+    void handsOffWhilePicking();
     void picksWhatIsFound();
     void frameFollows();
     void picksInMenus();
@@ -37,6 +39,9 @@ private Q_SLOTS:
     void forcedStatesReachNobody();
     void showsUsers();
     void survivesDeath();
+    void forgetsTheDead();
+    void sameAddress();
+    void treeStaysOpen();
     void hasOneLook();
     void accessibleNames();
 
@@ -137,6 +142,52 @@ void tst_InspectorWindow::escapeEndsPicking()
     QVERIFY(!pick->isChecked());
     QTest::mouseClick(m_button, Qt::LeftButton);
     QVERIFY(!m_window->pane()->pickedWidget());
+}
+
+void tst_InspectorWindow::handsOffWhilePicking_data()
+{
+    QTest::addColumn<int>("type");
+
+    QTest::newRow("wheel") << int(QEvent::Wheel);
+    QTest::newRow("menu") << int(QEvent::ContextMenu);
+}
+
+// A wheel would change values, and a menu would open.
+void tst_InspectorWindow::handsOffWhilePicking()
+{
+    QFETCH(int, type);
+    QSpinBox spin(m_program.get());
+    spin.setContextMenuPolicy(Qt::CustomContextMenu);
+    spin.setValue(5);
+    spin.show();
+    QSignalSpy menus(&spin, &QWidget::customContextMenuRequested);
+    const auto use = [&] {
+        if (type == QEvent::Wheel) {
+            QWheelEvent wheel(QPointF(3, 3), spin.mapToGlobal(QPointF(3, 3).toPoint()), {},
+                              {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&spin, &wheel);
+        } else {
+            QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(3, 3),
+                                   spin.mapToGlobal(QPoint(3, 3)));
+            QCoreApplication::sendEvent(&spin, &menu);
+        }
+    };
+    auto *pick = m_window->findChild<QToolButton *>();
+    pick->click();
+    use();
+    QCOMPARE(spin.value(), 5);
+    QCOMPARE(menus.size(), 0);
+    if (type == QEvent::ContextMenu) { // it comes between press and release
+        QTest::mousePress(&spin, Qt::RightButton);
+        QVERIFY(spin.isAncestorOf(m_window->pane()->pickedWidget()));
+        use();
+        QCOMPARE(menus.size(), 0);
+        QTest::mouseRelease(&spin, Qt::RightButton);
+    } else {
+        pick->click();
+    }
+    use();
+    QCOMPARE(spin.value() - 5 + menus.size(), 1);
 }
 
 // The program knows better than Qt what is seen where.
@@ -410,6 +461,50 @@ void tst_InspectorWindow::survivesDeath()
     m_program.reset();
     QCoreApplication::processEvents();
     m_window->pane()->refresh();
+}
+
+void tst_InspectorWindow::forgetsTheDead()
+{
+    m_window->pane()->pick(m_button);
+    stateBox("pressed")->click();
+    QVERIFY(list("Values")->topLevelItemCount() > 0);
+    delete m_button;
+    QTRY_COMPARE(list("Values")->topLevelItemCount(), 0); // by itself
+    QCOMPARE(list("Rules")->topLevelItemCount(), 0);
+    QVERIFY(!stateBox("pressed")->isChecked() && !stateBox("pressed")->isEnabled());
+    const auto labels = m_window->findChildren<QLabel *>();
+    for (const QLabel *label : labels)
+        QVERIFY(label->accessibleName() != "Contrast of the text" || label->text().isEmpty());
+    m_window->pane()->pick(m_label);
+    QVERIFY(stateBox("hover")->isEnabled() && list("Values")->topLevelItemCount() > 0);
+}
+
+void tst_InspectorWindow::sameAddress()
+{
+    WidgetTree tree([](const QWidget *) { return false; });
+    std::aligned_storage_t<sizeof(QLabel), alignof(QLabel)> place;
+    auto *label = new (&place) QLabel("First", m_program.get());
+    tree.refresh();
+    QCOMPARE(tree.widgetAt(tree.indexOf(label)), label);
+    label->~QLabel();
+    label = new (&place) QLabel("Second", m_program.get());
+    QVERIFY(!tree.indexOf(label).isValid());
+    tree.refresh();
+    QCOMPARE(tree.widgetAt(tree.indexOf(label)), label);
+    label->~QLabel();
+}
+
+void tst_InspectorWindow::treeStaysOpen()
+{
+    auto *view = m_window->findChild<QTreeView *>();
+    auto *tree = static_cast<WidgetTree *>(view->model());
+    m_window->pane()->refresh();
+    view->collapseAll();
+    view->expand(tree->indexOf(m_program.get()));
+    m_window->pane()->refresh();
+    QVERIFY(view->isExpanded(tree->indexOf(m_program.get())));
+    m_window->pane()->showUsers({}, "nothing");
+    QVERIFY(view->isExpanded(tree->indexOf(m_program.get())));
 }
 
 void tst_InspectorWindow::hasOneLook()
