@@ -46,6 +46,20 @@ QStyle *plainStyle()
     return hidden ? hidden : style;
 }
 
+// Only what Qt makes by a name bears that name.
+bool isMadeByName(const QStyle &style)
+{
+    return QStyleFactory::keys().contains(style.objectName(), Qt::CaseInsensitive);
+}
+
+// The style that \a style changes, through however many.
+QStyle *innermost(QStyle *style)
+{
+    while (const auto *proxy = qobject_cast<QProxyStyle *>(style))
+        style = proxy->baseStyle();
+    return style;
+}
+
 // Grounds that areas of inner windows got from a palette, so that none of them is the program's choice.
 QSet<QRgb> &formerGrounds()
 {
@@ -75,6 +89,14 @@ bool showsIconsAbove(const QWidget *widget)
 {
     const auto *list = qobject_cast<const QListView *>(widget);
     return list && list->viewMode() == QListView::IconMode;
+}
+
+// The button for what a tool bar has no room for asks the style of the moment when it is made, and again
+// when the direction changes.
+void renewIcon(QWidget &moreButton)
+{
+    QEvent event(QEvent::LayoutDirectionChange);
+    QCoreApplication::sendEvent(&moreButton, &event);
 }
 
 // Null for what is none, or while no theme is in force.
@@ -134,18 +156,27 @@ ThemedStyle::ThemedStyle(const QString &name)
     setObjectName(name); // by which programs and Qt tell styles apart
 }
 
+ThemedStyle::ThemedStyle(QProxyStyle *ofProgram, QStyle *changed)
+    : QProxyStyle(ofProgram)
+    , m_changed(changed)
+{
+    setObjectName(ofProgram->objectName());
+}
+
 void ThemedStyle::install()
 {
     formerGrounds().insert(QApplication::palette().color(QPalette::Dark).rgba());
     static QPointer<ThemedStyle> installed;
     if (installed)
         return;
-    // Only what Qt makes by a name bears that name.
     const QPointer<QStyle> former = plainStyle();
-    const QString name = former->objectName();
-    if (!QStyleFactory::keys().contains(name, Qt::CaseInsensitive))
+    auto *ofProgram = qobject_cast<QProxyStyle *>(former);
+    if (isMadeByName(*former))
+        installed = new ThemedStyle(former->objectName());
+    else if (QStyle *changed = innermost(former); ofProgram && isMadeByName(*changed))
+        installed = new ThemedStyle(ofProgram, changed);
+    else
         return;
-    installed = new ThemedStyle(name);
     // A program may choose another of Qt's styles at any time, an option of its command line as well.
     connect(installed, &QObject::destroyed, qApp, [] {
         if (!QCoreApplication::closingDown())
@@ -173,6 +204,8 @@ void ThemedStyle::polish(QWidget *widget)
     auto *area = qobject_cast<QMdiArea *>(widget);
     if (area)
         followPalette(*area);
+    if (widget->objectName() == QLatin1String("qt_toolbar_ext_button"))
+        renewIcon(*widget);
     if (area || qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
         || qobject_cast<QPushButton *>(widget) || qobject_cast<QProgressBar *>(widget)
         || treeOfCategories(widget))
@@ -242,12 +275,23 @@ void ThemedStyle::paintItself(QWidget &widget, QEvent &event)
     m_painted = outer;
 }
 
+// Whether the program's style has another picture than the one that it changes.
+bool ThemedStyle::hasOwn(StandardPixmap pixmap, const QStyleOption *option,
+                         const QWidget *widget) const
+{
+    const QSize size(16, 16);
+    return m_changed
+        && QProxyStyle::standardIcon(pixmap, option, widget).pixmap(size).toImage()
+        != m_changed->standardIcon(pixmap, option, widget).pixmap(size).toImage();
+}
+
 QIcon ThemedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
                                 const QWidget *widget) const
 {
     const char *drawing = IconColors::hasValues() ? standardDrawing(icon, option, widget) : nullptr;
-    return drawing ? themedIcon(QLatin1String(drawing))
-                   : QProxyStyle::standardIcon(icon, option, widget);
+    return drawing && !hasOwn(icon, option, widget)
+        ? themedIcon(QLatin1String(drawing))
+        : QProxyStyle::standardIcon(icon, option, widget);
 }
 
 QPixmap ThemedStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
@@ -256,7 +300,7 @@ QPixmap ThemedStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *o
     const QPixmap own = QProxyStyle::standardPixmap(pixmap, option, widget);
     const char *drawing =
         IconColors::hasValues() ? standardDrawing(pixmap, option, widget) : nullptr;
-    if (!drawing)
+    if (!drawing || hasOwn(pixmap, option, widget))
         return own;
     return themedIcon(QLatin1String(drawing))
         .pixmap(own.isNull() ? QSize(16, 16) : own.size() / own.devicePixelRatio());

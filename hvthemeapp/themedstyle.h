@@ -4,6 +4,7 @@
 #ifndef HVTHEMEAPP_THEMEDSTYLE_H
 #define HVTHEMEAPP_THEMEDSTYLE_H
 
+#include <QPointer>
 #include <QProxyStyle>
 
 namespace HV
@@ -25,8 +26,9 @@ public:
     /*!
      * \brief Makes a themed style of the application's, and of each that replaces it later.
      *
-     * A style that the program made itself, rather than by its name, is left alone: its icons are the
-     * program's. Cheap if it is done already. Needs a QApplication; call it on the GUI thread.
+     * One of Qt's that the program changes through a QProxyStyle works behind it, and keeps the icons that it has
+     * of its own. A style that is all the program's is left alone. Cheap if it is done already. Needs a QApplication;
+     * call it on the GUI thread.
      */
     static void install();
 
@@ -66,11 +68,15 @@ public:
 
 private:
     explicit ThemedStyle(const QString &name);
+    ThemedStyle(QProxyStyle *ofProgram, QStyle *changed);
+    bool hasOwn(StandardPixmap pixmap, const QStyleOption *option, const QWidget *widget) const;
 
     bool paint(QWidget &widget, QEvent &event);
     void paintItself(QWidget &widget, QEvent &event);
 
     const QObject *m_painted = nullptr; // by itself, as was asked for
+    // Qt's, behind what the program makes of it; null if it makes nothing
+    QPointer<QStyle> m_changed;
 };
 
 } // namespace HV

@@ -439,6 +439,7 @@ void tst_FineLines::moreInToolBar_data()
     for (const char *look : looks) {
         QTest::addRow("%s-main-window", look) << look << true << false;
         QTest::addRow("%s-elsewhere", look) << look << false << false;
+        QTest::addRow("%s-style-of-the-program", look) << look << true << true;
     }
 }
 
@@ -456,8 +457,6 @@ void tst_FineLines::moreInToolBar()
         if (ownStyle)
             QApplication::setStyle(former);
     });
-    HV::ApplicationTheme theme;
-    QVERIFY(theme.setName(look));
     QMainWindow window;
     auto *bar = new QToolBar;
     for (int i = 0; i < 12; ++i)
@@ -469,6 +468,8 @@ void tst_FineLines::moreInToolBar()
         (new QVBoxLayout(page))->addWidget(bar);
         window.setCentralWidget(page);
     }
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName(look));
     window.resize(200, 100);
     const QImage picture = pictureOf(window);
     const auto *more = bar->findChild<QToolButton *>("qt_toolbar_ext_button");

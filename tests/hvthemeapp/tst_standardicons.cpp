@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCommonStyle>
 #include <QDialogButtonBox>
 #include <QDockWidget>
 #include <QFileDialog>
@@ -69,7 +70,9 @@ private Q_SLOTS:
     void innerWindowsArea();
     void styleKeepsItsName();
     void anotherStyleByName();
-    void ownStyleIsLeftAlone(); // the last one
+    void changedStyle();
+    void styleOfTheProgramAlone();
+    void ownIconsOfAStyle(); // the last one
 
 private:
     ApplicationTheme m_theme;
@@ -234,7 +237,7 @@ void tst_StandardIcons::anotherStyleByName()
     QVERIFY(m_theme.setName("light"));
 }
 
-void tst_StandardIcons::ownStyleIsLeftAlone()
+void tst_StandardIcons::ownIconsOfAStyle()
 {
     QVERIFY(m_theme.setName("dark"));
     QApplication::setStyle(new OwnStyle("fusion"));
@@ -247,6 +250,51 @@ void tst_StandardIcons::ownStyleIsLeftAlone()
                  .toImage()
                  .pixelColor(9, 9),
              QColor(Qt::magenta));
+}
+
+// A program that changes one of Qt's styles a little has all that it changes, and the rest of the look.
+void tst_StandardIcons::changedStyle()
+{
+    class Wide : public QProxyStyle
+    {
+    public:
+        using QProxyStyle::QProxyStyle;
+
+        int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                        const QWidget *widget) const override
+        {
+            return metric == PM_SliderLength ? 123
+                                             : QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    };
+    QVERIFY(m_theme.setName("dark"));
+    auto *own = new Wide(QStyleFactory::create("fusion"));
+    const QPointer<QStyle> watched(own);
+    QApplication::setStyle(own);
+    QTRY_VERIFY(picture(QApplication::style()->standardIcon(QStyle::SP_DirIcon))
+                == picture(themedIcon("folder")));
+    QCOMPARE(QApplication::style()->pixelMetric(QStyle::PM_SliderLength), 123);
+    QVERIFY(m_theme.setName("light"));
+    QVERIFY(watched);
+    QApplication::setStyle("fusion"); // and is not left behind
+    QVERIFY(!watched);
+}
+
+// There is nothing of Qt's behind it.
+void tst_StandardIcons::styleOfTheProgramAlone()
+{
+    class Own : public QCommonStyle
+    {
+    };
+    QVERIFY(m_theme.setName("dark"));
+    auto *own = new Own;
+    QApplication::setStyle(own);
+    QCoreApplication::processEvents();
+    QVERIFY(m_theme.setName("light"));
+    QVERIFY(picture(QApplication::style()->standardIcon(QStyle::SP_DirIcon))
+            != picture(themedIcon("folder")));
+    QApplication::setStyle("fusion");
+    QCoreApplication::processEvents();
 }
 
 int main(int argc, char **argv)
