@@ -92,13 +92,13 @@ QRectF hiddenPart(const RecordedText &text)
     return most > antialiasing ? lost : QRectF();
 }
 
-/*! Adds \a text in the place of its shadow, if it has one: styles draw disabled texts twice, a pixel apart. */
+/*! Adds \a text in the place of its shadow, if it has one a pixel to the right and below, as disabled texts have. */
 void append(QVector<Text> &texts, const Text &text)
 {
     const auto isShadow = [&](const Text &other) {
-        const QPointF distance = other.ink.topLeft() - text.ink.topLeft();
+        const QPointF distance = other.ink.topLeft() - text.ink.topLeft() - QPointF(1, 1);
         return other.text == text.text && other.widget == text.widget
-            && distance.manhattanLength() <= 2;
+            && distance.manhattanLength() < 0.1;
     };
     texts.erase(std::remove_if(texts.begin(), texts.end(), isShadow), texts.end());
     texts.append(text);
