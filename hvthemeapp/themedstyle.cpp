@@ -6,6 +6,7 @@
 #include "controldrawing.h"
 #include "iconcolors.h"
 #include "standarddrawings.h"
+#include "stylesbehind.h"
 #include "themedicon.h"
 #include "titlebar.h"
 
@@ -35,30 +36,6 @@ namespace HV
 
 namespace
 {
-
-// Under an application's style sheet Qt hides the style behind one of its own, as its child.
-QStyle *plainStyle()
-{
-    QStyle *style = QApplication::style();
-    QStyle *hidden = qApp->styleSheet().isEmpty()
-        ? nullptr
-        : style->findChild<QStyle *>(QString(), Qt::FindDirectChildrenOnly);
-    return hidden ? hidden : style;
-}
-
-// Only what Qt makes by a name bears that name.
-bool isMadeByName(const QStyle &style)
-{
-    return QStyleFactory::keys().contains(style.objectName(), Qt::CaseInsensitive);
-}
-
-// The style that \a style changes, through however many.
-QStyle *innermost(QStyle *style)
-{
-    while (const auto *proxy = qobject_cast<QProxyStyle *>(style))
-        style = proxy->baseStyle();
-    return style;
-}
 
 // Grounds that areas of inner windows got from a palette, so that none of them is the program's choice.
 QSet<QRgb> &formerGrounds()
