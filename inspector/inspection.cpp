@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMetaEnum>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QVariant>
 
@@ -238,6 +239,30 @@ QMargins marginsOf(const Inspection &inspection, const QString &pattern)
     return {length("left"), length("top"), length("right"), length("bottom")};
 }
 
+// A side without a style has no width, whatever rules say of that; where no rule tells a style it is native.
+bool hasBorder(const Inspection &inspection, const char *side)
+{
+    const QString property = QStringLiteral("border-%1-").arg(QLatin1String(side));
+    const InspectedValue *image = inspection.value(QStringLiteral("border-image"));
+    if (image && image->isOfRule())
+        return true; // which is cut at the widths
+    const InspectedValue *style = inspection.value(property + QLatin1String("style"));
+    static const QRegularExpression drawn(
+        QStringLiteral("\\b(dashed|dot-dash|dot-dot-dash|dotted|double|groove|inset|outset|ridge|"
+                       "solid|native)\\b"),
+        QRegularExpression::CaseInsensitiveOption);
+    return !style || !style->isOfRule() || style->value.contains(drawn);
+}
+
+QMargins bordersOf(const Inspection &inspection)
+{
+    const auto width = [&](const char *side) {
+        const QString property = QStringLiteral("border-%1-width").arg(QLatin1String(side));
+        return hasBorder(inspection, side) ? lengthOf(inspection, property) : 0;
+    };
+    return {width("left"), width("top"), width("right"), width("bottom")};
+}
+
 } // namespace
 
 QString nameOf(const QObject *object)
@@ -263,7 +288,7 @@ Inspection Inspection::of(QWidget *widget, const WidgetPart &part, const Inspect
     maker.makeRules();
     maker.makeValues();
     made.box.padding = marginsOf(made, QStringLiteral("padding-%1"));
-    made.box.border = marginsOf(made, QStringLiteral("border-%1-width"));
+    made.box.border = bordersOf(made);
     made.box.margin = marginsOf(made, QStringLiteral("margin-%1"));
     made.box.geometry = made.styledWidget->geometry();
     const QRect outer = part.rect.isEmpty() ? made.styledWidget->rect() : part.rect;

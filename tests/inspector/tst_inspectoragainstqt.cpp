@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "ownpicture.h"
 #include "quietplatform.h"
 #include "widgetzoo.h"
 
@@ -18,8 +19,8 @@
 #include <QtWidgets>
 
 /*
- * What the inspector says is held against what Qt paints. Every colour in the style sheet becomes a
- * marker, one of its own for each declaration; what a widget paints by itself, without its children,
+ * What the inspector says is held against what Qt paints. Every colour and every image in the style sheet
+ * becomes a marker, one of its own for each declaration; what a widget paints by itself, without its children,
  * then tells which declarations Qt had in force for it.
  */
 class tst_InspectorAgainstQt : public QObject
@@ -39,6 +40,8 @@ private:
 
     std::unique_ptr<QuietPlatform> m_quiet;
     HV::ApplicationTheme m_theme;
+    QTemporaryDir m_folder; // of marker images
+    int m_images = 0;
     QString m_marked; // the style sheet with markers
     QHash<QRgb, int> m_offsets; // of declarations in it, by marker
     QString m_row; // what is looked at
@@ -57,14 +60,17 @@ QColor marker(int number)
     return QColor(int(bits & 0xffU), int((bits >> 8U) & 0xffU), int((bits >> 16U) & 0xffU));
 }
 
-QImage ownPicture(QWidget *widget)
+// Clear around a square of the colour, so that what is below is seen too and scaling leaves some of it.
+bool writeMarkerImage(const QString &path, const QColor &color)
 {
-    QImage picture(widget->size(), QImage::Format_RGB32);
-    picture.fill(Qt::black);
-    // What is no window would be painted as if it were one.
-    const auto flags = widget->isWindow() ? QWidget::DrawWindowBackground : QWidget::RenderFlag(0);
-    widget->render(&picture, QPoint(), QRegion(), flags);
-    return picture;
+    constexpr int side = 32;
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int y = side / 4; y < side * 3 / 4; ++y) {
+        for (int x = side / 4; x < side * 3 / 4; ++x)
+            image.setPixelColor(x, y, color);
+    }
+    return image.save(path);
 }
 
 QSet<QRgb> colorsOf(const QImage &picture)
@@ -89,6 +95,10 @@ bool isKnown(const QString &disagreement)
         "|(Spin|Time)\\w*::?(up|down)-button:(hover|pressed) paints|^QComboBox\\S*:on paints"
         // A specimen that draws the list of another combo box.
         "|^QComboBox QAbstractItemView\\S* paints unnamed QWidget:"
+        // Icons that the rule of a dock widget gives to the buttons on it, which have rules of their own.
+        "|paints unnamed QDockWidgetTitleButton\\S*: QDockWidget \\{ titlebar-"
+        // The field of all colours has each marker's colour too.
+        "|paints unnamed QColorPicker: "
         // The view alone knows which item the mouse is over.
         "|::item:hover paints",
         QRegularExpression::CaseInsensitiveOption);
@@ -109,6 +119,7 @@ void tst_InspectorAgainstQt::initTestCase()
     QApplication::setStyle("fusion");
     QVERIFY(m_theme.setName("light"));
     static const QRegularExpression color("#[0-9a-fA-F]{3,8}\\b|rgba?\\([^)]*\\)");
+    static const QRegularExpression image("url\\([^)]*\\)");
     const QString text = qApp->styleSheet();
     const StyleRules rules(text);
     int number = 0;
@@ -118,11 +129,17 @@ void tst_InspectorAgainstQt::initTestCase()
             m_marked += text.mid(copied, declaration.start - copied);
             copied = declaration.end;
             QString written = text.mid(declaration.start, declaration.end - declaration.start);
-            if (written.contains(color) && !written.contains("url(")) {
+            const bool isImage = written.contains(image);
+            if (isImage || written.contains(color)) {
                 while (m_offsets.contains(marker(number).rgb()))
                     ++number;
                 m_offsets.insert(marker(number).rgb(), int(m_marked.size()));
-                written.replace(color, marker(number).name());
+                const QString path = m_folder.filePath(QString("%1.png").arg(number));
+                if (isImage)
+                    QVERIFY(writeMarkerImage(path, marker(number)));
+                written.replace(isImage ? image : color,
+                                isImage ? "url(" + path + ")" : marker(number).name());
+                m_images += isImage ? 1 : 0;
                 ++number;
             }
             m_marked += written;
@@ -130,6 +147,7 @@ void tst_InspectorAgainstQt::initTestCase()
     }
     m_marked += text.mid(copied);
     QVERIFY2(m_offsets.size() > 100, qPrintable(QString::number(m_offsets.size())));
+    QVERIFY2(m_images > 10, qPrintable(QString::number(m_images)));
     QFont font = QApplication::font();
     font.setStyleStrategy(QFont::NoAntialias);
     QApplication::setFont(font);

@@ -1,0 +1,199 @@
+// SPDX-FileCopyrightText: 2026 The HVTheme authors
+// SPDX-License-Identifier: MIT
+
+// Parts of which a widget shows many: items, tabs, entries of menus, sections.
+
+#include <inspector/parts.h>
+
+#include <analysis/style/styleelement.h>
+
+#include <QtWidgets>
+
+namespace
+{
+
+QSet<QString> position(int index, int count)
+{
+    if (count == 1)
+        return {QStringLiteral("only-one")};
+    return {index == 0               ? QStringLiteral("first")
+                : index == count - 1 ? QStringLiteral("last")
+                                     : QStringLiteral("middle")};
+}
+
+void setEnabled(QSet<QString> *states, bool isEnabled)
+{
+    set(states, "enabled", isEnabled);
+    set(states, "disabled", !isEnabled);
+    if (!isEnabled)
+        set(states, "hover", false);
+}
+
+} // namespace
+
+void Parts::addItems(const QAbstractItemView *view)
+{
+    const QAbstractItemModel *model = view->model();
+    const QRect visible = view->viewport()->rect();
+    if (!model)
+        return;
+    QModelIndex index = view->indexAt(QPoint(2, 2));
+    if (!index.isValid())
+        index = model->index(0, 0, view->rootIndex());
+    const QModelIndex focus = view->currentIndex();
+    for (int row = 0; index.isValid() && row < most; ++row) {
+        for (int column = 0; column < model->columnCount(index.parent()); ++column) {
+            const QModelIndex cell = index.sibling(index.row(), column);
+            const QRect rect = view->visualRect(cell);
+            if (!rect.intersects(visible))
+                continue;
+            QSet<QString> states = m_states;
+            setEnabled(&states,
+                       states.contains(QStringLiteral("enabled"))
+                           && cell.flags().testFlag(Qt::ItemIsEnabled));
+            const bool isSelected =
+                view->selectionModel() && view->selectionModel()->isSelected(cell);
+            set(&states, "selected", isSelected);
+            set(&states, "focus", cell == focus && m_states.contains(QStringLiteral("focus")));
+            set(&states, "hover", false);
+            set(&states, "alternate", view->alternatingRowColors() && row % 2 == 1);
+            states += position(column, model->columnCount(index.parent()));
+            const QString label = cell.data().toString();
+            add("item", rect, states, label);
+            const QVariant check = cell.data(Qt::CheckStateRole);
+            if (check.isValid()) {
+                set(&states, "checked", check.toInt() == Qt::Checked);
+                set(&states, "unchecked", check.toInt() == Qt::Unchecked);
+                set(&states, "indeterminate", check.toInt() == Qt::PartiallyChecked);
+                add("indicator", {}, states, label);
+            }
+        }
+        const auto *tree = qobject_cast<const QTreeView *>(view);
+        index = tree ? tree->indexBelow(index) : index.sibling(index.row() + 1, index.column());
+    }
+    if (qobject_cast<const QTreeView *>(view))
+        addQuiet({"branch"});
+}
+
+void Parts::addTabs(const QTabBar *bar)
+{
+    for (int i = 0; i < bar->count(); ++i) {
+        QSet<QString> states = m_states;
+        setEnabled(&states, bar->isEnabled() && bar->isTabEnabled(i));
+        set(&states, "selected", i == bar->currentIndex());
+        set(&states, "focus", i == bar->currentIndex() && states.contains(QStringLiteral("focus")));
+        set(&states, "hover", false);
+        set(&states, "previous-selected", i - 1 == bar->currentIndex());
+        set(&states, "next-selected", i + 1 == bar->currentIndex());
+        states -= {QStringLiteral("horizontal"), QStringLiteral("vertical")};
+        const bool isUpright = bar->shape() == QTabBar::RoundedWest
+            || bar->shape() == QTabBar::RoundedEast || bar->shape() == QTabBar::TriangularWest
+            || bar->shape() == QTabBar::TriangularEast;
+        states << (isUpright ? QStringLiteral("vertical") : QStringLiteral("horizontal"));
+        states += position(i, bar->count());
+        static const char *const sides[] = {"top", "bottom", "left", "right"};
+        states << QLatin1String(sides[int(bar->shape()) % 4]);
+        add("tab", bar->tabRect(i), states, bar->tabText(i));
+        for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide}) {
+            const QWidget *button = bar->tabButton(i, side);
+            if (!isCloseButton(button))
+                continue;
+            QSet<QString> ofButton = StyleElement::of(button, {}).states;
+            set(&ofButton, "selected", i == bar->currentIndex());
+            add("close-button", button->geometry(), ofButton, bar->tabText(i));
+        }
+    }
+}
+
+void Parts::addTabs(const QToolBox *box)
+{
+    const auto buttons = box->findChildren<QAbstractButton *>(
+        QStringLiteral("qt_toolbox_toolboxbutton"), Qt::FindDirectChildrenOnly);
+    for (int i = 0; i < box->count(); ++i) {
+        QSet<QString> states = m_states;
+        setEnabled(&states, box->isEnabled() && box->isItemEnabled(i));
+        set(&states, "selected", i == box->currentIndex());
+        set(&states, "previous-selected", i - 1 == box->currentIndex());
+        set(&states, "next-selected", i + 1 == box->currentIndex());
+        states += position(i, box->count());
+        QRect rect;
+        for (const QAbstractButton *button : buttons) {
+            if (button->text() == box->itemText(i))
+                rect = button->geometry();
+        }
+        add("tab", rect, states, box->itemText(i));
+    }
+}
+
+void Parts::addActions(const QWidget *widget)
+{
+    const auto *menu = qobject_cast<const QMenu *>(widget);
+    const auto *bar = qobject_cast<const QMenuBar *>(widget);
+    const QAction *active = menu ? menu->activeAction() : bar->activeAction();
+    const auto actions = widget->actions();
+    for (QAction *action : actions) {
+        const QRect rect = menu ? menu->actionGeometry(action) : bar->actionGeometry(action);
+        if (!action->isVisible() || rect.isEmpty())
+            continue;
+        if (action->isSeparator()) {
+            add("separator", rect, quiet());
+            continue;
+        }
+        QSet<QString> states = m_states;
+        setEnabled(&states, widget->isEnabled() && action->isEnabled());
+        set(&states, "selected", action == active);
+        set(&states, "hover", false);
+        set(&states, "checked", action->isCheckable() && action->isChecked());
+        set(&states, "unchecked", action->isCheckable() && !action->isChecked());
+        set(&states, "default", menu && action == menu->defaultAction());
+        if (action->isCheckable()) {
+            const bool isExclusive = action->actionGroup() && action->actionGroup()->isExclusive();
+            set(&states, isExclusive ? "exclusive" : "non-exclusive", true);
+            set(&states, action->isChecked() ? "on" : "off", true);
+        }
+        add("item", rect, states, action->text());
+        if (action->isCheckable())
+            add("indicator", {}, states, action->text());
+        if (action->menu())
+            add("right-arrow", {}, states, action->text());
+    }
+    if (menu && menu->isTearOffEnabled())
+        addQuiet({"tearoff"});
+}
+
+void Parts::addSections(const QHeaderView *header)
+{
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int section = header->logicalIndex(visual);
+        const int from = header->sectionViewportPosition(section);
+        const int size = header->sectionSize(section);
+        if (header->isSectionHidden(section))
+            continue;
+        const bool isRow = header->orientation() == Qt::Vertical;
+        const QRect rect =
+            isRow ? QRect(0, from, header->width(), size) : QRect(from, 0, size, header->height());
+        if (!rect.intersects(header->viewport()->rect()))
+            continue;
+        QSet<QString> states = quiet() + position(visual, header->count());
+        set(&states, "active", m_isActive);
+        set(&states, "horizontal", !isRow);
+        set(&states, "vertical", isRow);
+        const QItemSelectionModel *selection = header->selectionModel();
+        if (selection && header->highlightSections()) {
+            const QModelIndex root = header->rootIndex();
+            const bool isTouched = isRow ? selection->rowIntersectsSelection(section, root)
+                                         : selection->columnIntersectsSelection(section, root);
+            const bool isWhole = isRow ? selection->isRowSelected(section, root)
+                                       : selection->isColumnSelected(section, root);
+            set(&states, "on", isTouched);
+            set(&states, "checked", isTouched);
+            set(&states, "pressed", isWhole);
+        }
+        const QString label =
+            header->model()->headerData(section, header->orientation()).toString();
+        add("section", rect, states, label);
+        if (header->isSortIndicatorShown() && header->sortIndicatorSection() == section)
+            add(header->sortIndicatorOrder() == Qt::AscendingOrder ? "up-arrow" : "down-arrow", {},
+                states, label);
+    }
+}
