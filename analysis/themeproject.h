@@ -14,7 +14,7 @@
 #include <memory>
 #include <vector>
 
-/*! \brief What is to be checked, and with what. */
+/*! \brief Which themes and templates a project has, and how an application uses them. */
 struct ThemeProjectOptions {
     QString folder;
     QString suffix = defaultThemeSuffix();
@@ -27,7 +27,7 @@ struct ThemeProjectOptions {
     double minimalContrast = 4.5;
 };
 
-/*! \brief Everything that the rules look at, read once; it does not change while they run. */
+/*! \brief The themes of a folder with their templates, read once; it does not change. */
 class ThemeProject
 {
 public:
@@ -49,11 +49,11 @@ public:
     /*! \brief Returns paths of files that are no themes for the letter case of their suffix alone. */
     QStringList nearMisses() const { return m_nearMisses; }
 
-    /*! \brief Returns the default theme alone, whether it is to be checked as a theme or not. */
+    /*! \brief Returns the default theme alone, whether it is one of themes() or not. */
     const ThemeStack &base() const { return *m_base; }
 
     /*!
-     * \brief Returns the themes to be checked.
+     * \brief Returns the themes that were asked for.
      *
      * If none was named they are those with a file of their own, or, if there are none, the
      * default theme: beside other themes the default file is what they have in common.

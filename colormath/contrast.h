@@ -9,7 +9,7 @@
 /*!
  * \brief Arithmetic on sRGB colours: how two of them stand against each other.
  *
- * Internal to the project (`#include <colormath/contrast.h>`, target `hvtheme_contrast`). All
+ * Internal to the project (`#include <colormath/contrast.h>`, target `hvtheme_colormath`). All
  * functions are pure. A colour of another model, HSV say, is converted to RGB first; an invalid
  * colour counts as opaque black, which is what QColor::toRgb() makes of it.
  */

@@ -120,8 +120,9 @@ bool SheetModel::areEqual(Kind kind, const QStringList &keys) const
     };
     return std::all_of(keys.cbegin(), keys.cend(), [&](const QString &key) {
         const QVariant first = valueIn(m_themes.constFirst(), key);
-        return std::all_of(m_themes.cbegin(), m_themes.cend(),
-                           [&](const SheetTheme &theme) { return valueIn(theme, key) == first; });
+        return std::all_of(m_themes.cbegin(), m_themes.cend(), [&](const SheetTheme &theme) {
+            return isSameValue(valueIn(theme, key), first);
+        });
     });
 }
 

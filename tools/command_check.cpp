@@ -68,16 +68,18 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
     bool isNumber = false;
     const double contrast = parser.value(known.contrast).toDouble(&isNumber);
     if (!isNumber || !(contrast >= 1.0 && contrast <= 21.0))
-        return QStringLiteral("a contrast is a number from 1 to 21");
+        return QStringLiteral("--min-contrast is a number from 1 to 21");
     options->project.minimalContrast = contrast;
 
     options->format = parser.value(known.format);
     if (!QStringList({"text", "json", "sarif"}).contains(options->format))
-        return QStringLiteral("no format is called \"%1\"").arg(options->format);
+        return QStringLiteral("no format is called \"%1\"; there are text, json and sarif")
+            .arg(options->format);
     const QString severity = parser.value(known.fail);
     const int level = int(QStringList({"info", "warning", "error"}).indexOf(severity));
     if (level < 0)
-        return QStringLiteral("no severity is called \"%1\"").arg(severity);
+        return QStringLiteral("no severity is called \"%1\"; there are info, warning and error")
+            .arg(severity);
     options->failOn = Severity(level);
     options->disabledRules = parser.values(known.disable);
     for (const QString &rule : qAsConst(options->disabledRules)) {

@@ -127,7 +127,9 @@ int runValues(const QStringList &arguments)
     const QString format = parser.value(formatOption);
     if (!QStringList{QStringLiteral("table"), QStringLiteral("json"), QStringLiteral("csv")}
              .contains(format))
-        return usageError(name, QLatin1String("no format is called ") % format);
+        return usageError(name,
+                          QLatin1String("no format is called \"") % format
+                              % QLatin1String("\"; there are table, json and csv"));
     const auto input = ThemeOptions::readProject(name, parser, {1, 1});
     if (!input)
         return ExitUnusable;

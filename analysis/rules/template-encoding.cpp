@@ -6,6 +6,23 @@
 namespace
 {
 
+// Returns the first character of the text that stands for bytes which are none, or -1.
+int firstFault(const QByteArray &bytes, const QString &text)
+{
+    const QByteArray written = QString(QChar(QChar::ReplacementCharacter)).toUtf8();
+    int at = 0; // in the bytes
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text.at(i);
+        if (character == QChar(QChar::ReplacementCharacter)
+            && bytes.mid(at, written.size()) != written)
+            return i;
+        const bool isPair = character.isHighSurrogate() && i + 1 < text.size();
+        at += int(text.mid(i, isPair ? 2 : 1).toUtf8().size());
+        i += isPair ? 1 : 0;
+    }
+    return -1;
+}
+
 // Line ends and NUL never are parts of a character of several bytes, so lines can be decoded alone.
 void checkLine(const InputFile &file, const QByteArray &line, int number, Report &report)
 {
@@ -13,9 +30,11 @@ void checkLine(const InputFile &file, const QByteArray &line, int number, Report
     const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
     if (text.toUtf8() == bytes)
         return;
-    const int column = int(text.indexOf(QChar(QChar::ReplacementCharacter))) + 1;
-    report.add({file.path(), {number, column}},
-               QStringLiteral("these bytes are not UTF-8 and come out as replacement characters"));
+    const int fault = firstFault(bytes, text);
+    if (fault >= 0)
+        report.add(
+            {file.path(), {number, fault + 1}},
+            QStringLiteral("these bytes are not UTF-8 and come out as replacement characters"));
 }
 
 void check(const ThemeProject &project, Report &report)
@@ -29,9 +48,12 @@ void check(const ThemeProject &project, Report &report)
             const int lineEnd = int(read.indexOf('\n', start));
             const int stop = lineEnd < 0 ? int(read.size()) : lineEnd;
             checkLine(file.input, read.mid(start, stop - start), number + 1, report);
-            if (lineEnd < 0 && end >= 0)
-                report.add({file.input.path(), {number + 1, stop - start + 1}},
+            if (lineEnd < 0 && end >= 0) {
+                const int column =
+                    int(QString::fromUtf8(read.constData() + start, stop - start).size()) + 1;
+                report.add({file.input.path(), {number + 1, column}},
                            QStringLiteral("a NUL byte: the library reads nothing behind it"));
+            }
             start = stop + 1;
         }
     }

@@ -17,7 +17,8 @@ void check(const ThemeProject &project, Report &report)
             continue;
         report.add({base.path(), name ? name->valuePosition : TextPosition{1, 1}},
                    QStringLiteral("the display name equals the name of %1, so the library takes "
-                                  "this theme for it and never reads that file")
+                                  "this theme for it and never reads that file; give "
+                                  "this one another ThemeName, such as Default")
                        .arg(QFileInfo(theme->own()->file.path()).fileName()));
     }
 }

@@ -16,7 +16,8 @@ void check(const ThemeProject &project, Report &report)
             continue;
         report.add({layer->file.path(), {1, 1}},
                    QStringLiteral("the library fills in the placeholder in this path, opens "
-                                  "%1 instead, and never reads this file")
+                                  "%1 instead, and never reads this file; rename "
+                                  "the folder or the theme")
                        .arg(opened));
         // The folder's name is one cause for all of its files, the first of which is this one.
         if (opened == openedThemeFilePath(options.folder, defaultThemeName(), options.suffix))

@@ -67,6 +67,7 @@ struct StyleSelector {
      * \brief Tells whether it could be taken apart; else there are no steps.
      *
      * What Qt refuses is not valid, and neither is `QLabel >`, which Qt reads and never matches.
+     * Names and values with a backslash in them, which Qt reads, too, are not understood here.
      */
     bool isValid() const { return !steps.isEmpty(); }
 

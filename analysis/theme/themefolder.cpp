@@ -5,9 +5,12 @@
 
 #include <analysis/suggestion.h>
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cerrno>
+#include <sys/stat.h>
 
 namespace
 {
@@ -46,6 +49,12 @@ std::optional<ThemeFolder> ThemeFolder::open(const QString &path, const QString 
     folder.m_suffix = suffix;
     const QFileInfo defaultFile(folder.filePath(defaultThemeName()));
     if (!defaultFile.exists() && !defaultFile.isSymLink()) {
+        struct stat status = {};
+        if (::stat(QFile::encodeName(defaultFile.filePath()).constData(), &status) != 0
+            && errno == EACCES) {
+            *error = path % QLatin1String(": a folder that may not be entered");
+            return std::nullopt;
+        }
         *error = path % QLatin1String(": no ") % defaultFile.fileName()
             % QLatin1String(" here, with which every theme begins");
         return std::nullopt;

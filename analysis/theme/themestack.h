@@ -20,7 +20,7 @@ namespace HV
 class WorkableTheme;
 }
 
-/*! \brief One theme file as the command knows it: its text with positions, and its values. */
+/*! \brief One theme file: its text with positions, and its values. */
 struct ThemeLayer {
     ThemeFile file;
     ThemeValues values;

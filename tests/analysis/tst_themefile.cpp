@@ -6,6 +6,7 @@
 #include <hvtheme/inifile.h>
 
 #include "qtversion.h"
+#include "temporaryfolder.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -372,6 +373,12 @@ void tst_ThemeFile::folderRefused()
     QCOMPARE(error, themes.filePath("none") + ": no such folder");
     QVERIFY(!ThemeFolder::open(themes.path(), suffix, &error));
     QCOMPARE(error, themes.path() + ": no default.theme here, with which every theme begins");
+    const QTemporaryDir locked;
+    {
+        const Unreadable folder(locked.path());
+        QVERIFY(!ThemeFolder::open(locked.path(), suffix, &error));
+    }
+    QCOMPARE(error, locked.path() + ": a folder that may not be entered");
     QFile file(themes.filePath("file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(!ThemeFolder::open(file.fileName(), suffix, &error));

@@ -121,17 +121,20 @@ void tst_Cli::usage_data()
                                << "hvtheme: check: FOLDER is missing" + seeHelp;
     QTest::newRow("unknown-option") << QStringList({"check", "--fast", "."})
                                     << "hvtheme: check: Unknown option 'fast'." + seeHelp;
-    QTest::newRow("format") << QStringList({"check", "--format", "xml", "."})
-                            << "hvtheme: check: no format is called \"xml\"" + seeHelp;
-    QTest::newRow("severity") << QStringList({"check", "--fail-on", "never", "."})
-                              << "hvtheme: check: no severity is called \"never\"" + seeHelp;
+    QTest::newRow("format")
+        << QStringList({"check", "--format", "xml", "."})
+        << "hvtheme: check: no format is called \"xml\"; there are text, json and sarif" + seeHelp;
+    QTest::newRow("severity")
+        << QStringList({"check", "--fail-on", "never", "."})
+        << "hvtheme: check: no severity is called \"never\"; there are info, warning and error"
+            + seeHelp;
     QTest::newRow("rule")
         << QStringList({"check", "--disable", "no-such-rule", "."})
         << "hvtheme: check: no rule is called \"no-such-rule\"; --rules lists them" + seeHelp;
     for (const char *ratio : {"0.5", "22", "much", "nan"})
         QTest::addRow("contrast-%s", ratio)
             << QStringList({"check", "--min-contrast", ratio, "."})
-            << "hvtheme: check: a contrast is a number from 1 to 21" + seeHelp;
+            << "hvtheme: check: --min-contrast is a number from 1 to 21" + seeHelp;
     QTest::newRow("prefix") << QStringList({"check", "--prefix", "a.*", "."})
                             << "hvtheme: check: a prefix is made of letters, digits and underscores"
             + seeHelp;

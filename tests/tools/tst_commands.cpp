@@ -135,7 +135,7 @@ void tst_Commands::wrongUsage_data()
     QTest::newRow("no-state") << "explain themes night QLabel:hovr" << "hvtheme: explain: Qt has no state \"hovr\"; did you mean hover? (see hvtheme explain --help)\n";
     QTest::newRow("too-many") << "render themes night day" << "hvtheme: render: one argument too many: day (see hvtheme render --help)\n";
     QTest::newRow("unknown-option") << "values themes night --fast" << "hvtheme: values: Unknown option 'fast'. (see hvtheme values --help)\n";
-    QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called xml (see hvtheme values --help)\n";
+    QTest::newRow("unknown-format") << "values themes night --format xml" << "hvtheme: values: no format is called \"xml\"; there are table, json and csv (see hvtheme values --help)\n";
     QTest::newRow("prefix") << "render themes night --prefix g+" << "hvtheme: render: a prefix is made of letters, digits and underscores (see hvtheme render --help)\n";
     QTest::newRow("no-templates") << "values themes night --no-builtin" << "hvtheme: values: --no-builtin leaves no templates: name some with --templates (see hvtheme values --help)\n";
     QTest::newRow("empty-templates") << "values themes night --templates=" << "hvtheme: values: --templates needs the name of a folder or file (see hvtheme values --help)\n";
