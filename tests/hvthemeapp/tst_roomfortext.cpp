@@ -246,6 +246,8 @@ private:
 void tst_RoomForText::initTestCase()
 {
     m_quiet = std::make_unique<QuietPlatform>();
+    // File dialogs keep the widths of their parts, those of other tests too.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_themes.path());
     const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1");
     QCOMPARE(QString::number(qApp->devicePixelRatio()), scale);
     QCOMPARE(QApplication::style()->objectName(), QString("fusion"));
@@ -268,6 +270,7 @@ void tst_RoomForText::cleanup()
 
 void tst_RoomForText::set(const Setting &setting)
 {
+    QSettings(QSettings::UserScope, "QtProject").clear();
     QFont font = m_font;
     font.setPixelSize(setting.fontSize);
     QApplication::setFont(font);
