@@ -53,6 +53,17 @@ ThemeListing listThemes(const QString &folder, const QString &suffix)
     return listing;
 }
 
+QStringList templateFilePaths(const QString &folder)
+{
+    QDir directory(folder);
+    directory.setNameFilters({QStringLiteral("*.qss"), QStringLiteral("*.css")});
+    directory.setFilter(QDir::Files);
+    QStringList paths = directory.entryList();
+    for (QString &path : paths)
+        path.prepend(folder % QLatin1Char('/'));
+    return paths;
+}
+
 bool isResourcePath(const QString &path)
 {
     return path.startsWith(QLatin1String(":/"));

@@ -40,6 +40,13 @@ struct ThemeListing {
  */
 ThemeListing listThemes(const QString &folder, const QString &suffix = defaultThemeSuffix());
 
+/*!
+ * \brief Returns FOLDER/NAME of the templates of \a folder, `*.qss` and `*.css`.
+ *
+ * They are those that HV::readStyleSheet() finds there, in its order.
+ */
+QStringList templateFilePaths(const QString &folder);
+
 /*! \brief Tells whether \a path names something in the program's resources. */
 bool isResourcePath(const QString &path);
 

@@ -152,11 +152,8 @@ Problem checkSubstitution(const ThemeProject &project, const ThemeStack &theme)
 QStringList templateFiles(const QStringList &folders)
 {
     QStringList files;
-    for (const QString &folder : folders) {
-        const QStringList names = QDir(folder).entryList({"*.qss", "*.css"}, QDir::Files);
-        for (const QString &name : names)
-            files.append(folder + QLatin1Char('/') + name);
-    }
+    for (const QString &folder : folders)
+        files += templateFilePaths(folder);
     return files;
 }
 

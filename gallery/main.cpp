@@ -17,7 +17,7 @@
 namespace
 {
 
-constexpr int usageError = 1;
+constexpr int usageError = 2;
 
 void print(FILE *stream, const QString &text)
 {

@@ -179,8 +179,8 @@ QString helpText()
         + QStringLiteral(
                "\nExit codes of --screenshot:\n"
                "  0  every picture is written\n"
-               "  1  the command line is wrong, or there is no display to open a window on\n"
-               "  2  the themes folder is missing, or holds no default.theme that can be read\n"
+               "  2  the command line is wrong, there is no display to open a window on, or the "
+               "themes folder is missing or holds no default.theme that can be read\n"
                "  3  there is no theme of that name, or it cannot be read\n"
                "  4  a folder of templates is missing, or a template cannot be read\n"
                "  5  the form cannot be read\n"

@@ -116,6 +116,11 @@ QImage takeWindowPicture(GalleryWindow *window)
     return window->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
+bool isOfAllThemes(Problem problem)
+{
+    return problem == Problem::ThemesFolder || problem == Problem::Templates;
+}
+
 // Takes the pages in one theme after the other: restyling is what costs.
 class Photographer
 {
@@ -129,6 +134,8 @@ public:
     {
         const QStringList themes = themesOf(m_options);
         for (const QString &theme : themes) {
+            if (isOfAllThemes(m_problem))
+                break; // and has been told
             if (m_options.pane)
                 takeWindows(theme);
             else

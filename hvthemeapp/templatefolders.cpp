@@ -8,26 +8,16 @@
 #include "quotedurls.h"
 #include "themefolder.h"
 
+#include <format/themepath.h>
 #include <hvtheme/theme.h>
 #include <hvtheme/theming.h>
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace HV
 {
 namespace
 {
-
-QStringList templateFiles(const QString &folder)
-{
-    QStringList files;
-    const QStringList filters = {QStringLiteral("*.qss"), QStringLiteral("*.css")};
-    const QFileInfoList entries = QDir(folder).entryInfoList(filters, QDir::Files);
-    for (const QFileInfo &entry : entries)
-        files.append(folder + QLatin1Char('/') + entry.fileName());
-    return files;
-}
 
 // Qt drops a style sheet whole that it cannot parse, and tells nobody but the log. What it stumbles
 // over while a template is being written is mostly a rule, comment or text that is not closed yet.
@@ -74,10 +64,10 @@ QString builtInPrefix()
 
 QStringList builtInFiles(bool keepsFonts)
 {
-    QStringList files = templateFiles(QStringLiteral(":/stylesheet"));
+    QStringList files = templateFilePaths(QStringLiteral(":/stylesheet"));
     if (keepsFonts)
         files.removeOne(QStringLiteral(":/stylesheet/global.qss")); // its rules begin with `*`
-    return files + templateFiles(QStringLiteral(":/hvthemeapp/stylesheet"));
+    return files + templateFilePaths(QStringLiteral(":/hvthemeapp/stylesheet"));
 }
 
 } // namespace
@@ -99,7 +89,7 @@ QStringList TemplateFolders::files() const
 {
     QStringList files;
     for (const Folder &folder : m_folders)
-        files += templateFiles(folder.path);
+        files += templateFilePaths(folder.path);
     return files;
 }
 
@@ -110,7 +100,7 @@ QVector<QPair<QString, QString>> TemplateFolders::sources(bool keepsFonts) const
     for (const QString &file : builtIn)
         sources.append({file, builtInPrefix()});
     for (const Folder &folder : m_folders) {
-        const QStringList files = templateFiles(folder.path);
+        const QStringList files = templateFilePaths(folder.path);
         for (const QString &file : files)
             sources.append({file, folder.prefix});
     }

@@ -30,8 +30,7 @@ namespace
 
 enum ExitCode {
     Success = 0,
-    Failure = 1,
-    WrongUsage = 2,
+    Unusable = 2,
 };
 
 const char usage[] =
@@ -46,8 +45,8 @@ const char usage[] =
     "  -h, --help     Show this help.\n"
     "  -v, --version  Show the version.\n"
     "\n"
-    "Exit codes: 0 all copies are up to date; 1 a theme or picture cannot be used,\n"
-    "the standard error says which and why; 2 wrong usage.\n";
+    "Exit codes: 0 all copies are up to date; 2 wrong usage, or a theme, picture or\n"
+    "copy cannot be used: the standard error says which and why.\n";
 
 bool complain(const QString &what)
 {
@@ -60,7 +59,7 @@ ExitCode print(const char *text)
     if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0)
         return Success;
     std::perror("hvtheme-icons: standard output");
-    return WrongUsage;
+    return Unusable;
 }
 
 // A pipe or device would be waited for, or read without end.
@@ -215,6 +214,18 @@ bool areApart(const QStringList &sources)
     return true;
 }
 
+// What is wrong with the arguments; empty if nothing is.
+QString mistakeIn(const QStringList &arguments)
+{
+    static const char *const names[] = {"FOLDER", "THEME", "OUTPUT_FOLDER", "FILE.svg"};
+    const int given = int(arguments.size()) - 1;
+    if (given >= 4)
+        return {};
+    if (given > 0 && arguments.at(1).startsWith(QLatin1Char('-')))
+        return QLatin1String("no option is called \"") % arguments.at(1) % QLatin1Char('"');
+    return QLatin1String(names[given]) % QLatin1String(" is missing");
+}
+
 int run(const QStringList &arguments)
 {
     if (arguments.size() == 2
@@ -225,26 +236,27 @@ int run(const QStringList &arguments)
         && (arguments[1] == QLatin1String("--version") || arguments[1] == QLatin1String("-v"))) {
         return print("hvtheme-icons " HVTHEME_VERSION "\n");
     }
-    if (arguments.size() < 5) {
-        QTextStream(stderr) << usage;
-        return WrongUsage;
+    const QString mistake = mistakeIn(arguments);
+    if (!mistake.isEmpty()) {
+        complain(mistake % QLatin1String(" (see hvtheme-icons --help)"));
+        return Unusable;
     }
     QStringList sources = arguments.mid(4);
     sources.removeDuplicates();
     if (!areApart(sources))
-        return WrongUsage;
+        return Unusable;
     HV::WorkableTheme theme;
     if (!loadTheme(&theme, arguments[1], arguments[2]))
-        return Failure;
+        return Unusable;
     const QDir output(arguments[3]);
     if (!output.mkpath(QStringLiteral("."))) {
         complain(output.path() % QLatin1String(": cannot be made a folder"));
-        return Failure;
+        return Unusable;
     }
     int exitCode = Success;
     for (const QString &source : qAsConst(sources)) {
         if (!tint(&theme, source, output))
-            exitCode = Failure;
+            exitCode = Unusable;
     }
     return exitCode;
 }

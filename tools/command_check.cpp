@@ -63,7 +63,8 @@ QString readOptions(const QCommandLineParser &parser, const KnownOptions &known,
 {
     const QString folder = options->project.applicationFolder;
     if (!QDir(folder).exists())
-        return folder % QLatin1String(": no such folder");
+        return folder
+            % QLatin1String(": no such folder; --app-dir takes that of the application's program");
     options->project.vocabularyFile = parser.value(known.vocabulary);
     bool isNumber = false;
     const double contrast = parser.value(known.contrast).toDouble(&isNumber);

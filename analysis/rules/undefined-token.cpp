@@ -74,6 +74,17 @@ QVector<TemplateToken> undefinedTokens(const ThemeProject &project)
     return tokens;
 }
 
+// A theme that was not asked for may well define the key.
+QString whoDefinesNot(const ThemeProject &project)
+{
+    const QStringList named = project.options().themes;
+    if (named.isEmpty())
+        return QStringLiteral("no theme defines ");
+    if (named.size() == 1)
+        return named.constFirst() % QLatin1String(" does not define ");
+    return QLatin1String("none of ") % named.join(QLatin1String(", ")) % QLatin1String(" defines ");
+}
+
 // A token of somebody's own template is a mistake in its place. Those of the built-in templates are
 // right, and what they have in common is the key that the themes lack.
 void check(const ThemeProject &project, Report &report)
@@ -93,11 +104,10 @@ void check(const ThemeProject &project, Report &report)
                 count = QStringLiteral(" (%1 tokens of the built-in templates)").arg(number);
         }
         const QString hidden = hiddenKind(project, token.key);
-        report.addAtTemplate(project.templates(), token.offset,
-                             QLatin1String("no theme defines ") % token.key
-                                 % QLatin1String(", and nothing takes its place")
-                                 % (hidden.isEmpty() ? suggestion.question(token.key) : hidden)
-                                 % count);
+        report.addAtTemplate(
+            project.templates(), token.offset,
+            whoDefinesNot(project) % token.key % QLatin1String(", and nothing takes its place")
+                % (hidden.isEmpty() ? suggestion.question(token.key) : hidden) % count);
     }
 }
 

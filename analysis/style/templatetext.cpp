@@ -3,8 +3,9 @@
 
 #include <analysis/style/templatetext.h>
 
+#include <format/themepath.h>
+
 #include <QBuffer>
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -13,19 +14,6 @@ namespace
 {
 
 constexpr qint64 templateSizeLimit = qint64(64) * 1024 * 1024;
-
-// The same files in the same order as HV::readStyleSheet() finds them in a folder.
-QStringList filesIn(const QString &folder)
-{
-    QStringList paths;
-    QDir directory(folder);
-    directory.setNameFilters({QStringLiteral("*.qss"), QStringLiteral("*.css")});
-    directory.setFilter(QDir::Files);
-    const QStringList names = directory.entryList();
-    for (const QString &name : names)
-        paths << folder % QLatin1Char('/') % name;
-    return paths;
-}
 
 // Read through a text device, so that line ends become what the library sees; fromUtf8() ends the
 // text at a NUL byte, as it does for the library.
@@ -47,7 +35,7 @@ std::optional<TemplateText> TemplateText::read(const QStringList &sources, const
     templates.m_lineStarts.append(0);
     for (const QString &source : sources) {
         const bool isFolder = QFileInfo(source).isDir();
-        const QStringList paths = isFolder ? filesIn(source) : QStringList(source);
+        const QStringList paths = isFolder ? templateFilePaths(source) : QStringList(source);
         if (paths.isEmpty()) {
             *error = source % QLatin1String(": no templates (*.qss, *.css) in this folder");
             return std::nullopt;

@@ -36,11 +36,11 @@ std::optional<ThemeFolder> ThemeFolder::open(const QString &path, const QString 
 {
     const QFileInfo info(path);
     if (!info.exists()) {
-        *error = path % QLatin1String(": no such folder");
+        *error = path % QLatin1String(": no such folder; name the one with the theme files");
         return std::nullopt;
     }
     if (!info.isDir()) {
-        *error = path % QLatin1String(": not a folder");
+        *error = path % QLatin1String(": not a folder; name the one with the theme files");
         return std::nullopt;
     }
 

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "temporaryfolder.h"
+
 #include <analysis/messagelog.h>
 #include <analysis/rules/rules.h>
 #include <analysis/suggestion.h>
@@ -38,6 +40,8 @@ private Q_SLOTS:
     void pathInFolder_data();
     void pathInFolder();
     void undefinedInBuiltInTemplates();
+    void undefinedInNamedThemes_data();
+    void undefinedInNamedThemes();
     void endless_data();
     void endless();
     void text();
@@ -452,6 +456,45 @@ void tst_Check::undefinedInBuiltInTemplates()
     QCOMPARE(found.mid(0, 2), QStringList({"a.qss", "a.qss"}));
     QVERIFY2(found.last().endsWith(QString(" (%1 tokens of the built-in templates)").arg(count)),
              qPrintable(found.last()));
+}
+
+void tst_Check::undefinedInNamedThemes_data()
+{
+    QTest::addColumn<QStringList>("themes");
+    QTest::addColumn<QString>("message"); // empty: no finding
+
+    const QString end = " Ink, and nothing takes its place";
+    QTest::newRow("all") << QStringList() << "";
+    QTest::newRow("one-that-does") << QStringList{"light"} << "";
+    QTest::newRow("one") << QStringList{"dark"} << "dark does not define" + end;
+    QTest::newRow("two") << QStringList{"dark", "dusk"} << "none of dark, dusk defines" + end;
+    QTest::newRow("default") << QStringList{"default"} << "default does not define" + end;
+}
+
+// A theme that is not asked for may have the key, so what is said is said of those that are.
+void tst_Check::undefinedInNamedThemes()
+{
+    QFETCH(QStringList, themes);
+    QFETCH(QString, message);
+    const TemporaryFolder folder;
+    folder.write("default.theme", "[Colors]\nPaper=#ffffff\n");
+    folder.write("dark.theme", "[Colors]\nOther=#000000\n");
+    folder.write("dusk.theme", "[Colors]\nOther=#000000\n");
+    folder.write("light.theme", "[Colors]\nInk=#000000\n");
+    ThemeProjectOptions options;
+    options.folder = folder.path();
+    options.themes = themes;
+    options.templates =
+        QStringList{folder.write("a.qss", "QLabel { color: global.theme.color.Ink; }\n")};
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    QVERIFY2(project, qPrintable(error));
+    QStringList found;
+    for (const Finding &finding : runLintRules(*project)) {
+        if (finding.rule == "undefined-token")
+            found << finding.message;
+    }
+    QCOMPARE(found.join('\n'), message);
 }
 
 void tst_Check::endless_data()

@@ -370,7 +370,8 @@ void tst_ThemeFile::folderRefused()
     const QString suffix = QStringLiteral("theme");
     QString error;
     QVERIFY(!ThemeFolder::open(themes.filePath("none"), suffix, &error));
-    QCOMPARE(error, themes.filePath("none") + ": no such folder");
+    QCOMPARE(error,
+             themes.filePath("none") + ": no such folder; name the one with the theme files");
     QVERIFY(!ThemeFolder::open(themes.path(), suffix, &error));
     QCOMPARE(error, themes.path() + ": no default.theme here, with which every theme begins");
     const QTemporaryDir locked;
@@ -382,7 +383,7 @@ void tst_ThemeFile::folderRefused()
     QFile file(themes.filePath("file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     QVERIFY(!ThemeFolder::open(file.fileName(), suffix, &error));
-    QCOMPARE(error, file.fileName() + ": not a folder");
+    QCOMPARE(error, file.fileName() + ": not a folder; name the one with the theme files");
 }
 
 QTEST_APPLESS_MAIN(tst_ThemeFile)

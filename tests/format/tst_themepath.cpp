@@ -12,6 +12,7 @@ class tst_ThemePath : public QObject
 
 private Q_SLOTS:
     void listing();
+    void templates();
     void opened_data();
     void opened();
     void images_data();
@@ -48,6 +49,27 @@ void tst_ThemePath::listing()
     QCOMPARE(misses, QStringList({"Night.THEME", "day.Theme"}));
     QCOMPARE(listThemes(folder.path(), "THEME").names, QStringList("Night"));
     QVERIFY(listThemes(folder.filePath("nowhere")).names.isEmpty());
+}
+
+// Those that the library reads, in its order.
+void tst_ThemePath::templates()
+{
+    QTemporaryDir folder;
+    for (const char *name :
+         {"b.qss", "A.css", "a.qss", "C.QSS", ".hidden.qss", "b.qss.bak", "qss", "d.Css"})
+        write(folder.filePath(name), QByteArray(name) + '\n');
+    QVERIFY(QDir(folder.path()).mkdir("folder.qss"));
+    QString read;
+    HV::readStyleSheet(folder.path(), read);
+    QString named;
+    for (const QString &path : templateFilePaths(folder.path())) {
+        QCOMPARE(path, folder.path() + '/' + QFileInfo(path).fileName());
+        named += QFileInfo(path).fileName() + '\n';
+    }
+    QCOMPARE(named, read);
+    QCOMPARE(named.count('\n'), 5);
+    QCOMPARE(templateFilePaths(folder.filePath("none")), QStringList());
+    QVERIFY(templateFilePaths(":/stylesheet").contains(":/stylesheet/global.qss"));
 }
 
 void tst_ThemePath::opened_data()

@@ -77,6 +77,7 @@ private Q_SLOTS:
     void sourceIsNeverReplaced();
     void readError();
     void copiesOfOneName();
+    void wrongUsage_data();
     void wrongUsage();
     void help();
     void version();
@@ -176,7 +177,7 @@ void tst_Icons::unusableInput()
     if (!text.isEmpty())
         shop.write(source, text);
     const Outcome outcome = shop.tint(theme, {shop.filePath(source)});
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 2);
     complaint.replace("%1", shop.path());
     QVERIFY2(outcome.error.contains("hvtheme-icons: " % shop.filePath(complaint) % "\n"),
              qUtf8Printable(outcome.error));
@@ -205,7 +206,7 @@ void tst_Icons::pipe()
     QFile::remove(path);
     QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
     const Outcome outcome = shop.tint("red", {shop.filePath("pen.svg")});
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 2);
     QVERIFY2(outcome.error.endsWith("hvtheme-icons: " % path % ": " % reason % "\n"),
              qUtf8Printable(outcome.error));
 }
@@ -217,7 +218,7 @@ void tst_Icons::hugeGradient()
     shop.write("themes/red.theme",
                QByteArray(redTheme) + "[Gradients]\nGlow=1\nGlow\\size=2000000000\n");
     const Outcome outcome = shop.tint("red", {shop.filePath("pen.svg")});
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 2);
     QCOMPARE(outcome.error,
              "hvtheme-icons: " % shop.filePath("themes/red.theme")
                  % ": gradient Glow claims 2000000000 stops, which takes the library minutes to "
@@ -228,7 +229,7 @@ void tst_Icons::otherPicturesAreStillMade()
 {
     const Workshop shop;
     shop.write("bad.svg", "global.theme.color.Pen");
-    QCOMPARE(shop.tint("red", {shop.filePath("bad.svg"), shop.filePath("pen.svg")}).exitCode, 1);
+    QCOMPARE(shop.tint("red", {shop.filePath("bad.svg"), shop.filePath("pen.svg")}).exitCode, 2);
     QVERIFY(!QFile::exists(shop.filePath("out/bad.svg")));
     QVERIFY(QFile::exists(shop.filePath("out/pen.svg")));
 }
@@ -238,7 +239,7 @@ void tst_Icons::sourceIsNeverReplaced()
     const Workshop shop;
     const Outcome outcome =
         run({shop.filePath("themes"), "red", shop.path(), shop.filePath("pen.svg")});
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 2);
     QVERIFY(outcome.error.contains("pen.svg: its copy would replace it\n"));
     QCOMPARE(content(shop.filePath("pen.svg")), QByteArray(picture));
 }
@@ -250,7 +251,7 @@ void tst_Icons::readError()
     const Outcome outcome = shop.tint("red", {"/proc/self/mem"});
     QVERIFY2(outcome.error.contains("hvtheme-icons: /proc/self/mem: Input/output error\n"),
              qUtf8Printable(outcome.error));
-    QCOMPARE(outcome.exitCode, 1);
+    QCOMPARE(outcome.exitCode, 2);
     QVERIFY(!QFile::exists(shop.filePath("out/mem")));
 }
 
@@ -268,12 +269,24 @@ void tst_Icons::copiesOfOneName()
     QCOMPARE(shop.tint("red", {sources.at(0), sources.at(0)}).exitCode, 0);
 }
 
+void tst_Icons::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("mistake");
+    QTest::newRow("none") << QStringList() << "FOLDER is missing";
+    QTest::newRow("folder") << QStringList{"themes"} << "THEME is missing";
+    QTest::newRow("theme") << QStringList{"themes", "red"} << "OUTPUT_FOLDER is missing";
+    QTest::newRow("no-picture") << QStringList{"themes", "red", "out"} << "FILE.svg is missing";
+    QTest::newRow("option") << QStringList{"--size"} << "no option is called \"--size\"";
+}
+
 void tst_Icons::wrongUsage()
 {
-    const Outcome outcome = run({"themes", "red", "out"});
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, mistake);
+    const Outcome outcome = run(arguments);
     QCOMPARE(outcome.exitCode, 2);
-    QVERIFY(
-        outcome.error.startsWith("Usage: hvtheme-icons FOLDER THEME OUTPUT_FOLDER FILE.svg...\n"));
+    QCOMPARE(outcome.error, "hvtheme-icons: " % mistake % " (see hvtheme-icons --help)\n");
     QCOMPARE(outcome.output, QString());
 }
 
@@ -339,7 +352,7 @@ void tst_Icons::fullDisk()
     QVERIFY2(errors.endsWith("hvtheme-icons: " % workshop.filePath("out/large.svg")
                              % ": File too large\n"),
              qUtf8Printable(errors));
-    QCOMPARE(shell.exitCode(), 1);
+    QCOMPARE(shell.exitCode(), 2);
     QCOMPARE(QDir(workshop.filePath("out")).entryList(QDir::Files), QStringList());
 }
 

@@ -11,11 +11,10 @@ well, 1 something is not, 2 wrong usage.
 
 import os
 import pathlib
-import shutil
 import sys
 import tarfile
 
-from steps import Failure, expect, run
+from steps import expect, in_new_folder, run
 
 # What one who makes an archive may have.
 HOMES = {
@@ -48,8 +47,7 @@ def archive_of(folder, cmake, git, sources, settings, options):
     return made[0]
 
 
-def check(cmake, git, work, sources, options):
-    shutil.rmtree(work, ignore_errors=True)
+def check(work, cmake, git, sources, options):
     archives = [archive_of(work / name, cmake, git, sources, settings, options) for name, settings in HOMES.items()]
     first, second = (path.read_bytes() for path in archives)
     expect(archives[0].name == archives[1].name, f"{archives} have different names")
@@ -72,13 +70,7 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     cmake, git, work, sources = arguments[:4]
-    try:
-        check(cmake, git, pathlib.Path(work), pathlib.Path(sources), arguments[4:])
-    except (Failure, OSError) as failure:
-        print(failure, file=sys.stderr)
-        return 1
-    shutil.rmtree(work)
-    return 0
+    return in_new_folder(pathlib.Path(work), check, cmake, git, pathlib.Path(sources), arguments[4:])
 
 
 if __name__ == "__main__":

@@ -13,7 +13,7 @@ import pathlib
 import shutil
 import sys
 
-from steps import Failure, expect, run
+from steps import Failure, expect, in_new_folder, run
 
 # What the programs print that use the application library and the inspector, which are there with all of Qt.
 USES = {"application": "dark, dark, styled, icons\n", "inspected": "closed, open, closed\n"}
@@ -21,7 +21,6 @@ HERE = pathlib.Path(__file__).resolve().parent
 
 
 def check(work, sources, options):
-    shutil.rmtree(work, ignore_errors=True)
     host, build, prefix = work / "a host", work / "build", work / "prefix"
     shutil.copytree(HERE / "host", host)
     shutil.copytree(sources / "themes", host / "themes")
@@ -63,14 +62,8 @@ def main(arguments):
     if len(arguments) < 2:
         print(__doc__, file=sys.stderr)
         return 2
-    work = pathlib.Path(arguments[0])
-    try:
-        check(work, pathlib.Path(arguments[1]), arguments[2:])
-    except (Failure, OSError) as failure:
-        print(failure, file=sys.stderr)
-        return 1
-    shutil.rmtree(work)
-    return 0
+    work, sources = map(pathlib.Path, arguments[:2])
+    return in_new_folder(work, check, sources, arguments[2:])
 
 
 if __name__ == "__main__":

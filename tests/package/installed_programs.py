@@ -14,7 +14,7 @@ import pathlib
 import shutil
 import sys
 
-from steps import Failure, expect, run
+from steps import expect, in_new_folder, run
 
 PNG = b"\x89PNG\r\n\x1a\n"
 
@@ -61,8 +61,7 @@ def use_gallery(program, prefix, work, environment):
 USES = {"hvtheme": use_command, "hvtheme-icons": use_icons, "hvtheme-gallery": use_gallery}
 
 
-def check(cmake, build, config, work, version, suffix):
-    shutil.rmtree(work, ignore_errors=True)
+def check(work, cmake, build, config, version, suffix):
     installed = work / "first place"
     moved = work / "second place/with ü"
     run(cmake, "--install", build, "--config", config, "--prefix", installed)
@@ -101,13 +100,7 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     cmake, build, config, work, version, suffix = arguments
-    try:
-        check(cmake, pathlib.Path(build), config, pathlib.Path(work), version, suffix)
-    except (Failure, OSError) as failure:
-        print(failure, file=sys.stderr)
-        return 1
-    shutil.rmtree(work)
-    return 0
+    return in_new_folder(pathlib.Path(work), check, cmake, pathlib.Path(build), config, version, suffix)
 
 
 if __name__ == "__main__":

@@ -2,7 +2,9 @@
 # SPDX-License-Identifier: MIT
 """What the tests of this folder have in common."""
 
+import shutil
 import subprocess
+import sys
 
 
 class Failure(Exception):
@@ -20,3 +22,15 @@ def run(*command, **options):
 def expect(condition, what):
     if not condition:
         raise Failure(what)
+
+
+def in_new_folder(work, check, *arguments):
+    """Calls check() with a folder that is empty, and returns the exit code. What a failure left there stays."""
+    shutil.rmtree(work, ignore_errors=True)
+    try:
+        check(work, *arguments)
+    except (Failure, OSError) as failure:
+        print(failure, file=sys.stderr)
+        return 1
+    shutil.rmtree(work)
+    return 0

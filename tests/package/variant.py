@@ -10,16 +10,14 @@ The path of the build has a space in it. PKG_CONFIG may be empty. Exit codes: 0 
 """
 
 import pathlib
-import shutil
 import sys
 
-from steps import Failure, expect, run
+from steps import expect, in_new_folder, run
 
 HERE = pathlib.Path(__file__).resolve().parent
 
 
-def check(variant, cmake, ctest, cxx, pkg_config, work, sources, options):
-    shutil.rmtree(work, ignore_errors=True)
+def check(work, variant, cmake, ctest, cxx, pkg_config, sources, options):
     build, users = work / "a build", {"find_package": ["-DGENERATOR=Unix Makefiles"]}
     if pkg_config:
         users["pkg_config"] = [f"-DPKG_CONFIG={pkg_config}"]
@@ -53,13 +51,7 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     variant, cmake, ctest, cxx, pkg_config, work, sources = arguments[:7]
-    try:
-        check(variant, cmake, ctest, cxx, pkg_config, pathlib.Path(work), pathlib.Path(sources), arguments[7:])
-    except (Failure, OSError) as failure:
-        print(failure, file=sys.stderr)
-        return 1
-    shutil.rmtree(work)
-    return 0
+    return in_new_folder(pathlib.Path(work), check, variant, cmake, ctest, cxx, pkg_config, pathlib.Path(sources), arguments[7:])
 
 
 if __name__ == "__main__":

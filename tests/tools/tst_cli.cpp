@@ -29,6 +29,7 @@ private Q_SLOTS:
     void unreadable();
     void exitCodes_data();
     void exitCodes();
+    void saysWhatToDo();
     void formats_data();
     void formats();
     void controlCharacters();
@@ -180,8 +181,8 @@ void tst_Cli::badInput_data()
         const char *name;
         const char *reason;
     } inputs[] = {
-        {"no-folder", "no such folder"},
-        {"file-for-folder", "not a folder"},
+        {"no-folder", "no such folder; name the one with the theme files"},
+        {"file-for-folder", "not a folder; name the one with the theme files"},
         {"no-default", "no default.theme here, with which every theme begins"},
         {"folder-for-file", "not a regular file"},
         {"dangling-link", "No such file or directory"},
@@ -330,6 +331,15 @@ void tst_Cli::exitCodes()
     const Result result = run(checkArguments(folder) + options);
     QVERIFY2(result.code == code, result.errors.constData());
     QCOMPARE(result.errors.isEmpty(), code != 2);
+}
+
+void tst_Cli::saysWhatToDo()
+{
+    const QTemporaryDir folder;
+    writeTheme(folder);
+    QCOMPARE(run(checkArguments(folder) + QStringList{"--app-dir", "/nowhere"}).errors,
+             QByteArray("hvtheme: check: /nowhere: no such folder; --app-dir takes that of the "
+                        "application's program (see hvtheme check --help)\n"));
 }
 
 void tst_Cli::formats_data()

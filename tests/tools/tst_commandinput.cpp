@@ -72,8 +72,8 @@ void tst_CommandInput::badFolder_data()
 
     const QStringList sorts{"missing",   "file",   "empty", "pipe",     "device",
                             "directory", "binary", "large", "own-pipe", "endless-gradient"};
-    const QStringList reasons{"no such folder",
-                              "not a folder",
+    const QStringList reasons{"no such folder; name the one with the theme files",
+                              "not a folder; name the one with the theme files",
                               "no default.theme",
                               "not a regular file",
                               "not a regular file",

@@ -9,7 +9,9 @@
 #include <QUrl>
 #include <QtTest>
 
-// The SARIF log keeps to what the published schema of version 2.1.0 says of the objects in it.
+// The SARIF log keeps to what the published schema of version 2.1.0 says of the objects in it. Here stand
+// the objects and properties that the log has or may get, with the words and ranges that they are held to;
+// the test sarif_reader holds names and required properties against classes generated from all of the schema.
 class tst_Sarif : public QObject
 {
     Q_OBJECT
