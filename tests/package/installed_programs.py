@@ -9,10 +9,12 @@ SUFFIX is what the names of the programs end in; it may be empty. Then removes t
 1 one does not, 2 wrong usage.
 """
 
+import json
 import os
 import pathlib
 import shutil
 import sys
+import urllib.parse
 
 from steps import expect, in_new_folder, run
 
@@ -36,6 +38,10 @@ def use_command(program, prefix, work, environment):
     sheet, _ = run(program, "render", themes, "dark", env=environment)
     path = f"{prefix}/share/hvtheme/themes/dark/checkbox_on.svg"
     expect(path in sheet, f"the style sheet does not name {path}")
+    log, _ = run(program, "check", themes, "--format", "sarif", env=environment)
+    for rule in json.loads(log)["runs"][0]["tool"]["driver"]["rules"]:
+        page = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(rule["helpUri"]).path))
+        expect(page.exists(), f"{rule['id']} has no page {page}")
     seen, _ = run(program, "run", "--theme", "dark", "--", "env", env=environment)
     folder = dict(line.split("=", 1) for line in seen.splitlines() if "=" in line)["QT_PLUGIN_PATH"].split(":")[-1]
     plugins = sorted(pathlib.Path(folder).glob("generic/*.so"))
@@ -75,6 +81,8 @@ def check(work, cmake, build, config, version, suffix):
     environment.update(QT_QPA_PLATFORM="offscreen", XDG_RUNTIME_DIR=str(work))
     for page in ("README.md", "docs/theme-files.md", "docs/rules/key-exists.md"):
         expect((moved / "share/doc/hvtheme" / page).exists(), f"{page} is not installed")
+    pages = [path.name for path in moved.rglob("rules/*.md")]
+    expect(len(pages) == len(set(pages)), "pages of rules are installed twice")
     programs = sorted(path for path in (moved / "bin").iterdir())
     expect(programs, "no program is installed")
     for program in programs:
