@@ -63,7 +63,6 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     m_goesOn->setChecked(true);
     m_goesOn->setToolTip(tr("The program gets the new theme, and further changes go there"));
     m_folder->setAccessibleName(tr("Folder"));
-    m_folder->setMinimumWidth(320);
     m_name->setAccessibleName(tr("Name"));
     m_displayName->setAccessibleName(tr("Name for people"));
     m_problem->setWordWrap(true);
@@ -98,6 +97,8 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     m_name->setFocus();
     m_name->selectAll();
+    // The look of the inspector resets least widths; a path has room all the same.
+    resize(sizeHint().expandedTo(QSize(520, 0)));
 }
 
 void NewThemeDialog::chooseFolder()

@@ -75,6 +75,10 @@ QScrollBar::handle:hover, QScrollBar::handle:pressed {background-color: #70707a;
 QScrollBar::add-line, QScrollBar::sub-line {width: 0; height: 0; border: none; background: none; image: none;}
 QScrollBar::add-page, QScrollBar::sub-page {background: none; image: none;}
 QSplitter::handle {background-color: #c4c4cc; image: none;}
+QSplitter::handle:horizontal {margin: 0 1px;}
+QSplitter::handle:vertical {margin: 1px 0;}
+QColorLuminancePicker {min-width: 20px;}
+QColorShowLabel {min-width: 40px; min-height: 24px;}
 )");
 }
 
