@@ -33,7 +33,7 @@ InspectorPane::InspectorPane(Source source, QWidget *parent)
     : QWidget(parent)
     , m_source(std::move(source))
     , m_sheet(m_source())
-    , m_tree(&InspectorPane::isOwn)
+    , m_tree(&InspectorPane::isOwnRoot)
     , m_picker(&InspectorPane::isOwn)
     , m_changes(ProgramChanges::ofProgram())
 {
@@ -91,12 +91,15 @@ InspectorPane::~InspectorPane()
 
 bool InspectorPane::isOwn(const QWidget *widget)
 {
-    for (; widget; widget = widget->parentWidget()) {
-        if (qobject_cast<const InspectorPane *>(widget) || Outline::isFrame(widget)
-            || widget->property("hvthemeInspector").toBool())
-            return true;
-    }
-    return false;
+    while (widget && !isOwnRoot(widget))
+        widget = widget->parentWidget();
+    return widget != nullptr;
+}
+
+bool InspectorPane::isOwnRoot(const QWidget *widget)
+{
+    return qobject_cast<const InspectorPane *>(widget) || Outline::isFrame(widget)
+        || widget->property("hvthemeInspector").toBool();
 }
 
 void InspectorPane::pick(QWidget *widget, const WidgetPart &part)

@@ -68,7 +68,10 @@ public:
      */
     bool mayClose(SaveBar::Closing closing);
 
+    /*! \brief Tells whether \a widget is a part of an inspector. */
     static bool isOwn(const QWidget *widget);
+    /*! \brief Tells whether a part of an inspector begins with \a widget. */
+    static bool isOwnRoot(const QWidget *widget);
 
     /*! \brief Lets \a finder say what the user points at, see Picker::setFinder(). */
     void setFinder(Picker::Finder finder) { m_picker.setFinder(std::move(finder)); }

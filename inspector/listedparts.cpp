@@ -29,6 +29,61 @@ void setEnabled(QSet<QString> *states, bool isEnabled)
         set(states, "hover", false);
 }
 
+bool isHidden(const QAbstractItemView *view, int row)
+{
+    if (const auto *list = qobject_cast<const QListView *>(view))
+        return list->isRowHidden(row);
+    const auto *table = qobject_cast<const QTableView *>(view);
+    return table && table->isRowHidden(row);
+}
+
+// Rows before that of an index that are not hidden: Qt paints every other one as alternate.
+int rowsBefore(const QAbstractItemView *view, const QModelIndex &index)
+{
+    int count = 0;
+    if (const auto *tree = qobject_cast<const QTreeView *>(view)) {
+        for (QModelIndex above = tree->indexAbove(index); above.isValid();
+             above = tree->indexAbove(above))
+            ++count;
+        return count;
+    }
+    for (int row = 0; row < index.row(); ++row)
+        count += isHidden(view, row) ? 0 : 1;
+    return count;
+}
+
+// Tells whether each row lies below the one before it.
+bool goesDown(const QAbstractItemView *view)
+{
+    if (const auto *list = qobject_cast<const QListView *>(view))
+        return list->flow() == QListView::TopToBottom && !list->isWrapping()
+            && list->viewMode() == QListView::ListMode;
+    if (const auto *table = qobject_cast<const QTableView *>(view))
+        return !table->verticalHeader()->sectionsMoved();
+    return qobject_cast<const QTreeView *>(view) != nullptr;
+}
+
+// The columns that may be seen, of models that may have thousands.
+QVector<int> seenColumns(const QAbstractItemView *view)
+{
+    QVector<int> columns;
+    if (const auto *list = qobject_cast<const QListView *>(view))
+        return {list->modelColumn()};
+    const auto *table = qobject_cast<const QTableView *>(view);
+    const auto *tree = qobject_cast<const QTreeView *>(view);
+    const QHeaderView *header = table ? table->horizontalHeader() : tree ? tree->header() : nullptr;
+    const int count = header ? header->count() : view->model()->columnCount(view->rootIndex());
+    for (int column = 0; column < count; ++column) {
+        const int left = header ? header->sectionViewportPosition(column) : 0;
+        const bool isSeen = !header
+            || (!header->isSectionHidden(column) && left < view->viewport()->width()
+                && left + header->sectionSize(column) > 0);
+        if (isSeen)
+            columns << column;
+    }
+    return columns;
+}
+
 } // namespace
 
 void Parts::addItems(const QAbstractItemView *view)
@@ -40,39 +95,51 @@ void Parts::addItems(const QAbstractItemView *view)
     QModelIndex index = view->indexAt(QPoint(2, 2));
     if (!index.isValid())
         index = model->index(0, 0, view->rootIndex());
-    const QModelIndex focus = view->currentIndex();
+    const QVector<int> columns = seenColumns(view);
+    const bool isDownward = goesDown(view);
+    int number = view->alternatingRowColors() && index.isValid() ? rowsBefore(view, index) : 0;
     for (int row = 0; index.isValid() && row < most; ++row) {
-        for (int column = 0; column < model->columnCount(index.parent()); ++column) {
-            const QModelIndex cell = index.sibling(index.row(), column);
-            const QRect rect = view->visualRect(cell);
-            if (!rect.intersects(visible))
+        if (isDownward && view->visualRect(index).top() > visible.bottom())
+            break;
+        for (const int column : columns) {
+            if (column >= model->columnCount(index.parent()))
                 continue;
-            QSet<QString> states = m_states;
-            setEnabled(&states,
-                       states.contains(QStringLiteral("enabled"))
-                           && cell.flags().testFlag(Qt::ItemIsEnabled));
-            const bool isSelected =
-                view->selectionModel() && view->selectionModel()->isSelected(cell);
-            set(&states, "selected", isSelected);
-            set(&states, "focus", cell == focus && m_states.contains(QStringLiteral("focus")));
-            set(&states, "hover", false);
-            set(&states, "alternate", view->alternatingRowColors() && row % 2 == 1);
-            states += position(column, model->columnCount(index.parent()));
-            const QString label = cell.data().toString();
-            add("item", rect, states, label);
-            const QVariant check = cell.data(Qt::CheckStateRole);
-            if (check.isValid()) {
-                set(&states, "checked", check.toInt() == Qt::Checked);
-                set(&states, "unchecked", check.toInt() == Qt::Unchecked);
-                set(&states, "indeterminate", check.toInt() == Qt::PartiallyChecked);
-                add("indicator", {}, states, label);
-            }
+            const QModelIndex cell = index.sibling(index.row(), column);
+            if (!view->visualRect(cell).intersects(visible))
+                continue;
+            addItem(view, cell, view->alternatingRowColors() && number % 2 == 1);
         }
+        number += isHidden(view, index.row()) ? 0 : 1;
         const auto *tree = qobject_cast<const QTreeView *>(view);
         index = tree ? tree->indexBelow(index) : index.sibling(index.row() + 1, index.column());
     }
     if (qobject_cast<const QTreeView *>(view))
         addQuiet({"branch"});
+}
+
+void Parts::addItem(const QAbstractItemView *view, const QModelIndex &cell, bool isAlternate)
+{
+    QSet<QString> states = m_states;
+    setEnabled(&states,
+               states.contains(QStringLiteral("enabled"))
+                   && cell.flags().testFlag(Qt::ItemIsEnabled));
+    const bool isSelected = view->selectionModel() && view->selectionModel()->isSelected(cell);
+    const bool hasFocus =
+        cell == view->currentIndex() && m_states.contains(QStringLiteral("focus"));
+    set(&states, "selected", isSelected);
+    set(&states, "focus", hasFocus);
+    set(&states, "hover", false);
+    set(&states, "alternate", isAlternate);
+    states += position(cell.column(), cell.model()->columnCount(cell.parent()));
+    const QString label = cell.data().toString();
+    add("item", view->visualRect(cell), states, label);
+    const QVariant check = cell.data(Qt::CheckStateRole);
+    if (!check.isValid())
+        return;
+    set(&states, "checked", check.toInt() == Qt::Checked);
+    set(&states, "unchecked", check.toInt() == Qt::Unchecked);
+    set(&states, "indeterminate", check.toInt() == Qt::PartiallyChecked);
+    add("indicator", {}, states, label);
 }
 
 void Parts::addTabs(const QTabBar *bar)

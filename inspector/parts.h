@@ -13,6 +13,7 @@
 class QAbstractButton;
 class QAbstractItemView;
 class QHeaderView;
+class QModelIndex;
 class QTabBar;
 class QToolBox;
 
@@ -79,6 +80,8 @@ public:
                   QAbstractSpinBox::StepEnabledFlag step);
 
 private:
+    void addItem(const QAbstractItemView *view, const QModelIndex &cell, bool isAlternate);
+
     const QWidget *m_widget;
     const QSet<QString> m_states;
     bool m_isActive = false;

@@ -87,8 +87,13 @@ void WidgetTree::refresh()
     m_itemOf.clear();
     QSet<const QWidget *> known;
     const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows)
-        append(m_items.invisibleRootItem(), window, &known);
+    for (QWidget *window : windows) {
+        const QWidget *above = window->parentWidget(); // dialogs have one
+        while (above && !m_isOwn(above))
+            above = above->parentWidget();
+        if (!above)
+            append(m_items.invisibleRootItem(), window, &known);
+    }
     setSourceModel(&m_items);
 }
 

@@ -22,6 +22,7 @@ class WidgetTree : public QSortFilterProxyModel
     Q_OBJECT
 
 public:
+    /*! \brief Leaves out those widgets that \a isOwn says yes to, with all below them. */
     explicit WidgetTree(std::function<bool(const QWidget *)> isOwn, QObject *parent = nullptr);
 
     /*! \brief Takes the widgets as they are now. */

@@ -71,6 +71,8 @@ private Q_SLOTS:
     void ruleOfTwoTemplates();
     void containers();
     void parts();
+    void alternateRows_data();
+    void alternateRows();
     void whyNot_data();
     void whyNot();
     void users();
@@ -232,6 +234,62 @@ void tst_Inspection::parts()
     const QRect second = window.list->visualItemRect(window.list->item(1));
     QCOMPARE(widgetPartAt(window.list, second.center()).label, QString("two"));
     QCOMPARE(widgetPartAt(window.label, QPoint(1, 1)).subControl, QString());
+}
+
+void tst_Inspection::alternateRows_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("hidesOne");
+
+    QTest::newRow("list") << "list" << false;
+    QTest::newRow("list-hidden-row") << "list" << true;
+    QTest::newRow("table") << "table" << false;
+    QTest::newRow("table-hidden-row") << "table" << true;
+    QTest::newRow("tree") << "tree" << false;
+}
+
+// Qt counts from the first row, not from the first that is scrolled into sight.
+void tst_Inspection::alternateRows()
+{
+    QFETCH(QString, kind);
+    QFETCH(bool, hidesOne);
+    QListWidget list;
+    QTableWidget table(60, 3);
+    QTreeWidget tree;
+    for (int i = 0; i < 60; ++i) {
+        list.addItem(QString::number(i));
+        table.setItem(i, 0, new QTableWidgetItem(QString::number(i)));
+        QTreeWidgetItem *above =
+            i % 2 == 0 ? tree.invisibleRootItem() : tree.topLevelItem(tree.topLevelItemCount() - 1);
+        new QTreeWidgetItem(above, {QString::number(i)});
+    }
+    tree.expandAll();
+    list.setRowHidden(2, hidesOne);
+    table.setRowHidden(2, hidesOne);
+    QAbstractItemView *view = &list;
+    if (kind != "list")
+        view = kind == "table" ? static_cast<QAbstractItemView *>(&table) : &tree;
+    view->setAlternatingRowColors(true);
+    view->setAttribute(Qt::WA_DontShowOnScreen);
+    view->resize(240, 200);
+    view->show();
+    const QVector<WidgetPart> unscrolled = widgetParts(view);
+    QVERIFY(unscrolled.size() < 30); // what lies below is not looked at
+    const QModelIndex eleventh = kind == "tree"
+        ? tree.model()->index(0, 0, tree.model()->index(5, 0))
+        : view->model()->index(11, 0);
+    view->scrollTo(eleventh, QAbstractItemView::PositionAtTop);
+    int found = 0;
+    const QVector<WidgetPart> parts = widgetParts(view);
+    for (const WidgetPart &part : parts) {
+        const int number = part.label.toInt();
+        if (part.subControl != "item" || part.label.isEmpty())
+            continue;
+        QVERIFY(number > 9);
+        ++found;
+        QCOMPARE(part.states.contains("alternate"), (number - (hidesOne ? 1 : 0)) % 2 == 1);
+    }
+    QVERIFY(found > 3);
 }
 
 void tst_Inspection::whyNot_data()
