@@ -16,8 +16,10 @@ struct Note {
     const char *reason;
 };
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 constexpr char dayDelegate[] = "the calendar draws its days with a delegate of its own, which asks "
                                "no style sheet; colours come from the view and its palette.";
+#endif
 constexpr char innerEdit[] = "color does not reach the text, which belongs to the inner line edit "
                              "and takes the rules of QLineEdit.";
 constexpr char comboDelegate[] = "Qt asks it only of a combo box whose item delegate is a "
@@ -30,11 +32,13 @@ constexpr char calendarButton[] = "the rule for all tool buttons of a calendar s
 // clang-format off
 constexpr Note notes[] = {
     {Kind::Ignored, "QCalendarWidget", "a calendar paints no box of its own, and its children cover it."},
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // which asks the style sheet
     {Kind::Ignored, "QCalendarWidget QTableView::item", dayDelegate},
     {Kind::Ignored, "QCalendarWidget QTableView::item:selected", dayDelegate},
     {Kind::Ignored, "QCalendarWidget QTableView::item:hover", dayDelegate},
     {Kind::Ignored, "QCalendarWidget QTableView::item:disabled", dayDelegate},
     {Kind::Ignored, "QCalendarWidget QTableView::item:disabled:selected", dayDelegate},
+#endif
     {Kind::Ignored, "QCalendarWidget QHeaderView::section", "the calendar hides its headers and draws the names of the days as its first row."},
     {Kind::Hidden, "QCalendarWidget QSpinBox:hover", "the border has that colour already."},
     {Kind::Hidden, "QCalendarWidget QSpinBox:focus", "the rule QSpinBox:focus says the same."},

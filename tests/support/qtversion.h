@@ -35,6 +35,10 @@ constexpr int pointersOfText = isQt6 ? 3 : 1;
     drawn with the text. */
 constexpr bool smoothsLinesOfTexts = isQt6;
 
+/*! How Qt logs a property that no style sheet has. */
+inline const QString unknownPropertyLevel =
+    isQt6 ? QStringLiteral("warning") : QStringLiteral("debug");
+
 /*! What Qt logs when an invalid regular expression is used; Qt 6 tells the pattern too. */
 inline QString badExpression(const QString &pattern)
 {
