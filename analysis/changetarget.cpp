@@ -15,7 +15,7 @@ constexpr int mostTargets = 100;
 
 using Takers = QHash<const Definition *, QVector<const Definition *>>;
 
-// By palette entry, all that is taken from it directly; an entry that is stored later gives nothing.
+// By palette entry, all that is taken from it directly.
 Takers takersIn(const ThemeStack &theme)
 {
     Takers takers;
@@ -24,15 +24,9 @@ Takers takersIn(const ThemeStack &theme)
         const Definition &taker = definitions.at(i);
         if (taker.fate != Definition::Fate::Stored)
             continue;
-        QSet<int> entries{taker.palette};
-        for (const GradientStopValue &stop : qAsConst(taker.value->stops)) {
-            const QString name = stop.color.toString();
-            entries.insert(theme.stored(Kind::Palette).value(name, -1));
-        }
-        for (const int entry : qAsConst(entries)) {
-            if (entry >= 0 && entry < i)
-                takers[&definitions.at(entry)].append(&taker);
-        }
+        const QSet<int> entries = theme.paletteEntriesOf(i);
+        for (const int entry : entries)
+            takers[&definitions.at(entry)].append(&taker);
     }
     return takers;
 }

@@ -171,21 +171,14 @@ void Explanation::tellWithoutEffect()
 
 void Explanation::tellUsers()
 {
-    const Definition *entry = m_theme.find(Kind::Palette, m_key);
-    if (!entry)
+    const int entry = m_theme.stored(Kind::Palette).value(m_key, -1);
+    if (entry < 0)
         return;
-    const auto isUser = [&](const Definition &definition) {
-        if (definition.fate != Definition::Fate::Stored)
-            return false;
-        for (const GradientStopValue &stop : definition.value->stops) {
-            if (stop.color.toString() == m_key)
-                return true;
-        }
-        return definition.palette >= 0 && &m_theme.definitions().at(definition.palette) == entry;
-    };
     int count = 0;
-    for (const Definition &definition : m_theme.definitions()) {
-        if (!isUser(definition))
+    for (int i = 0; i < m_theme.definitions().size(); ++i) {
+        const Definition &definition = m_theme.definitions().at(i);
+        if (definition.fate != Definition::Fate::Stored
+            || !m_theme.paletteEntriesOf(i).contains(entry))
             continue;
         ++count;
         m_steps.append(step(Topic::Taker, definition));

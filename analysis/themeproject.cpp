@@ -13,9 +13,6 @@
 namespace
 {
 
-// The library counts to the size that a gradient claims; a slip of some digits takes it minutes.
-constexpr int gradientSizeLimit = 10000;
-
 std::unique_ptr<ThemeLayer> readLayer(const ThemeFolder &folder, const QString &name,
                                       const QHash<QString, QByteArray> &contents, QString *error)
 {

@@ -6,6 +6,7 @@
 #include <format/themepath.h>
 #include <hvtheme/inifile.h>
 
+#include <QDir>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -106,7 +107,9 @@ std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QSt
     const auto own = iniText(folder, ownComment,
                              [&](QSettings *settings) { writeOwn(theme, displayName, settings); });
     if (!folder.isValid() || !base || !own) {
-        *error = QStringLiteral("no temporary file can be written: ") % folder.errorString();
+        *error = QDir::tempPath()
+            % (folder.isValid() ? QLatin1String(": no temporary file can be written here")
+                                : QLatin1String(": no temporary folder can be made here"));
         return std::nullopt;
     }
     return Maker::MadeThemes{

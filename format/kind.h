@@ -20,6 +20,13 @@ constexpr int kindCount = 6;
 constexpr Kind allKinds[kindCount] = {Kind::Palette,  Kind::Color, Kind::ImageFile,
                                       Kind::Gradient, Kind::Flag,  Kind::Integer};
 
+/*!
+ * \brief The greatest size that a gradient may claim for this project to have a theme read.
+ *
+ * The library counts to it; a slip of some digits takes it minutes.
+ */
+constexpr int gradientSizeLimit = 10000;
+
 /*! \brief Returns the section of a theme file that holds values of \a kind: "Palettes", … */
 QString sectionName(Kind kind);
 

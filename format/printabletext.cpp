@@ -3,6 +3,8 @@
 
 #include <format/printabletext.h>
 
+#include <system_error>
+
 namespace
 {
 
@@ -51,4 +53,9 @@ QString printableLines(const QString &text)
         start = at + 1;
     }
     return result;
+}
+
+QString systemReason(int number)
+{
+    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
 }

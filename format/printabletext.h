@@ -18,4 +18,7 @@ QString printable(const QString &text);
 /*! \brief Returns \a text in the same way, but leaves line ends and tabs as they are. */
 QString printableLines(const QString &text);
 
+/*! \brief Returns what the system says to its error \a number, a value of `errno`. */
+QString systemReason(int number);
+
 #endif

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include <format/kind.h>
 #include <format/place.h>
 #include <format/printabletext.h>
 #include <format/themepath.h>
@@ -22,7 +23,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <optional>
-#include <system_error>
 #include <unistd.h>
 
 namespace
@@ -68,9 +68,6 @@ bool isSpecial(const QString &path)
     const QFileInfo file(path);
     return file.exists() && !file.isFile();
 }
-
-// The library counts to the size that a gradient claims; a slip of some digits takes it minutes.
-constexpr int gradientSizeLimit = 10000;
 
 bool hasSaneGradients(const QString &path)
 {
@@ -179,9 +176,7 @@ bool writeIfChanged(const QString &path, const QByteArray &content)
         const ssize_t count =
             ::write(file.handle(), content.constData() + at, size_t(content.size() - at));
         if (count < 0)
-            return complain(
-                path % QLatin1String(": ")
-                % QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
+            return complain(path % QLatin1String(": ") % systemReason(errno));
         at += count;
     }
     return file.commit() || complain(path % QLatin1String(": ") % file.errorString());

@@ -3,6 +3,8 @@
 
 #include <maker/stagedfile.h>
 
+#include <format/printabletext.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -12,7 +14,6 @@
 #include <limits>
 #include <optional>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace Maker
@@ -20,11 +21,6 @@ namespace Maker
 
 namespace
 {
-
-QString systemReason(int number)
-{
-    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
-}
 
 bool isSameFile(const struct stat &a, const struct stat &b)
 {

@@ -3,12 +3,13 @@
 
 #include <maker/stagedfiles.h>
 
+#include <format/printabletext.h>
+
 #include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 
 namespace Maker
 {
@@ -37,8 +38,7 @@ bool StagedFiles::makeFolder(const QString &folder, QString *error)
     errno = 0;
     if (info.isDir() || QDir().mkpath(folder))
         return true;
-    const QString reason = errno != 0 ? QString::fromLocal8Bit(std::strerror(errno))
-                                      : QStringLiteral("no reason given");
+    const QString reason = errno != 0 ? systemReason(errno) : QStringLiteral("no reason given");
     *error = folder % QLatin1String(": the folder cannot be made: ") % reason;
     return false;
 }

@@ -3,6 +3,7 @@
 
 #include <tools/command_run.h>
 
+#include <format/printabletext.h>
 #include <format/themepath.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
@@ -14,7 +15,6 @@
 #include <QUrlQuery>
 
 #include <cerrno>
-#include <cstring>
 #include <unistd.h>
 
 namespace
@@ -111,7 +111,7 @@ int execute(const QString &name, char **arguments)
         return ExitNotFound;
     }
     printError(name % QLatin1String(": ") % program % QLatin1String(": cannot be executed: ")
-               % QString::fromLocal8Bit(std::strerror(error)));
+               % systemReason(error));
     return error == ENOENT ? ExitNotFound : ExitNotExecutable;
 }
 

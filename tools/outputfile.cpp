@@ -8,16 +8,10 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <system_error>
 #include <unistd.h>
 
 namespace
 {
-
-QString systemReason(int number)
-{
-    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
-}
 
 } // namespace
 

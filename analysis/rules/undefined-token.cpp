@@ -47,11 +47,6 @@ bool hasImages(const ThemeProject &project)
     });
 }
 
-bool isBuiltIn(const ThemeProject &project, const TemplateToken &token)
-{
-    return project.templates().fileAt(token.offset).input.path().startsWith(QLatin1String(":/"));
-}
-
 // The application library draws all images of the built-in templates itself for a theme that names
 // none, and has colours in place of the optional ones, so such a theme is whole.
 bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
@@ -59,7 +54,7 @@ bool isGivenByApplication(const ThemeProject &project, const TemplateToken &toke
 {
     const bool isGiven = (token.kind == Kind::ImageFile && isWithoutImages)
         || (token.kind == Kind::Color && isOptionalColor(token.key));
-    return isGiven && isBuiltIn(project, token);
+    return isGiven && isBuiltInTemplate(project, token.offset);
 }
 
 QVector<TemplateToken> undefinedTokens(const ThemeProject &project)
@@ -93,10 +88,10 @@ void check(const ThemeProject &project, Report &report)
     const QVector<TemplateToken> tokens = undefinedTokens(project);
     QHash<QString, int> builtInCounts;
     for (const TemplateToken &token : tokens)
-        builtInCounts[token.key] += isBuiltIn(project, token) ? 1 : 0;
+        builtInCounts[token.key] += isBuiltInTemplate(project, token.offset) ? 1 : 0;
     for (const TemplateToken &token : tokens) {
         QString count;
-        if (isBuiltIn(project, token)) {
+        if (isBuiltInTemplate(project, token.offset)) {
             const int number = builtInCounts.take(token.key);
             if (number == 0) // told with the first
                 continue;

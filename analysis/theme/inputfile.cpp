@@ -3,6 +3,7 @@
 
 #include <analysis/theme/inputfile.h>
 
+#include <format/printabletext.h>
 #include <format/themepath.h>
 
 #include <QFile>
@@ -10,16 +11,10 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace
 {
-
-QString systemReason(int number)
-{
-    return QString::fromLocal8Bit(std::generic_category().message(number).c_str());
-}
 
 QByteArray stampOf(const struct stat &status)
 {

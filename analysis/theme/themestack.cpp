@@ -38,6 +38,20 @@ void ThemeStack::load(const ThemeLayer &layer)
 
 ThemeStack::~ThemeStack() = default;
 
+QSet<int> ThemeStack::paletteEntriesOf(int definition) const
+{
+    const Definition &taker = m_definitions.at(definition);
+    QSet<int> entries{taker.palette};
+    for (const GradientStopValue &stop : taker.value->stops)
+        entries.insert(m_stored[int(Kind::Palette)].value(stop.color.toString(), -1));
+    QSet<int> earlier;
+    for (const int entry : qAsConst(entries)) {
+        if (entry >= 0 && entry < definition)
+            earlier.insert(entry);
+    }
+    return earlier;
+}
+
 QString ThemeStack::displayName() const
 {
     return m_theme->displayName();

@@ -10,6 +10,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QSet>
 #include <QVariantMap>
 
 #include <memory>
@@ -87,6 +88,13 @@ public:
 
     /*! \brief Returns the definitions in force of \a kind by key. */
     const QHash<QString, int> &stored(Kind kind) const { return m_stored[int(kind)]; }
+
+    /*!
+     * \brief Returns the palette entries that a definition takes colours from, by index as it is.
+     *
+     * One that is stored later than the definition gives it nothing, whatever its name.
+     */
+    QSet<int> paletteEntriesOf(int definition) const;
 
     /*!
      * \brief Returns HV::Theme::values() as an application that stands in \a applicationFolder has

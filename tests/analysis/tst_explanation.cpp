@@ -18,6 +18,7 @@ private Q_SLOTS:
     void steps_data();
     void steps();
     void colorOfTheApplicationLibrary();
+    void takersOfALaterEntry();
     void elements_data();
     void elements();
     void elementsRefused_data();
@@ -117,6 +118,40 @@ void tst_Explanation::colorOfTheApplicationLibrary()
         QCOMPARE(explanation.steps().constLast().text,
                  QString("No template uses it; the application library takes it."));
     }
+}
+
+// What stands before an entry in the order of reading is black and not taken from it.
+void tst_Explanation::takersOfALaterEntry()
+{
+    const QTemporaryDir folder;
+    const QHash<QString, QByteArray> texts{
+        {"default.theme",
+         "[Palettes]\nEarly=#101010\n[Gradients]\nGlow=1\nGlow\\size=2\nGlow\\1\\pos=0\n"
+         "Glow\\1\\color=Early\nGlow\\2\\pos=1\nGlow\\2\\color=Late\n"},
+        {"night.theme", "[Palettes]\nLate=#202020\n[Colors]\nText=Late\n"}};
+    for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
+        QFile file(folder.filePath(it.key()));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(it.value());
+    }
+    ThemeProjectOptions options;
+    options.folder = folder.path();
+    options.themes = QStringList{"night"};
+    options.applicationFolder = QDir::currentPath();
+    QString error;
+    const auto project = ThemeProject::read(options, &error);
+    QVERIFY2(project, qPrintable(error));
+    const auto takers = [&](const QString &key) {
+        QStringList takers;
+        const Explanation explanation(*project, project->theme("night"), key);
+        for (const ExplanationStep &step : explanation.steps()) {
+            if (step.topic == ExplanationStep::Topic::Taker)
+                takers << shown(step);
+        }
+        return takers;
+    };
+    QCOMPARE(takers("Early"), QStringList("taker default.theme:4 [Gradients] Glow=1"));
+    QCOMPARE(takers("Late"), QStringList("taker night.theme:4 [Colors] Text=Late"));
 }
 
 void tst_Explanation::elements_data()
