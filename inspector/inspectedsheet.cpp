@@ -4,6 +4,7 @@
 #include <inspector/inspectedsheet.h>
 
 #include <analysis/messagelog.h>
+#include <analysis/style/styleparser.h>
 
 #include <QApplication>
 
@@ -54,7 +55,8 @@ struct InspectedSheet::Section {
 InspectedSheet::InspectedSheet(const QString &styleSheet, const InspectedTheme &theme)
     : m_text(styleSheet)
     , m_theme(theme)
-    , m_cascade(styleSheet)
+    , m_readSize(int(StyleParser::readPart(styleSheet).size()))
+    , m_cascade(styleSheet.left(m_readSize))
     , m_rules(styleSheet)
 {
     for (const InspectedTheme::Template &source : theme.templates)
@@ -134,6 +136,11 @@ QString InspectedSheet::applicationFolder() const
 {
     return m_theme.applicationFolder.isNull() ? QCoreApplication::applicationDirPath()
                                               : m_theme.applicationFolder;
+}
+
+Place InspectedSheet::unreadPlace() const
+{
+    return m_readSize == m_text.size() ? Place() : placeOfRule(m_readSize);
 }
 
 QString InspectedSheet::problem() const

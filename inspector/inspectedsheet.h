@@ -58,6 +58,9 @@ public:
     const ThemeProject *project() const;
     /*! \brief Returns the absolute folder that the theme's image paths start from. */
     QString applicationFolder() const;
+    /*! \brief Returns the place of the first rule of text() that Qt cannot read, which it drops with
+     *         all that follows; line 0 if it reads everything. */
+    Place unreadPlace() const;
     /*! \brief Returns why there is no project(), in a sentence. */
     QString problem() const;
 
@@ -89,6 +92,7 @@ private:
 
     const QString m_text;
     const InspectedTheme m_theme;
+    const int m_readSize; // of the text, by Qt
     const StyleCascade m_cascade;
     const StyleRules m_rules;
     std::vector<std::unique_ptr<Section>> m_sections;

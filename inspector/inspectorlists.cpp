@@ -211,6 +211,11 @@ void InspectorLists::showValues(QTreeWidget *list, const Inspection &inspection,
         for (const ValueChain &chain : value.chains)
             addChain(item, chain, value);
     }
+    const Place unread = sheet.unreadPlace();
+    if (unread.position.line > 0)
+        new QTreeWidgetItem(
+            list,
+            {tr("Qt cannot read the style sheet from here on"), QString(), placeText(unread)});
     if (!sheet.problem().isEmpty())
         new QTreeWidgetItem(list,
                             {tr("The theme's files cannot be read"), QString(), sheet.problem()});

@@ -3,6 +3,7 @@
 
 #include <analysis/style/styleelement.h>
 
+#include <analysis/style/styleparser.h>
 #include <analysis/style/stylevocabulary.h>
 
 #include <QtWidgets>
@@ -73,7 +74,7 @@ StyleNode nodeOf(const QObject *object, const QStringList &attributes)
     StyleNode node;
     node.classes = classesOf(object);
     node.name = object->objectName();
-    node.styleSheet = object->property("styleSheet").toString();
+    node.styleSheet = StyleParser::readPart(object->property("styleSheet").toString());
     for (const QString &name : attributes) {
         const QString value = attributeOf(object, name);
         if (!value.isNull())

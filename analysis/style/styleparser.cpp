@@ -6,6 +6,7 @@
 #include <analysis/style/stylerules.h>
 
 #include <QGuiApplication>
+#include <QHash>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QVariant>
@@ -101,6 +102,27 @@ bool StyleParser::accepts(const QString &styleSheet)
                                   % QStringLiteral("-qt-block-indent:%1}").arg(indent));
     document.setHtml(QStringLiteral("<p id=\"hvtheme-end\">x</p>"));
     return document.firstBlock().blockFormat().indent() == indent;
+}
+
+QString StyleParser::readPart(const QString &styleSheet)
+{
+    if (styleSheet.isEmpty() || !isAvailable())
+        return styleSheet;
+    static QHash<QString, QString> known; // of widgets that are asked about again and again
+    const auto found = known.constFind(styleSheet);
+    if (found != known.cend())
+        return *found;
+    QString part = styleSheet;
+    if (!styleSheet.contains(QLatin1Char('{')))
+        part =
+            accepts(QLatin1String("*{") % styleSheet % QLatin1Char('}')) ? styleSheet : QString();
+    else if (!accepts(styleSheet))
+        part = styleSheet.left(rejectedRules(styleSheet).value(0));
+    constexpr int mostKnown = 100;
+    if (known.size() >= mostKnown)
+        known.clear();
+    known.insert(styleSheet, part);
+    return part;
 }
 
 QVector<int> StyleParser::rejectedRules(const QString &styleSheet)

@@ -36,6 +36,14 @@ bool accepts(const QString &styleSheet);
  */
 QVector<int> rejectedRules(const QString &styleSheet);
 
+/*!
+ * \brief Returns what Qt goes by: \a styleSheet up to the first rule that it cannot read.
+ *
+ * Declarations without a rule, which a widget may have, are read whole or not at all. Without a
+ * QGuiApplication the whole text is returned. For the thread of the application.
+ */
+QString readPart(const QString &styleSheet);
+
 } // namespace StyleParser
 
 #endif

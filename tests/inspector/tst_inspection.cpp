@@ -3,6 +3,7 @@
 
 #include "quietplatform.h"
 
+#include <analysis/messagelog.h>
 #include <inspector/inspection.h>
 #include <inspector/mismatch.h>
 #include <inspector/usage.h>
@@ -67,6 +68,7 @@ private Q_SLOTS:
     void chainOfAValue();
     void plainValues();
     void ownStyleSheet();
+    void unreadStyleSheet();
     void replacedStyleSheet();
     void ruleOfTwoTemplates();
     void containers();
@@ -167,6 +169,39 @@ void tst_Inspection::ownStyleSheet()
     window.label->setStyleSheet("QLabel { color: ");
     const Inspection broken = Inspection::of(window.label, itself(window.label), *sheet);
     QVERIFY(broken.value("color"));
+    QVERIFY(broken.value("color")->match.sheet == StyleMatch::application
+            || !broken.value("color")->isOfRule());
+    // The same as Qt, which keeps what it has read.
+    for (const char *text : {"QLabel { color: #010203 } } QLabel { color: #040506 }",
+                             "QLabel { color: #010203 } QLabel [ { color: #040506 }",
+                             "QLabel [ { color: #040506 } QLabel { color: #010203 }"}) {
+        const MessageLog silence; // Qt says once or twice that it cannot read it all
+        window.label->setStyleSheet(text);
+        window.label->ensurePolished();
+        const Inspection partly = Inspection::of(window.label, itself(window.label), *sheet);
+        QCOMPARE(QColor(partly.value("color")->value).name(),
+                 window.label->palette().color(QPalette::WindowText).name());
+    }
+}
+
+// Qt reads an application's style sheet up to its first mistake.
+void tst_Inspection::unreadStyleSheet()
+{
+    Window window;
+    const QString whole = qApp->styleSheet();
+    const QString own("QLabel { color: #112233 }\n} QLabel { color: #445566 }");
+    QTest::ignoreMessage(QtWarningMsg, "Could not parse application stylesheet");
+    qApp->setStyleSheet(own);
+    window.label->ensurePolished();
+    const QColor painted = window.label->palette().color(QPalette::WindowText);
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(window.label, itself(window.label), *sheet);
+    const Place unread = sheet->unreadPlace();
+    qApp->setStyleSheet(whole);
+    QCOMPARE(painted.name(), QString("#112233"));
+    QCOMPARE(inspection.value("color")->value, QString("#112233"));
+    QCOMPARE(unread.position.line, 2);
+    QCOMPARE(InspectedSheet::inForce()->unreadPlace().position.line, 0);
 }
 
 void tst_Inspection::replacedStyleSheet()
