@@ -450,8 +450,8 @@ void tst_BadLooks::templatesChangedWhileRead()
     for (int i = 0; i < 20 || (counts.size() < 2 && time.elapsed() < 5000); ++i) {
         if (!m_theme->setName(i % 2 ? "dark" : "light"))
             break;
-        counts.insert(qApp->styleSheet().count("QLabel#a {color: #010203;}")
-                      + qApp->styleSheet().count("QLabel#a {color: #040506;}"));
+        counts.insert(int(qApp->styleSheet().count("QLabel#a {color: #010203;}")
+                          + qApp->styleSheet().count("QLabel#a {color: #040506;}")));
     }
     isOver = true;
     writer.join();
