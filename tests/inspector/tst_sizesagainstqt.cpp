@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "qtversion.h"
 #include "quietplatform.h"
 #include "widgetzoo.h"
 
@@ -190,7 +191,7 @@ void tst_SizesAgainstQt::compareFont(const QWidget *widget, const Inspection &in
         size && inspection.value("font-size")->value.endsWith("pt"))
         count(widget, "font-size", *size, font.pointSizeF());
     if (const auto weight = numberOf(inspection, "font-weight"))
-        count(widget, "font-weight", qMin(qRound(*weight / 8), 99), font.weight());
+        count(widget, "font-weight", QtDifference::fontWeight(*weight), int(font.weight()));
     if (const InspectedValue *style = inspection.value("font-style"); style && style->isOfRule())
         count(widget, "font-style", true, font.italic());
 }

@@ -35,6 +35,12 @@ constexpr int pointersOfText = isQt6 ? 3 : 1;
     drawn with the text. */
 constexpr bool smoothsLinesOfTexts = isQt6;
 
+/*! What QFont::weight() is for a weight of a style sheet, which counts as the web does. */
+inline int fontWeight(double ofStyleSheet)
+{
+    return isQt6 ? qRound(ofStyleSheet) : qMin(qRound(ofStyleSheet / 8), 99);
+}
+
 /*! How Qt logs a property that no style sheet has. */
 inline const QString unknownPropertyLevel =
     isQt6 ? QStringLiteral("warning") : QStringLiteral("debug");
