@@ -261,7 +261,7 @@ void tst_BadLooks::missingImage()
     QCOMPARE(messages.size(), 1);
     QCOMPARE(messages.first().text, "\"down\" \t \"" + path + "\"  is not exist!");
     // The path stands wherever it would without.
-    QVERIFY(qApp->styleSheet().count("url(" + path + ")") > 5);
+    QVERIFY(qApp->styleSheet().count(path) > 5);
     QVERIFY(!qApp->styleSheet().contains("theme.image"));
 }
 

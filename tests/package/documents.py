@@ -39,6 +39,7 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
 
 from steps import Failure, expect, run
 
@@ -349,6 +350,8 @@ def main(arguments):
         print(__doc__, file=sys.stderr)
         return 2
     cmake, build, config, cxx, pkg_config, work, *pages = arguments
+    if " " in work: # which no shell keeps together in what pkg-config prints
+        work = tempfile.mkdtemp(prefix="hvtheme-pages-")
     failures = []
     try:
         workshop = Workshop(cmake, pathlib.Path(build), config, cxx, pkg_config, pathlib.Path(work))
