@@ -5,9 +5,9 @@
 
 #include "applicationtheme.h"
 #include "missingimages.h"
-#include "quotedurls.h"
 #include "themefolder.h"
 
+#include <format/quotedurls.h>
 #include <format/themepath.h>
 #include <hvtheme/theme.h>
 #include <hvtheme/theming.h>
@@ -138,7 +138,7 @@ QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
     QString sheet = sheetOf(builtInFiles(keepsFonts), builtInPrefix());
     for (const Folder &folder : m_folders)
         sheet += sheetOf(folder.path, folder.prefix);
-    return withQuotedUrls(sheet, theme);
+    return withQuotedUrls(sheet, theme->values());
 }
 
 } // namespace HV

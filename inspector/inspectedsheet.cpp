@@ -5,6 +5,7 @@
 
 #include <analysis/messagelog.h>
 #include <analysis/style/styleparser.h>
+#include <format/quotedurls.h>
 
 #include <QApplication>
 
@@ -79,14 +80,14 @@ void InspectedSheet::addSection(const InspectedTheme::Template &source)
         m_problem = error;
         return;
     }
-    const FinishedStyleSheet finished =
-        finishedStyleSheet(source.prefix, m_theme.values, templates->text());
+    const QString finished = withQuotedUrls(
+        finishedStyleSheet(source.prefix, m_theme.values, templates->text()).text, m_theme.values);
     const int from = m_sections.empty() ? 0 : m_sections.back()->end;
-    const int start = finished.text.isEmpty() ? -1 : int(m_text.indexOf(finished.text, from));
+    const int start = finished.isEmpty() ? -1 : int(m_text.indexOf(finished, from));
     if (start < 0)
         return; // the program has replaced it, or a file has changed since
     auto section = std::make_unique<Section>(Section{
-        *templates, StyleRules(templates->text()), {}, start, start + int(finished.text.size())});
+        *templates, StyleRules(templates->text()), {}, start, start + int(finished.size())});
     for (const StyleRule &rule : m_rules.rules()) {
         if (rule.start >= section->start && rule.end <= section->end)
             section->finished.append(rule);

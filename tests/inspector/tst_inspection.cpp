@@ -69,6 +69,7 @@ private Q_SLOTS:
     void plainValues();
     void ownStyleSheet();
     void unreadStyleSheet();
+    void pathWithASpace();
     void replacedStyleSheet();
     void ruleOfTwoTemplates();
     void containers();
@@ -202,6 +203,23 @@ void tst_Inspection::unreadStyleSheet()
     QCOMPARE(inspection.value("color")->value, QString("#112233"));
     QCOMPARE(unread.position.line, 2);
     QCOMPARE(InspectedSheet::inForce()->unreadPlace().position.line, 0);
+}
+
+// The application library quotes paths with a space, which the templates do not.
+void tst_Inspection::pathWithASpace()
+{
+    InspectedTheme theme = InspectedTheme::inForce();
+    const QString path = theme.values.value("turn_prev").toString();
+    QVERIFY(!path.isEmpty());
+    theme.values.insert("turn_prev", "/my icons/prev.svg");
+    QString text = qApp->styleSheet();
+    text.replace("url(" + path + ")", "url(\"/my icons/prev.svg\")");
+    const InspectedSheet sheet(text, theme);
+    const int at = int(text.indexOf("/my icons/"));
+    QVERIFY(at > 0);
+    const DeclarationOrigin origin = sheet.originOf(at);
+    QVERIFY(origin.isTemplate());
+    QCOMPARE(origin.tokens.value(0).key, QString("turn_prev"));
 }
 
 void tst_Inspection::replacedStyleSheet()

@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
-#include "quotedurls.h"
-
-#include <hvtheme/theme.h>
+#include <format/quotedurls.h>
 
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
 
-namespace HV
-{
 namespace
 {
 
@@ -24,10 +20,9 @@ bool isPlain(const QString &path)
 }
 
 // Longest first, so that none is taken for the beginning of another.
-QStringList strangePaths(Theme *theme)
+QStringList strangePaths(const QVariantMap &values)
 {
     QStringList paths;
-    const QVariantMap &values = theme->values();
     for (const QVariant &value : values) {
         const QString path = value.userType() == QMetaType::QString ? value.toString() : QString();
         if (!isPlain(path))
@@ -55,9 +50,9 @@ QString escaped(const QString &path)
 
 } // namespace
 
-QString withQuotedUrls(const QString &styleSheet, Theme *theme)
+QString withQuotedUrls(const QString &styleSheet, const QVariantMap &values)
 {
-    QStringList alternatives = strangePaths(theme);
+    QStringList alternatives = strangePaths(values);
     if (alternatives.isEmpty())
         return styleSheet;
     for (QString &path : alternatives)
@@ -77,5 +72,3 @@ QString withQuotedUrls(const QString &styleSheet, Theme *theme)
     }
     return result + styleSheet.mid(end);
 }
-
-} // namespace HV
