@@ -30,7 +30,8 @@ struct CommandRun {
         if (!outputFile.isEmpty())
             process.setStandardOutputFile(outputFile);
         process.start(commandPath(), arguments, QIODevice::ReadOnly);
-        isFinished = process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit;
+        isFinished =
+            process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit;
         exitCode = isFinished ? process.exitCode() : -1;
         output = process.readAllStandardOutput();
         errors = process.readAllStandardError();
