@@ -11,11 +11,6 @@ bool isSpace(char character)
     return character == ' ' || (character >= '\t' && character <= '\r');
 }
 
-bool isLineEnd(char character)
-{
-    return character == '\n' || character == '\r';
-}
-
 // A backslash takes the next character along, and a line end of two characters whole.
 int behindEscape(const QByteArray &text, int position)
 {
@@ -24,7 +19,7 @@ int behindEscape(const QByteArray &text, int position)
     const char first = text.at(position++);
     if (position < text.size()) {
         const char second = text.at(position);
-        if (isLineEnd(first) && isLineEnd(second) && first != second)
+        if (IniSyntax::isLineEnd(first) && IniSyntax::isLineEnd(second) && first != second)
             ++position;
     }
     return position;
@@ -32,7 +27,7 @@ int behindEscape(const QByteArray &text, int position)
 
 int behindComment(const QByteArray &text, int position)
 {
-    while (position < text.size() && !isLineEnd(text.at(position)))
+    while (position < text.size() && !IniSyntax::isLineEnd(text.at(position)))
         ++position;
     while (position < text.size() && isSpace(text.at(position)))
         ++position;
@@ -115,6 +110,20 @@ QString markedText(const QString &value)
 }
 
 } // namespace
+
+bool IniSyntax::isLineEnd(char character)
+{
+    return character == '\n' || character == '\r';
+}
+
+int IniSyntax::behindLine(const QByteArray &text, int position)
+{
+    while (position < text.size() && !isLineEnd(text.at(position)))
+        ++position;
+    if (position < text.size())
+        position += text.mid(position, 2) == "\r\n" ? 2 : 1;
+    return position;
+}
 
 bool IniSyntax::nextLine(const QByteArray &text, int *position, Line *line)
 {

@@ -17,6 +17,12 @@
 namespace IniSyntax
 {
 
+/*! \brief Tells whether \a character ends a line. */
+bool isLineEnd(char character);
+
+/*! \brief Returns where the next line of \a text begins after \a position, which is not quoted. */
+int behindLine(const QByteArray &text, int position);
+
 /*! \brief One logical line: offsets into the file's bytes. */
 struct Line {
     int start = 0;

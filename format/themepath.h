@@ -11,6 +11,13 @@ QString defaultThemeName();
 /*! \brief Returns "theme", what the names of theme files end in unless an application says else. */
 QString defaultThemeSuffix();
 
+/*!
+ * \brief The greatest size of a file that is taken for a theme's or a template.
+ *
+ * Far more than one needs, and far less than a program can read without being noticed.
+ */
+constexpr qint64 themeFileSizeLimit = qint64(4) * 1024 * 1024;
+
 /*! \brief Returns NAME.SUFFIX, the name of a theme's file. */
 QString themeFileName(const QString &name, const QString &suffix = defaultThemeSuffix());
 

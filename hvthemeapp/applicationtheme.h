@@ -244,7 +244,8 @@ public:
      * \brief Makes what save() wrote the look.
      *
      * \return false if nothing is written there, which is no problem(), or if it did not come into
-     *         force, and nothing then changes; the caller chooses: `if (!theme.restore(settings)) theme.followDesktop();`
+     *         force, and nothing then changes; the caller chooses:
+     *         `if (!theme.restore(settings)) theme.followDesktop();`
      */
     bool restore(const QSettings &settings);
 

@@ -296,12 +296,12 @@ void drawFlatFrame(const QStyleOptionFrame &option, QPainter &painter)
 QPixmap disabledPixmap(const QPixmap &pixmap)
 {
     QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
-    constexpr double opacity = 0.45;
     for (int y = 0; y < image.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
             const int gray = qGray(line[x]);
-            line[x] = qRgba(gray, gray, gray, qRound(qAlpha(line[x]) * opacity));
+            line[x] =
+                qRgba(gray, gray, gray, qRound(qAlpha(line[x]) * IconColors::disabledOpacity));
         }
     }
     return QPixmap::fromImage(image);

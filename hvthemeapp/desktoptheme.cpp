@@ -21,9 +21,8 @@ namespace
 // Nothing but a file is opened: a pipe would never end. A theme too large to be taken has no say.
 QString readable(const QString &path)
 {
-    constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
     const QFileInfo file(path);
-    const bool isTaken = file.isFile() && file.size() <= sizeLimit;
+    const bool isTaken = file.isFile() && file.size() <= themeFileSizeLimit;
     return isTaken ? path : QStringLiteral(":/hvthemeapp/none");
 }
 

@@ -13,6 +13,9 @@
 namespace HV::IconColors
 {
 
+/*! How much is left of a picture for what cannot be used. */
+constexpr double disabledOpacity = 0.45;
+
 /*!
  * \brief Draws all icons with \a values, as Theme::values() gives them, from now on.
  *

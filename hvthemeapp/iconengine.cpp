@@ -69,7 +69,7 @@ QPixmap faded(const QPixmap &pixmap)
     result.setDevicePixelRatio(pixmap.devicePixelRatio());
     result.fill(Qt::transparent);
     QPainter painter(&result);
-    painter.setOpacity(0.45);
+    painter.setOpacity(IconColors::disabledOpacity);
     painter.drawPixmap(0, 0, pixmap);
     return result;
 }

@@ -26,9 +26,9 @@ public:
     /*!
      * \brief Makes a themed style of the application's, and of each that replaces it later.
      *
-     * One of Qt's that the program changes through a QProxyStyle works behind it, and keeps the icons that it has
-     * of its own. A style that is all the program's is left alone. Cheap if it is done already. Needs a QApplication;
-     * call it on the GUI thread.
+     * One of Qt's that the program changes through a QProxyStyle works behind it, and keeps the icons
+     * that it has of its own. A style that is all the program's is left alone. Cheap if it is done
+     * already. Needs a QApplication; call it on the GUI thread.
      */
     static void install();
 

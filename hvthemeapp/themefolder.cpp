@@ -21,16 +21,13 @@ namespace HV
 namespace
 {
 
-// Far more than a theme needs, and far less than a program can read without being noticed.
-constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
-
 // Nothing but a file is opened: a pipe would never end.
 QString problemOfFile(const QString &path, bool isTheme)
 {
     const QFileInfo info(path);
     if (!info.isFile())
         return ApplicationTheme::tr("\"%1\" is no file").arg(path);
-    if (info.size() > sizeLimit)
+    if (info.size() > themeFileSizeLimit)
         return ApplicationTheme::tr("\"%1\" is larger than 4 MiB").arg(path);
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
@@ -148,7 +145,7 @@ QStringList ThemeFolder::names() const
 QString ThemeFolder::displayName(const QString &name) const
 {
     const QFileInfo info(file(name));
-    if (!info.isFile() || info.size() > sizeLimit)
+    if (!info.isFile() || info.size() > themeFileSizeLimit)
         return name;
     const QSettings settings(file(name), iniFormat(file(name)));
     const QString displayName = settings.value(QStringLiteral("ThemeName")).toString();

@@ -24,7 +24,6 @@ namespace
 {
 
 const int largestSide = 1024;
-const double disabledOpacity = 0.45;
 
 void warnOnce(const QString &text)
 {
@@ -95,9 +94,9 @@ QImage draw(const QString &path, const QSize &size, QIcon::Mode mode, Qt::Aspect
         drawPlaceholder(painter, area);
     if (mode == QIcon::Disabled) { // as a whole: shapes that overlap would show through one another
         painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-        painter.fillRect(
-            image.rect(),
-            QColor(QRgba64::fromRgba64(0, 0, 0, ushort(qRound(disabledOpacity * 0xffff)))));
+        painter.fillRect(image.rect(),
+                         QColor(QRgba64::fromRgba64(
+                             0, 0, 0, ushort(qRound(IconColors::disabledOpacity * 0xffff)))));
     }
     return image;
 }

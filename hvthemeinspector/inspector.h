@@ -21,8 +21,8 @@ namespace HV
  * ```
  *
  * A program has one inspector, in a window that no theme reaches. While it is closed nothing of it
- * exists but the key, and changes that the user kept. It keeps no widget alive, and no program running that has closed its windows, unless there
- * are changes that are not saved: then it asks.
+ * exists but the key, and changes that the user kept. It keeps no widget alive, and no program running
+ * that has closed its windows, unless there are changes that are not saved: then it asks.
  * Use it on the GUI thread, with a QApplication.
  */
 class HVTHEMEINSPECTOR_EXPORT Inspector

@@ -17,11 +17,6 @@ namespace
 
 const char byteOrderMark[] = "\xEF\xBB\xBF";
 
-bool isLineEnd(char character)
-{
-    return character == '\n' || character == '\r';
-}
-
 bool isBlank(char character)
 {
     return character == ' ' || character == '\t';
@@ -31,17 +26,7 @@ QByteArray lineEndOf(const QByteArray &line)
 {
     if (line.endsWith("\r\n"))
         return QByteArrayLiteral("\r\n");
-    return !line.isEmpty() && isLineEnd(line.back()) ? line.right(1) : QByteArray();
-}
-
-// Returns where the next line begins after position.
-int behindLine(const QByteArray &text, int position)
-{
-    while (position < text.size() && !isLineEnd(text.at(position)))
-        ++position;
-    if (position < text.size())
-        position += text.mid(position, 2) == "\r\n" ? 2 : 1;
-    return position;
+    return !line.isEmpty() && IniSyntax::isLineEnd(line.back()) ? line.right(1) : QByteArray();
 }
 
 QString rootSection()
@@ -75,7 +60,7 @@ ThemeText::ThemeText(const QByteArray &text)
         while (first > start && isBlank(text.at(first - 1)))
             --first;
         addPlainLines(text.mid(start, first - start), section);
-        start = position = behindLine(text, found.end);
+        start = position = IniSyntax::behindLine(text, found.end);
         Line line;
         line.text = text.mid(first, start - first);
         line.isHeader = text.at(found.start) == '[';
@@ -100,7 +85,7 @@ ThemeText::ThemeText(const QByteArray &text)
 void ThemeText::addPlainLines(const QByteArray &text, const QString &section)
 {
     for (int start = 0; start < text.size();) {
-        const int end = behindLine(text, start);
+        const int end = IniSyntax::behindLine(text, start);
         Line line;
         line.text = text.mid(start, end - start);
         line.section = section;

@@ -3,6 +3,7 @@
 
 #include <tools/command_run.h>
 
+#include <analysis/theme/themefolder.h>
 #include <format/printabletext.h>
 #include <format/themepath.h>
 #include <tools/commandline.h>
@@ -64,13 +65,12 @@ QString mistake(const QCommandLineParser &parser)
             % QLatin1String("\"; there are ") % names.join(QLatin1String(", "))
             % QLatin1String(", or name a folder with --themes");
     }
-    const QDir folder(parser.value(QStringLiteral("themes")));
-    if (!folder.exists(themeFileName(defaultThemeName())))
-        return folder.path()
-            % QLatin1String(": no default.theme here, with which every theme begins");
-    if (!theme.isEmpty() && !folder.exists(themeFileName(theme)))
-        return folder.path() % QLatin1String(": no theme is called \"") % theme % QLatin1Char('"');
-    return {};
+    QString error;
+    const auto folder =
+        ThemeFolder::open(parser.value(QStringLiteral("themes")), defaultThemeSuffix(), &error);
+    if (folder && !theme.isEmpty())
+        folder->read(theme, &error);
+    return error;
 }
 
 // The text for the plugin. Commas separate plugins and Qt reads the list as Latin-1, so all that is

@@ -14,28 +14,13 @@
 namespace
 {
 
-bool isLineEnd(char character)
-{
-    return character == '\n' || character == '\r';
-}
-
 QByteArray lineEndOf(const QByteArray &text)
 {
     for (int i = 0; i < text.size(); ++i) {
-        if (isLineEnd(text.at(i)))
+        if (IniSyntax::isLineEnd(text.at(i)))
             return text.mid(i, text.mid(i, 2) == "\r\n" ? 2 : 1);
     }
     return "\n";
-}
-
-// Returns where the next line begins after position, which lies outside quotation marks.
-int behindLine(const QByteArray &text, int position)
-{
-    while (position < text.size() && !isLineEnd(text.at(position)))
-        ++position;
-    if (position < text.size())
-        position += text.mid(position, 2) == "\r\n" ? 2 : 1;
-    return position;
 }
 
 QString sectionOf(const QString &key)
@@ -88,7 +73,7 @@ bool isRestTheSame(const ThemeFile &file, const ThemeFile &changed, const QStrin
         QVector<Entry> entries;
         for (const ThemeFileEntry &entry : ofFile.entries()) {
             int size = int(entry.rawValue.size());
-            while (size > 0 && isLineEnd(entry.rawValue.at(size - 1)))
+            while (size > 0 && IniSyntax::isLineEnd(entry.rawValue.at(size - 1)))
                 --size;
             if (entry.key != key || !entry.isEffective)
                 entries.append({entry.key, entry.rawValue.left(size)});
@@ -153,8 +138,8 @@ std::optional<QByteArray> withNewKey(const ThemeFile &file, const QString &key,
     const int end = endOfSection(file, section);
     const QByteArray text = file.content();
     const bool hasText = !file.entries().isEmpty() || !file.sections().isEmpty();
-    const int position = end < 0 ? int(text.size()) : behindLine(text, end);
-    const bool endsLine = position > 0 && isLineEnd(text.at(position - 1));
+    const int position = end < 0 ? int(text.size()) : IniSyntax::behindLine(text, end);
+    const bool endsLine = position > 0 && IniSyntax::isLineEnd(text.at(position - 1));
     QByteArray added = end < 0 ? headerOf(section) + lineEnd + line : line;
     if (end < 0 && hasText)
         added.prepend(lineEnd);
@@ -218,7 +203,7 @@ QByteArray ChangedText::withoutKey(const ThemeFile &file, const QString &key)
         if (end >= content.size() || content.at(end) != ';') {
             while (start > 0 && (content.at(start - 1) == ' ' || content.at(start - 1) == '\t'))
                 --start;
-            end = behindLine(content, end);
+            end = IniSyntax::behindLine(content, end);
         }
         content.remove(start, end - start);
     }

@@ -142,13 +142,13 @@ void tst_Explanation::takersOfALaterEntry()
     const auto project = ThemeProject::read(options, &error);
     QVERIFY2(project, qPrintable(error));
     const auto takers = [&](const QString &key) {
-        QStringList takers;
+        QStringList lines;
         const Explanation explanation(*project, project->theme("night"), key);
         for (const ExplanationStep &step : explanation.steps()) {
             if (step.topic == ExplanationStep::Topic::Taker)
-                takers << shown(step);
+                lines << shown(step);
         }
-        return takers;
+        return lines;
     };
     QCOMPARE(takers("Early"), QStringList("taker default.theme:4 [Gradients] Glow=1"));
     QCOMPARE(takers("Late"), QStringList("taker night.theme:4 [Colors] Text=Late"));

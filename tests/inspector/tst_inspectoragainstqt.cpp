@@ -3,6 +3,7 @@
 
 #include "ownpicture.h"
 #include "quietplatform.h"
+#include "styledparts.h"
 #include "widgetzoo.h"
 
 #include <inspector/inspection.h>
@@ -185,27 +186,20 @@ void tst_InspectorAgainstQt::paintedIsNamed()
 void tst_InspectorAgainstQt::compare(QWidget *window)
 {
     const InspectedSheet sheet(m_marked, {});
-    const QStringList attributes = sheet.cascade().attributes();
     const QList<QWidget *> widgets = window->findChildren<QWidget *>() << window;
     for (QWidget *widget : widgets) {
         if (!widget->isVisible() || widget->size().isEmpty())
             continue;
         QSet<int> named; // declarations that the inspector says are in force
-        QWidget *styled = paintedAs(widget);
-        StyleElement element = StyleElement::of(styled, attributes);
-        const QVector<WidgetPart> parts = widgetParts(styled);
-        for (const WidgetPart &part : parts) {
-            element.subControl = part.subControl;
-            element.states = part.states;
-            const auto properties = sheet.cascade().properties(element);
-            for (const StyleProperty &property : properties)
-                named << property.winner().offset;
-        }
+        forEachStyledProperty(widget, sheet, [&](int, const StyleProperty &property) {
+            named << property.winner().offset;
+        });
         const QSet<QRgb> painted = colorsOf(ownPicture(widget));
-        const Inspection inspection = Inspection::of(widget, parts.constFirst(), sheet);
+        const Inspection inspection =
+            Inspection::of(widget, widgetParts(paintedAs(widget)).constFirst(), sheet);
         const InspectedValue *ground = inspection.value("background-color");
         const QRgb wanted = ground && ground->isOfRule() ? m_offsets.key(ground->match.offset) : 0;
-        if (widget == styled && wanted != 0)
+        if (widget == paintedAs(widget) && wanted != 0)
             count(painted.contains(wanted),
                   m_row + QString(" does not paint ")
                       + describe(widget, *sheet.rules().ruleAt(ground->match.offset),

@@ -3,6 +3,7 @@
 
 #include "ownpicture.h"
 #include "quietplatform.h"
+#include "styledparts.h"
 #include "widgetzoo.h"
 
 #include <inspector/inspection.h>
@@ -13,8 +14,8 @@
 #include <QtWidgets>
 
 /*
- * A rule is taken out of the style sheet: what looks different then must be what the inspector says has something
- * of that rule.
+ * A rule is taken out of the style sheet: what looks different then must be what the inspector says has
+ * something of that rule.
  */
 class tst_RulesTakenOut : public QObject
 {
@@ -73,18 +74,9 @@ struct Look {
 QHash<QString, QString> valuesOf(QWidget *widget, const InspectedSheet &sheet)
 {
     QHash<QString, QString> values;
-    QWidget *styled = paintedAs(widget);
-    StyleElement element = StyleElement::of(styled, sheet.cascade().attributes());
-    int number = 0;
-    const QVector<WidgetPart> parts = widgetParts(styled);
-    for (const WidgetPart &part : parts) {
-        element.subControl = part.subControl;
-        element.states = part.states;
-        const auto properties = sheet.cascade().properties(element);
-        for (const StyleProperty &property : properties)
-            values.insert(QString::number(number) + property.name, property.winner().value);
-        ++number;
-    }
+    forEachStyledProperty(widget, sheet, [&](int part, const StyleProperty &property) {
+        values.insert(QString::number(part) + property.name, property.winner().value);
+    });
     return values;
 }
 
@@ -92,18 +84,10 @@ QHash<QString, QString> valuesOf(QWidget *widget, const InspectedSheet &sheet)
 QVector<StyleRule> sampleOf(const InspectedSheet &sheet, const QList<QWidget *> &widgets, int seed)
 {
     QSet<int> offsets; // of winners
-    for (QWidget *widget : widgets) {
-        QWidget *styled = paintedAs(widget);
-        StyleElement element = StyleElement::of(styled, sheet.cascade().attributes());
-        const QVector<WidgetPart> parts = widgetParts(styled);
-        for (const WidgetPart &part : parts) {
-            element.subControl = part.subControl;
-            element.states = part.states;
-            const auto properties = sheet.cascade().properties(element);
-            for (const StyleProperty &property : properties)
-                offsets << property.winner().offset;
-        }
-    }
+    for (QWidget *widget : widgets)
+        forEachStyledProperty(widget, sheet, [&](int, const StyleProperty &property) {
+            offsets << property.winner().offset;
+        });
     QVector<StyleRule> used;
     for (const StyleRule &rule : sheet.rules().rules()) {
         const bool isUsed =
