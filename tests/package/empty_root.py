@@ -6,7 +6,8 @@
   empty_root.py FOLDER SOURCE_DIR [SUITE]
 
 FOLDER holds the packages. Each test of debian/tests whose packages are there runs in turn, after what it depends on
-is installed, without recommended packages. Needs mmdebstrap and Debian's archive, and root or user
+is installed, without recommended packages. Before the next one all of that is removed again, and nothing of these packages
+may be left. Needs mmdebstrap and Debian's archive, and root or user
 namespaces; the root is removed in any case. SUITE is bookworm if it is not named.
 
 Exit codes: 0 all tests pass, 1 one does not, 2 wrong usage.
@@ -21,6 +22,10 @@ import tempfile
 
 INSTALL = "DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends"
 OWN = re.compile(r"(lib)?hvtheme")
+LIST_PACKAGES = "dpkg-query -W -f='${Package}\\n' | sort"
+# All that a test brought.
+REMOVE = f"{LIST_PACKAGES} | comm -13 /root/before - | DEBIAN_FRONTEND=noninteractive xargs apt-get purge -y -qq"
+LEFT = "find / -xdev -iname '*hvtheme*' ! -path '/packages/*' ! -path '/etc/apt/*' ! -path '/root/*' ! -path '/var/*/apt/*'"
 
 
 def tests_of(control):
@@ -32,7 +37,7 @@ def tests_of(control):
 
 def script_for(control, packages):
     """The commands that run in the new root; what they say of each test stands alone in a line."""
-    lines = ["set -e", "cd /root/source", "exec 2>&1"]
+    lines = ["set -e", "cd /root/source", "exec 2>&1", f"{LIST_PACKAGES} >/root/before"]
     count = 0
     for name, command, needed in tests_of(control):
         if not all(package in packages for package in needed if OWN.match(package)):
@@ -42,6 +47,8 @@ def script_for(control, packages):
             f"echo '-- {name}: {' '.join(needed)}'",
             f"{INSTALL} {' '.join(needed)} >/tmp/apt.log 2>&1 || {{ cat /tmp/apt.log; exit 1; }}",
             f"{command} || {{ echo '{name} fails'; exit 1; }}",
+            f"{REMOVE} >/tmp/apt.log 2>&1 || {{ cat /tmp/apt.log; exit 1; }}",
+            f'left=$({LEFT}); [ -z "$left" ] || {{ echo "after {name} there is still $left"; exit 1; }}',
             f"echo '{name} passes'",
         ]
     return count, "\n".join(lines)
