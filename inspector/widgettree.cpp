@@ -9,6 +9,9 @@
 #include <QApplication>
 #include <QSet>
 
+#include <algorithm>
+#include <tuple>
+
 namespace
 {
 
@@ -39,6 +42,19 @@ QString searchText(const QWidget *widget, const QString &shown)
          meta = meta->superClass())
         text += QLatin1Char(' ') % QLatin1String(meta->className());
     return text;
+}
+
+// Qt hands its windows out in any order: what can be seen comes first, then the alphabet.
+QWidgetList sortedWindows()
+{
+    QWidgetList windows = QApplication::topLevelWidgets();
+    const auto rank = [](const QWidget *window) {
+        return std::make_tuple(window->isHidden(), nameOf(window), textOf(window));
+    };
+    std::stable_sort(
+        windows.begin(), windows.end(),
+        [&rank](const QWidget *left, const QWidget *right) { return rank(left) < rank(right); });
+    return windows;
 }
 
 } // namespace
@@ -86,7 +102,7 @@ void WidgetTree::refresh()
     m_widgets.clear();
     m_itemOf.clear();
     QSet<const QWidget *> known;
-    const QWidgetList windows = QApplication::topLevelWidgets();
+    const QWidgetList windows = sortedWindows();
     for (QWidget *window : windows) {
         const QWidget *above = window->parentWidget(); // dialogs have one
         while (above && !m_isOwn(above))

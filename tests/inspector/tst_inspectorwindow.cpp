@@ -41,6 +41,7 @@ private Q_SLOTS:
     void survivesDeath();
     void forgetsTheDead();
     void sameAddress();
+    void windowsStandInOrder();
     void treeStaysOpen();
     void hasOneLook();
     void accessibleNames();
@@ -492,6 +493,24 @@ void tst_InspectorWindow::sameAddress()
     tree.refresh();
     QCOMPARE(tree.widgetAt(tree.indexOf(label)), label);
     label->~QLabel();
+}
+
+void tst_InspectorWindow::windowsStandInOrder()
+{
+    QLabel windows[6]; // Qt keeps them in no order
+    for (int i = 0; i < 6; ++i) {
+        windows[i].setObjectName(QString("window%1").arg(i * 5 % 6));
+        windows[i].setVisible(i % 2 == 0);
+    }
+    WidgetTree tree(
+        [](const QWidget *widget) { return !widget->window()->objectName().startsWith("window"); });
+    tree.refresh();
+    QStringList names;
+    for (int row = 0; row < tree.rowCount(); ++row)
+        names << tree.index(row, 0).data().toString();
+    QCOMPARE(names,
+             QStringList({"QLabel#window0", "QLabel#window2", "QLabel#window4", "QLabel#window1",
+                          "QLabel#window3", "QLabel#window5"}));
 }
 
 void tst_InspectorWindow::treeStaysOpen()
