@@ -465,6 +465,7 @@ void tst_Cli::longNames_data()
     QTest::addColumn<QByteArray>("lines"); // that the output ends with, but for the templates
 
     QByteArray chain = "[Palettes]\na000000=#123456\n";
+    chain.reserve(500000);
     for (int i = 1; i < 25000; ++i)
         chain += 'a' + QByteArray::number(i).rightJustified(6, '0') + "=a"
             + QByteArray::number(i - 1).rightJustified(6, '0') + '\n';

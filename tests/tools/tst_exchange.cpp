@@ -188,6 +188,7 @@ void tst_Exchange::importRefused_data()
         << QByteArray(R"({"color":{"a":{"$value":"{color.a}"}}})")
         << QByteArray("tokens.json: token color.a: it is an alias of itself: color.a -> color.a");
     QByteArray chain = R"({"c0":{"$type":"color","$value":"#123"})";
+    chain.reserve(1500000);
     for (int i = 1; i < 20000; ++i)
         chain += ",\"c" + QByteArray::number(i) + R"(":{"$type":"color","$value":"{c)"
             + QByteArray::number(i - 1) + "}\"}";
