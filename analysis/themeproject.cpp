@@ -41,19 +41,20 @@ std::unique_ptr<ThemeLayer> readLayer(const ThemeFolder &folder, const QString &
 
 std::unique_ptr<ThemeProject> ThemeProject::read(const ThemeProjectOptions &options, QString *error)
 {
-    std::unique_ptr<ThemeProject> input(new ThemeProject);
-    input->m_options = options;
-    input->m_vocabulary = Vocabulary::builtIn();
+    std::unique_ptr<ThemeProject> project(new ThemeProject);
+    project->m_options = options;
+    project->m_vocabulary = Vocabulary::builtIn();
     if (!options.vocabularyFile.isEmpty()) {
         const std::optional<Vocabulary> vocabulary =
             Vocabulary::read(options.vocabularyFile, error);
         if (!vocabulary)
             return nullptr;
-        input->m_vocabulary = *vocabulary;
+        project->m_vocabulary = *vocabulary;
     }
-    if (!input->readThemes(error) || !input->readTemplates(error) || !input->isUnchanged(error))
+    if (!project->readThemes(error) || !project->readTemplates(error)
+        || !project->isUnchanged(error))
         return nullptr;
-    return input;
+    return project;
 }
 
 const ThemeStack &ThemeProject::theme(const QString &name) const
@@ -114,11 +115,16 @@ bool ThemeProject::readTemplates(QString *error)
 // A file that somebody is writing, emptied perhaps and half full again, is none to report on.
 bool ThemeProject::isUnchanged(QString *error) const
 {
+    QStringList changed;
     for (const auto &layer : m_layers) {
-        if (!layer->file.isUnchanged()) {
-            *error = layer->file.path() % QLatin1String(": changed while it was read, try again");
-            return false;
-        }
+        if (!layer->file.isUnchanged())
+            changed << layer->file.path();
     }
-    return true;
+    for (const TemplateText::File &file : m_templates->files()) {
+        if (!file.input.isUnchanged())
+            changed << file.input.path();
+    }
+    if (!changed.isEmpty())
+        *error = changed.constFirst() % QLatin1String(": changed while it was read, try again");
+    return changed.isEmpty();
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <analysis/rules/rules.h>
+#include <format/applicationkeys.h>
 
 #include <QFileInfo>
 
@@ -84,6 +85,22 @@ bool isDefined(const ThemeProject &project, const QString &key)
 bool isBuiltInTemplate(const ThemeProject &project, int offset)
 {
     return project.templates().fileAt(offset).input.path().startsWith(QLatin1String(":/"));
+}
+
+bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
+                          bool isWithoutImages)
+{
+    const bool isGiven = (token.kind == Kind::ImageFile && isWithoutImages)
+        || (token.kind == Kind::Color && isOptionalColor(token.key));
+    return isGiven && isBuiltInTemplate(project, token.offset);
+}
+
+QString firstOfMany(const QStringList &keys)
+{
+    constexpr int shown = 3;
+    const QString first = keys.mid(0, shown).join(QLatin1String(", "));
+    return keys.size() <= shown ? first
+                                : first % QStringLiteral(" and %1 more").arg(keys.size() - shown);
 }
 
 QStringList storedKeys(const ThemeStack &stack, Kind kind)

@@ -15,19 +15,12 @@ Kind searchedKind(Kind kind)
     return kind == Kind::Gradient ? Kind::Flag : kind;
 }
 
-// Keys that many lack at once, as in a file without the section, have one cause.
-constexpr int shownKeys = 3;
-
 QString sentence(Kind kind, const QStringList &keys)
 {
     if (keys.size() == 1)
         return QStringLiteral("required %1 %2 is not set").arg(nounOf(kind), keys.first());
-    const QString rest = keys.size() <= shownKeys
-        ? QString()
-        : QStringLiteral(" and %1 more").arg(keys.size() - shownKeys);
-    return QStringLiteral("%1 required keys of section %2 are not set: %3%4")
-        .arg(QString::number(keys.size()), sectionName(kind),
-             keys.mid(0, shownKeys).join(QLatin1String(", ")), rest);
+    return QStringLiteral("%1 required keys of section %2 are not set: %3")
+        .arg(QString::number(keys.size()), sectionName(kind), firstOfMany(keys));
 }
 
 void reportMissing(const ThemeFile &file, const QHash<QString, int> &stored, Kind kind,

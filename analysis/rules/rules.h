@@ -97,6 +97,18 @@ std::optional<QString> keyWithoutUnit(const ThemeProject &project, const Templat
 /*! \brief Tells whether \a offset lies in a template of the library, which nobody can mend. */
 bool isBuiltInTemplate(const ThemeProject &project, int offset);
 
+/*!
+ * \brief Tells whether the application library has something for \a token in themes that have not.
+ *
+ * It draws all images of the built-in templates itself for a theme \a isWithoutImages, and has
+ * colours in place of the optional ones, so such a theme is whole.
+ */
+bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
+                          bool isWithoutImages);
+
+/*! \brief Returns the first of \a keys, which have one cause, and how many more there are. */
+QString firstOfMany(const QStringList &keys);
+
 /*! \brief Returns the keys of \a kind that are in force in \a stack. */
 QStringList storedKeys(const ThemeStack &stack, Kind kind);
 

@@ -3,7 +3,6 @@
 
 #include <analysis/rules/rules.h>
 #include <analysis/suggestion.h>
-#include <format/applicationkeys.h>
 
 #include <QHash>
 
@@ -47,16 +46,6 @@ bool hasImages(const ThemeProject &project)
     });
 }
 
-// The application library draws all images of the built-in templates itself for a theme that names
-// none, and has colours in place of the optional ones, so such a theme is whole.
-bool isGivenByApplication(const ThemeProject &project, const TemplateToken &token,
-                          bool isWithoutImages)
-{
-    const bool isGiven = (token.kind == Kind::ImageFile && isWithoutImages)
-        || (token.kind == Kind::Color && isOptionalColor(token.key));
-    return isGiven && isBuiltInTemplate(project, token.offset);
-}
-
 QVector<TemplateToken> undefinedTokens(const ThemeProject &project)
 {
     const bool isWithoutImages = !hasImages(project);
@@ -72,7 +61,8 @@ QVector<TemplateToken> undefinedTokens(const ThemeProject &project)
 // A theme that was not asked for may well define the key.
 QString whoDefinesNot(const ThemeProject &project)
 {
-    const QStringList named = project.options().themes;
+    QStringList named = project.options().themes;
+    named.removeDuplicates();
     if (named.isEmpty())
         return QStringLiteral("no theme defines ");
     if (named.size() == 1)

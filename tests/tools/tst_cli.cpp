@@ -35,6 +35,8 @@ private Q_SLOTS:
     void controlCharacters();
     void noColorInPipes();
     void endlessSubstitutionEnds();
+    void themeWithoutImages();
+    void changingFile_data();
     void changingFile();
     void needsNoDisplay();
     void missingPlatform();
@@ -394,16 +396,49 @@ void tst_Cli::endlessSubstitutionEnds()
     QVERIFY(result.output.contains("[endless-substitution]"));
 }
 
+// The application library draws them all; a colour it does not have.
+void tst_Cli::themeWithoutImages()
+{
+    const QTemporaryDir folder;
+    for (const char *name : {"default.theme", "dark.theme", "light.theme"})
+        QFile::copy(HVTHEME_SOURCE_DIR "/themes/" + QString(name), folder.filePath(name));
+    QFile file(folder.filePath("light.theme"));
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)
+            && file.open(QIODevice::ReadOnly));
+    QByteArray text = file.readAll();
+    file.close();
+    QVERIFY(text.contains("\n[ImageFiles]\n") && text.contains("\nEditBackgroundColor="));
+    text.replace("\n[ImageFiles]\n", "\n[Images]\n");
+    write(file.fileName(), text);
+    QVERIFY(!run({"check", folder.path()}).output.contains("[missing-value]"));
+    text.replace("\nEditBackgroundColor=", "\nOtherColor=");
+    write(file.fileName(), text);
+    const Result result = run({"check", folder.path()});
+    QCOMPARE(result.output.count("[missing-value]"), 1);
+    QVERIFY(result.output.contains("theme light has no colour EditBackgroundColor"));
+}
+
+void tst_Cli::changingFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("theme") << "default.theme"
+                           << QByteArray("ThemeName=Default\n[Colors]\nText=#ffffff\n");
+    QTest::newRow("template") << "plain.qss"
+                              << QByteArray("QLabel { color: global.theme.color.Text; }");
+}
+
 // Whatever the moment, the report is one of a whole file, or none at all.
 void tst_Cli::changingFile()
 {
+    QFETCH(QString, name);
+    QFETCH(QByteArray, content);
     const QTemporaryDir folder;
     writeTheme(folder);
     std::atomic<bool> isDone{false};
     std::thread writer([&] {
         for (int i = 0; !isDone; ++i) {
-            write(folder.filePath("default.theme"),
-                  "ThemeName=Default\n[Colors]\nText=#ffffff\n" + QByteArray(i % 7, '\n'));
+            write(folder.filePath(name), content + QByteArray(i % 7, '\n'));
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
     });
@@ -411,7 +446,8 @@ void tst_Cli::changingFile()
     for (int i = 0; i < 20; ++i) {
         const Result result = run(checkArguments(folder));
         const bool isRefused = result.code == 2 && result.errors.count('\n') == 1
-            && result.errors.endsWith("default.theme: changed while it was read, try again\n");
+            && result.errors.endsWith(
+                QString(name + ": changed while it was read, try again\n").toUtf8());
         // An emptied file that is read before the rest is written is a file without a name.
         const bool isWhole = (result.code == 0 || result.code == 1) && result.errors.isEmpty();
         if (!isRefused && !isWhole)
