@@ -22,9 +22,9 @@ const QByteArray baseComment =
     "; What all themes of this folder share: the palette and the sizes. A theme is read in two "
     "steps,\n"
     "; this file first; a key that stands here keeps the value it has here.\n";
-const QByteArray ownComment = "; Read after default.theme. A colour is the name of a palette entry "
-                              "of that file or hexadecimal\n"
-                              "; digits, #RRGGBB or #AARRGGBB with the opacity first.\n";
+const QByteArray ownComment =
+    ". A colour is the name of a palette entry of that file or hexadecimal\n"
+    "; digits, #RRGGBB or #AARRGGBB with the opacity first.\n";
 
 void writeBase(const ThemeContent &theme, QSettings *settings)
 {
@@ -99,13 +99,14 @@ std::optional<QByteArray> iniText(const QTemporaryDir &folder, const QByteArray 
 } // namespace
 
 std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QString &name,
-                                            QString *error)
+                                            const QString &suffix, QString *error)
 {
     const QTemporaryDir folder;
     const QString displayName = theme.displayName.isEmpty() ? name : theme.displayName;
     const auto base =
         iniText(folder, baseComment, [&](QSettings *settings) { writeBase(theme, settings); });
-    const auto own = iniText(folder, ownComment,
+    const QString baseName = themeFileName(defaultThemeName(), suffix);
+    const auto own = iniText(folder, "; Read after " + baseName.toUtf8() + ownComment,
                              [&](QSettings *settings) { writeOwn(theme, displayName, settings); });
     if (!folder.isValid() || !base || !own) {
         *error = QDir::tempPath()
@@ -113,8 +114,7 @@ std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QSt
                                 : QLatin1String(": no temporary folder can be made here"));
         return std::nullopt;
     }
-    return Maker::MadeThemes{
-        {{themeFileName(defaultThemeName()), *base}, {themeFileName(name), *own}}, {}};
+    return Maker::MadeThemes{{{baseName, *base}, {themeFileName(name, suffix), *own}}, {}};
 }
 
 } // namespace Exchange

@@ -13,14 +13,15 @@ namespace Exchange
 {
 
 /*!
- * \brief Returns \a theme as files of a folder: `default.theme` with palette and integers, and the
+ * \brief Returns \a theme as files of a folder: the default file with palette and integers, and the
  *        theme's own with all that makes the look.
  *
  * \param name  of the theme's file, as Maker::isThemeName() has it, in lower case.
+ * \param suffix  of both files.
  * \return nothing, with one sentence in \a error, if there is no room for temporary files.
  */
 std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QString &name,
-                                            QString *error);
+                                            const QString &suffix, QString *error);
 
 } // namespace Exchange
 

@@ -15,6 +15,16 @@ QString defaultThemeSuffix()
     return QStringLiteral("theme");
 }
 
+QString builtInThemesFolder()
+{
+    return QStringLiteral(":/hvthemeapp/themes");
+}
+
+QString themeSuffixIn(const QString &folder, const QString &suffix)
+{
+    return folder == builtInThemesFolder() ? defaultThemeSuffix() : suffix;
+}
+
 QString themeFileName(const QString &name, const QString &suffix)
 {
     return name % QLatin1Char('.') % suffix;

@@ -18,6 +18,13 @@ QString defaultThemeSuffix();
  */
 constexpr qint64 themeFileSizeLimit = qint64(4) * 1024 * 1024;
 
+/*! \brief Returns ":/hvthemeapp/themes", the folder of the themes inside the application library. */
+QString builtInThemesFolder();
+
+/*! \brief Returns what theme files of \a folder end in: \a suffix, but the built-in ones always in
+ *         "theme". */
+QString themeSuffixIn(const QString &folder, const QString &suffix);
+
 /*! \brief Returns NAME.SUFFIX, the name of a theme's file. */
 QString themeFileName(const QString &name, const QString &suffix = defaultThemeSuffix());
 

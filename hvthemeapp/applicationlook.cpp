@@ -47,8 +47,8 @@ LookInForce &lookInForce()
 
 QStringList ApplicationTheme::Private::files() const
 {
-    const ThemeFolder themes(nameFolder);
-    QStringList files = QStringList{themes.defaultFile(), themes.file(name)} + templates.files();
+    QStringList files{nameFolder.defaultFile(), nameFolder.file(name)};
+    files += templates.files();
     const QVariantMap &values = theme->values();
     for (const QVariant &value : values) {
         if (value.userType() == QMetaType::QString)
@@ -61,9 +61,14 @@ QStringList ApplicationTheme::Private::files() const
     return files;
 }
 
-QString ApplicationTheme::Private::fitting(const QString &ofFolder) const
+ThemeFolder ApplicationTheme::Private::folderWith(const QString &otherSuffix) const
 {
-    return themeForDesktop(ofFolder, ThemeFolder(ofFolder).names(), desktop->colorScheme(),
+    return folder.isNull() ? ThemeFolder::usual(otherSuffix) : ThemeFolder(folder, otherSuffix);
+}
+
+QString ApplicationTheme::Private::fitting(const ThemeFolder &themes) const
+{
+    return themeForDesktop(themes.path(), themes.suffix(), themes.names(), desktop->colorScheme(),
                            desktop->contrast());
 }
 
@@ -105,17 +110,16 @@ bool ApplicationTheme::Private::report(const QString &newProblem)
     return isNone;
 }
 
-bool ApplicationTheme::Private::apply(const QString &ofFolder, const QString &newName)
+bool ApplicationTheme::Private::apply(const ThemeFolder &themes, const QString &newName)
 {
     if (!guiApplication())
         return report(tr("There is no application to give a look to; make a QApplication first."));
-    const ThemeFolder themes(ofFolder);
     for (const QString &fault : {themes.problemOf(newName), templates.problem()}) {
         if (!fault.isEmpty())
             return report(fault);
     }
     if (lookInForce().isChanging || isPainting()) {
-        applyLater(ofFolder, newName);
+        applyLater(themes, newName);
         return true;
     }
 
@@ -131,8 +135,8 @@ bool ApplicationTheme::Private::apply(const QString &ofFolder, const QString &ne
 
     const bool isOther = newName != name;
     name = newName;
-    nameFolder = ofFolder;
-    laterFolder = QString(); // what waits is older than this
+    nameFolder = themes;
+    laterFolder.reset(); // what waits is older than this
     const QPointer<ApplicationTheme> guard(q);
     report(QString());
     if (guard)
@@ -143,12 +147,12 @@ bool ApplicationTheme::Private::apply(const QString &ofFolder, const QString &ne
 }
 
 // The accent stays what it was if the look does not come into force.
-bool ApplicationTheme::Private::applyWithAccent(const QColor &newAccent, const QString &ofFolder,
+bool ApplicationTheme::Private::applyWithAccent(const QColor &newAccent, const ThemeFolder &themes,
                                                 const QString &newName)
 {
     const QColor former = std::exchange(accent, newAccent);
     const QPointer<ApplicationTheme> guard(q);
-    const bool isApplied = newName.isNull() || apply(ofFolder, newName);
+    const bool isApplied = newName.isNull() || apply(themes, newName);
     if (!guard)
         return isApplied;
     if (!isApplied && accent == newAccent)
@@ -158,10 +162,23 @@ bool ApplicationTheme::Private::applyWithAccent(const QColor &newAccent, const Q
     return isApplied;
 }
 
+// A look in force goes over to the theme of its name, or to the one that fits the desktop; without one
+// it stays.
+bool ApplicationTheme::Private::applySameName(const ThemeFolder &themes)
+{
+    const QString problemOfFolder = themes.problem();
+    if (!problemOfFolder.isEmpty())
+        return report(problemOfFolder);
+    if (name.isNull())
+        return true;
+    const QString sameName = desktop ? fitting(themes) : name;
+    return !themes.names().contains(sameName) || apply(themes, sameName);
+}
+
 // A change of the accent alone leaves a look that does not follow it as it is.
 bool ApplicationTheme::Private::applyDesktop()
 {
-    const QString next = nextFolder();
+    const ThemeFolder next = nextFolder();
     const QString fittingName = fitting(next);
     const QColor nextAccent = followsAccent ? desktop->accentColor() : ownAccent;
     const bool isInForce = lookInForce().owner == q && fittingName == name && next == nameFolder
@@ -170,17 +187,17 @@ bool ApplicationTheme::Private::applyDesktop()
 }
 
 // Neither a painter nor a polish may lose the rules that it is at work with.
-void ApplicationTheme::Private::applyLater(const QString &ofFolder, const QString &newName)
+void ApplicationTheme::Private::applyLater(const ThemeFolder &themes, const QString &newName)
 {
-    const bool isPending = !laterFolder.isNull();
-    laterFolder = ofFolder;
+    const bool isPending = laterFolder.has_value();
+    laterFolder = themes;
     laterName = newName;
     if (isPending)
         return;
     const auto applyPending = [this] {
-        const QString pending = std::exchange(laterFolder, QString());
-        if (!pending.isNull())
-            apply(pending, laterName);
+        const std::optional<ThemeFolder> pending = std::exchange(laterFolder, std::nullopt);
+        if (pending)
+            apply(*pending, laterName);
     };
     QMetaObject::invokeMethod(q, applyPending, Qt::QueuedConnection);
 }

@@ -63,26 +63,45 @@ ApplicationTheme::~ApplicationTheme()
 
 QString ApplicationTheme::folder() const
 {
-    return d->nextFolder();
+    return d->nextFolder().path();
 }
 
 bool ApplicationTheme::setFolder(const QString &folder)
 {
-    const QString path =
-        folder.isEmpty() ? ThemeFolder::defaultPath() : QFileInfo(folder).absoluteFilePath();
-    const QString problem = ThemeFolder(path).problem();
-    if (!problem.isEmpty())
-        return d->report(problem);
+    const QString path = folder.isEmpty() ? QString() : QFileInfo(folder).absoluteFilePath();
+    const ThemeFolder themes =
+        path.isNull() ? ThemeFolder::usual(d->suffix) : ThemeFolder(path, d->suffix);
     const QPointer<ApplicationTheme> guard(this);
-    if (!d->name.isNull()) {
-        const QString name = d->desktop ? d->fitting(path) : d->name;
-        if (ThemeFolder(path).names().contains(name) && !d->apply(path, name))
-            return false;
-    }
+    if (!d->applySameName(themes))
+        return false;
     if (!guard)
         return true;
-    d->folder = folder.isEmpty() ? QString() : path;
+    d->folder = path;
     d->report(QString());
+    if (guard)
+        Q_EMIT folderChanged();
+    return true;
+}
+
+QString ApplicationTheme::suffix() const
+{
+    return d->suffix;
+}
+
+bool ApplicationTheme::setSuffix(const QString &suffix)
+{
+    const QString next = suffix.isEmpty() ? defaultThemeSuffix() : suffix;
+    if (next == d->suffix)
+        return true;
+    const QPointer<ApplicationTheme> guard(this);
+    if (!d->applySameName(d->folderWith(next)))
+        return false;
+    if (!guard)
+        return true;
+    d->suffix = next;
+    d->report(QString());
+    if (guard)
+        Q_EMIT suffixChanged();
     if (guard)
         Q_EMIT folderChanged();
     return true;
@@ -90,12 +109,12 @@ bool ApplicationTheme::setFolder(const QString &folder)
 
 QStringList ApplicationTheme::names() const
 {
-    return ThemeFolder(d->nextFolder()).names();
+    return d->nextFolder().names();
 }
 
 QString ApplicationTheme::displayName(const QString &name) const
 {
-    return ThemeFolder(d->nextFolder()).displayName(name);
+    return d->nextFolder().displayName(name);
 }
 
 QString ApplicationTheme::name() const
@@ -116,7 +135,7 @@ bool ApplicationTheme::setName(const QString &name)
 bool ApplicationTheme::followDesktop()
 {
     if (!guiApplication())
-        return d->apply(QString(), QString());
+        return d->apply(ThemeFolder(), QString());
     const bool isNew = !d->desktop;
     if (isNew) {
         d->desktop = std::make_unique<DesktopSettings>(startPalette());

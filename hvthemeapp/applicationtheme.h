@@ -52,6 +52,7 @@ class HVTHEMEAPP_EXPORT ApplicationTheme : public QObject
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(QString folder READ folder WRITE setFolder NOTIFY folderChanged)
+    Q_PROPERTY(QString suffix READ suffix WRITE setSuffix NOTIFY suffixChanged)
     Q_PROPERTY(QStringList names READ names NOTIFY folderChanged)
     Q_PROPERTY(bool followsDesktop READ followsDesktop WRITE setFollowsDesktop NOTIFY
                    followsDesktopChanged)
@@ -74,8 +75,8 @@ public:
     /*!
      * \brief Returns the folder that themes are taken from.
      *
-     * At first the folder `themes` beside the executable, if it has a `default.theme`, else the one
-     * inside the library.
+     * At first the folder `themes` beside the executable, if it has a `default.theme` (or whatever
+     * suffix() is), else the one inside the library.
      */
     QString folder() const;
 
@@ -85,10 +86,27 @@ public:
      * If a look is in force, the theme of the same name (the one that fits, if the desktop is
      * followed) comes into force; if the folder has none, the look stays until the next setName().
      *
-     * \return false, with a problem(), for a folder that is missing or has no `default.theme` that
-     *         can be read, or a theme that cannot; folder() and the look then stay.
+     * \return false, with a problem(), for a folder that is missing or has no default file that can
+     *         be read, or a theme that cannot; folder() and the look then stay.
      */
     bool setFolder(const QString &folder);
+
+    /*! \brief Returns what the names of theme files end in, without the dot; "theme" at first. */
+    QString suffix() const;
+
+    /*!
+     * \brief Takes for themes the files of folder() that end in \a suffix; a null or empty text is
+     *        "theme".
+     *
+     * Upper and lower case differ. The themes inside the library are there whatever it is, so a program
+     * sets the suffix first and then a folder of its own. If a look is in force, the same happens as in
+     * setFolder(). An exchange of one folder for another with another suffix leads over
+     * setFolder(QString()).
+     *
+     * \return false, with a problem(), if the folder has no `default.<suffix>` that can be read, or the
+     *         theme cannot; suffix() and the look then stay.
+     */
+    bool setSuffix(const QString &suffix);
 
     /*! \brief Returns the themes that folder() has now, sorted. A default file is one of them only if
      *         it has colours or is alone. */
@@ -255,7 +273,9 @@ public:
 
 Q_SIGNALS:
     void nameChanged();
+    /*! \brief The folder is another, or its themes are for the suffix(). */
     void folderChanged();
+    void suffixChanged();
     void followsDesktopChanged();
     void accentChanged();
     void followsAccentChanged();

@@ -12,6 +12,7 @@
 #include "themefolder.h"
 #include "themewatcher.h"
 
+#include <format/themepath.h>
 #include <hvtheme/theme.h>
 
 #include <QColor>
@@ -19,6 +20,7 @@
 #include <QPalette>
 
 #include <memory>
+#include <optional>
 
 class QApplication;
 
@@ -48,26 +50,30 @@ public:
     }
 
     bool report(const QString &problem);
-    bool apply(const QString &ofFolder, const QString &newName);
-    bool applyWithAccent(const QColor &newAccent, const QString &ofFolder, const QString &newName);
+    bool apply(const ThemeFolder &themes, const QString &newName);
+    bool applyWithAccent(const QColor &newAccent, const ThemeFolder &themes,
+                         const QString &newName);
+    bool applySameName(const ThemeFolder &themes);
     bool applyDesktop();
-    void applyLater(const QString &ofFolder, const QString &newName);
+    void applyLater(const ThemeFolder &themes, const QString &newName);
     void reload();
     void watch();
     void lift();
 
-    QString nextFolder() const { return folder.isNull() ? ThemeFolder::defaultPath() : folder; }
+    ThemeFolder nextFolder() const { return folderWith(suffix); }
+    ThemeFolder folderWith(const QString &otherSuffix) const;
     // The look in force, or the one that waits to be.
-    QString comingFolder() const { return laterFolder.isNull() ? nameFolder : laterFolder; }
-    QString comingName() const { return laterFolder.isNull() ? name : laterName; }
+    ThemeFolder comingFolder() const { return laterFolder.value_or(nameFolder); }
+    QString comingName() const { return laterFolder ? laterName : name; }
     QStringList files() const;
-    QString fitting(const QString &ofFolder) const;
+    QString fitting(const ThemeFolder &themes) const;
 
     ApplicationTheme *const q;
     const std::unique_ptr<Theme> theme;
     QString folder; // that themes will be taken from; null for the default one
+    QString suffix = defaultThemeSuffix(); // of their files
     QString name; // of the look in force,
-    QString nameFolder; // which comes from here
+    ThemeFolder nameFolder; // which comes from here
     QColor accent; // in force; invalid for the brand of the theme itself
     QColor ownAccent; // as it was set, not the desktop's
     QHash<QString, QByteArray> unsavedTexts; // by absolute path
@@ -81,7 +87,7 @@ public:
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
     std::unique_ptr<DesktopSettings> desktop; // while it is followed
     std::unique_ptr<ThemeWatcher> watcher; // while files are
-    QString laterFolder; // of a look that waits, or null
+    std::optional<ThemeFolder> laterFolder; // of a look that waits
     QString laterName;
 };
 

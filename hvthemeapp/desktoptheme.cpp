@@ -30,9 +30,10 @@ QString readable(const QString &path)
 class ThemeFiles
 {
 public:
-    ThemeFiles(const QString &folder, const QString &name)
-        : ThemeFiles(readable(themeFilePath(folder, defaultThemeName())),
-                     readable(themeFilePath(folder, name)), name)
+    ThemeFiles(const QString &defaultFile, const QString &ownFile, const QString &name)
+        : m_default(readable(defaultFile), iniFormat(defaultFile))
+        , m_own(readable(ownFile), iniFormat(ownFile))
+        , m_name(name)
     {
     }
 
@@ -50,13 +51,6 @@ public:
     }
 
 private:
-    ThemeFiles(const QString &defaultFile, const QString &ownFile, const QString &name)
-        : m_default(defaultFile, iniFormat(defaultFile))
-        , m_own(ownFile, iniFormat(ownFile))
-        , m_name(name)
-    {
-    }
-
     // Numbers, as the core reads them: what is none is 0. The theme's replaces the default one.
     std::optional<bool> flag(const QString &key) const
     {
@@ -94,7 +88,7 @@ private:
 
 } // namespace
 
-QString themeForDesktop(const QString &folder, const QStringList &themes,
+QString themeForDesktop(const QString &folder, const QString &suffix, const QStringList &themes,
                         DesktopSettings::ColorScheme scheme, DesktopSettings::Contrast contrast)
 {
     const bool wantsDark = scheme == DesktopSettings::ColorScheme::Dark;
@@ -102,7 +96,8 @@ QString themeForDesktop(const QString &folder, const QStringList &themes,
     QString best;
     int bestRank = -1;
     for (const QString &name : themes) {
-        const ThemeFiles files(folder, name);
+        const ThemeFiles files(themeFilePath(folder, defaultThemeName(), suffix),
+                               themeFilePath(folder, name, suffix), name);
         const bool isDark = files.isDark();
         const bool isContrast = files.isOfHighContrast();
         const bool isUsual = name == QLatin1String("dark") || name == QLatin1String("light")

@@ -12,13 +12,14 @@ namespace HV
 {
 
 /*!
- * \brief Returns the one of the themes \a names in \a folder that fits the desktop best.
+ * \brief Returns the one of the themes \a names in \a folder, whose files end in \a suffix, that
+ *        fits the desktop best.
  *
  * What a theme is, the flags `DarkSurfaces` and `HighContrast` of its file say, else those of
  * `default.theme`, else its ground, `BackgroundColor_3`, and its name. A theme of the contrast that is asked for goes before one that is only as dark or light; of
  * equals "dark", "light" and "contrast" come first, then the first. Null if there are no names.
  */
-QString themeForDesktop(const QString &folder, const QStringList &names,
+QString themeForDesktop(const QString &folder, const QString &suffix, const QStringList &names,
                         DesktopSettings::ColorScheme scheme, DesktopSettings::Contrast contrast);
 
 } // namespace HV

@@ -8,6 +8,7 @@
 #include <colormath/contrast.h>
 #include <colormath/oklch.h>
 #include <format/applicationkeys.h>
+#include <format/themepath.h>
 #include <hvtheme/theming.h>
 #include <hvtheme/workabletheming.h>
 
@@ -123,8 +124,7 @@ QHash<QString, QColor> derivedColors(const QHash<QString, QColor> &known)
         return {};
 
     WorkableTheme sample;
-    changeTheme(&sample, QLatin1String(isDark(known) ? "dark" : "light"),
-                ThemeFolder::builtInPath());
+    changeTheme(&sample, QLatin1String(isDark(known) ? "dark" : "light"), builtInThemesFolder());
     QHash<QString, QColor> derived;
     for (const QString &key : qAsConst(missing)) {
         const QColor color = relative(known, key);

@@ -62,22 +62,24 @@ QString problemOfImages(const QString &themeFile)
 
 } // namespace
 
-ThemeFolder::ThemeFolder(const QString &path)
+ThemeFolder::ThemeFolder()
+    : ThemeFolder(builtInThemesFolder(), defaultThemeSuffix())
+{
+}
+
+ThemeFolder::ThemeFolder(const QString &path, const QString &suffix)
     : m_path(path)
+    , m_suffix(themeSuffixIn(path, suffix))
 {
 }
 
-QString ThemeFolder::builtInPath()
-{
-    return QStringLiteral(":/hvthemeapp/themes");
-}
-
-QString ThemeFolder::defaultPath()
+ThemeFolder ThemeFolder::usual(const QString &suffix)
 {
     if (!QCoreApplication::instance())
-        return builtInPath();
-    const QString beside = QCoreApplication::applicationDirPath() + QLatin1String("/themes");
-    return QFileInfo::exists(ThemeFolder(beside).defaultFile()) ? beside : builtInPath();
+        return {};
+    const ThemeFolder beside(QCoreApplication::applicationDirPath() + QLatin1String("/themes"),
+                             suffix);
+    return QFileInfo::exists(beside.defaultFile()) ? beside : ThemeFolder();
 }
 
 QString ThemeFolder::problemOfText(const QString &path)
@@ -87,7 +89,7 @@ QString ThemeFolder::problemOfText(const QString &path)
 
 QString ThemeFolder::file(const QString &name) const
 {
-    return themeFilePath(m_path, name);
+    return themeFilePath(m_path, name, m_suffix);
 }
 
 QString ThemeFolder::defaultFile() const
@@ -130,7 +132,7 @@ QString ThemeFolder::problemOf(const QString &name) const
 
 QStringList ThemeFolder::names() const
 {
-    QStringList names = listThemes(m_path).names;
+    QStringList names = listThemes(m_path, m_suffix).names;
     const auto isNoFile = [this](const QString &name) { return !QFileInfo(file(name)).isFile(); };
     names.erase(std::remove_if(names.begin(), names.end(), isNoFile), names.end());
     names.sort();

@@ -14,20 +14,22 @@ namespace HV
 class ThemeFolder
 {
 public:
-    explicit ThemeFolder(const QString &path = builtInPath());
-
     /*! \brief The folder inside the library. */
-    static QString builtInPath();
+    ThemeFolder();
+
+    /*! \brief The files of \a path that end in \a suffix; those inside the library have their own. */
+    ThemeFolder(const QString &path, const QString &suffix);
 
     /*! \brief The folder `themes` beside the executable if it has a default file, else the built-in
      *         one. Needs a QCoreApplication; without one it is the built-in folder. */
-    static QString defaultPath();
+    static ThemeFolder usual(const QString &suffix);
 
     /*! \brief What keeps \a path from being taken for a text, in a phrase; empty if nothing does: it
      *         is no file, cannot be read, is larger than 4 MiB or has a byte 0. */
     static QString problemOfText(const QString &path);
 
     QString path() const { return m_path; }
+    QString suffix() const { return m_suffix; }
 
     /*! \brief The path of the theme \a name, whether it exists or not. */
     QString file(const QString &name) const;
@@ -48,7 +50,13 @@ public:
 
 private:
     QString m_path;
+    QString m_suffix;
 };
+
+inline bool operator==(const ThemeFolder &one, const ThemeFolder &other)
+{
+    return one.path() == other.path() && one.suffix() == other.suffix();
+}
 
 } // namespace HV
 

@@ -118,6 +118,7 @@ const ThemeProject *InspectedSheet::project() const
     m_isProjectRead = true;
     ThemeProjectOptions options;
     options.folder = m_theme.folder;
+    options.suffix = m_theme.suffix;
     options.themes = QStringList(m_theme.name);
     options.contents = m_theme.unsavedTexts;
     options.applicationFolder = applicationFolder();

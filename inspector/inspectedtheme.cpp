@@ -3,6 +3,7 @@
 
 #include <inspector/inspectedtheme.h>
 
+#include <format/themepath.h>
 #include <hvtheme/theme.h>
 #include <hvthemeapp/applicationtheme.h>
 
@@ -17,6 +18,7 @@ InspectedTheme InspectedTheme::inForce()
     theme.folder = QFileInfo(look->folder()).absoluteFilePath();
     if (look->folder().startsWith(QLatin1Char(':')))
         theme.folder = look->folder();
+    theme.suffix = themeSuffixIn(look->folder(), look->suffix());
     theme.name = look->name();
     theme.values = look->theme()->values();
     theme.unsavedTexts = look->unsavedTexts();

@@ -17,6 +17,7 @@ struct InspectedTheme {
     };
 
     QString folder; //!< of theme files; null if no theme is in force
+    QString suffix; //!< of theme files
     QString name;
     QVector<Template> templates; //!< in the order of the style sheet
     QVariantMap values; //!< as style sheets have them

@@ -31,13 +31,13 @@ QString suggestedFolder(const HV::ApplicationTheme &look)
 }
 
 // A path that nobody has: dark-2 for dark.
-QString suggestedName(const QString &folder, const QString &name)
+QString suggestedName(const QString &folder, const HV::ApplicationTheme &look)
 {
     int number = 2;
     QString suggested;
     do
-        suggested = name % QLatin1Char('-') % QString::number(number++);
-    while (QFileInfo::exists(themeFilePath(folder, suggested)));
+        suggested = look.name() % QLatin1Char('-') % QString::number(number++);
+    while (QFileInfo::exists(themeFilePath(folder, suggested, look.suffix())));
     return suggested;
 }
 
@@ -58,7 +58,7 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     const HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
     if (look) {
         m_folder->setText(QDir::toNativeSeparators(suggestedFolder(*look)));
-        m_name->setText(suggestedName(m_folder->text(), look->name()));
+        m_name->setText(suggestedName(m_folder->text(), *look));
     }
     m_goesOn->setChecked(true);
     m_goesOn->setToolTip(tr("The program gets the new theme, and further changes go there"));
@@ -121,10 +121,11 @@ void NewThemeDialog::accept()
     theme.folder = QFileInfo(m_folder->text().trimmed()).absoluteFilePath();
     theme.name = m_name->text();
     theme.displayName = m_displayName->text();
-    theme.suffix = defaultThemeSuffix();
-    QStringList files{themeFilePath(look->folder(), defaultThemeName())};
+    theme.suffix = look->suffix();
+    const QString suffix = themeSuffixIn(look->folder(), look->suffix());
+    QStringList files{themeFilePath(look->folder(), defaultThemeName(), suffix)};
     if (look->name() != defaultThemeName())
-        files << themeFilePath(look->folder(), look->name());
+        files << themeFilePath(look->folder(), look->name(), suffix);
     bool isSaved = false;
     if (m_folder->text().trimmed().isEmpty())
         m_problem->setText(tr("A folder is needed."));
@@ -136,7 +137,7 @@ void NewThemeDialog::accept()
     if (!isSaved)
         return;
     const QString problem = m_goesOn->isChecked() ? goOn(theme, files) : QString();
-    Q_EMIT saved(themeFilePath(theme.folder, theme.name), problem);
+    Q_EMIT saved(themeFilePath(theme.folder, theme.name, theme.suffix), problem);
     QDialog::accept();
 }
 

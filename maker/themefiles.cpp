@@ -26,7 +26,7 @@ bool fail(const QString &message, QString *error)
 } // namespace
 
 bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool overwrites,
-                     QString *error)
+                     QString *error, const QString &suffix)
 {
     QSet<QString> fileNames;
     for (const MadeFile &file : files) {
@@ -39,8 +39,8 @@ bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool
         fileNames.insert(name);
     }
     QStringList present;
-    for (const QString &name : listThemes(folder).names)
-        present << themeFileName(name);
+    for (const QString &name : listThemes(folder, suffix).names)
+        present << themeFileName(name, suffix);
     if (!present.isEmpty() && !overwrites)
         return fail(folder % QLatin1String(": there are themes already (")
                         % present.join(QLatin1String(", "))

@@ -17,10 +17,11 @@ namespace Maker
  *
  * \param files       of different names.
  * \param overwrites  whether the folder may hold theme files already; those of other names stay.
+ * \param suffix      of theme files, by which those that are there are known.
  * \return false if nothing was written; \a error is then one sentence that says why.
  */
 bool writeThemeFiles(const QString &folder, const QVector<MadeFile> &files, bool overwrites,
-                     QString *error);
+                     QString *error, const QString &suffix = defaultThemeSuffix());
 
 /*! \brief Tells the user what was written to \a folder: the files and the notes, a line each. */
 QString writtenFiles(const QString &folder, const MadeThemes &made);

@@ -79,7 +79,9 @@ QByteArray madeFrom(const Order &order)
     add(" --depth ", order.parameters.surfaceStep, usual.surfaceStep);
     if (!order.name.isEmpty())
         options += QLatin1String(" --name \"") % order.name % QLatin1Char('"');
-    return options.toLatin1();
+    if (order.suffix != defaultThemeSuffix())
+        options += QLatin1String(" --suffix \"") % order.suffix % QLatin1Char('"');
+    return options.toUtf8();
 }
 
 MadeFile defaultFile(const Order &order, const QVector<PaletteEntry> &palette)
@@ -90,12 +92,12 @@ MadeFile defaultFile(const Order &order, const QVector<PaletteEntry> &palette)
     content.replace("--brand #3060F0 --neutral cool", madeFrom(order));
     for (const Look look : {Look::Dark, Look::Light, Look::Contrast}) {
         const QByteArray own = fileBaseName(order.name, look).toLatin1();
-        content.replace(QByteArray(lookName(look).toLatin1() + ".theme"),
-                        QByteArray(own + ".theme"));
+        content.replace(themeFileName(lookName(look)).toLatin1(),
+                        themeFileName(fileBaseName(order.name, look), order.suffix).toUtf8());
         content.replace(QByteArray('"' + lookName(look).toLatin1() + '"'),
                         QByteArray('"' + own + '"'));
     }
-    return {themeFileName(defaultThemeName()), content};
+    return {themeFileName(defaultThemeName(), order.suffix), content};
 }
 
 MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &palette,
@@ -112,7 +114,9 @@ MadeFile lookFile(const Order &order, Look look, const QVector<PaletteEntry> &pa
                       withCapital(order.name) % QLatin1Char(' ') % lookName(look));
     QByteArray content = text.text();
     content.replace(", 85 images and its flags", " and its flags");
-    return {themeFileName(fileBaseName(order.name, look)), content};
+    content.replace(themeFileName(defaultThemeName()).toLatin1(),
+                    themeFileName(defaultThemeName(), order.suffix).toUtf8());
+    return {themeFileName(fileBaseName(order.name, look), order.suffix), content};
 }
 
 } // namespace

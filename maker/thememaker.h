@@ -4,6 +4,7 @@
 #ifndef MAKER_THEMEMAKER_H
 #define MAKER_THEMEMAKER_H
 
+#include <format/themepath.h>
 #include <maker/pairs.h>
 #include <maker/tones.h>
 
@@ -22,6 +23,7 @@ struct Order {
      * Letters, digits, spaces, `-` and `_` in ASCII; empty for plain `dark.theme`.
      */
     QString name;
+    QString suffix = defaultThemeSuffix(); //!< of the files, `theme` in the names above
 };
 
 /*! \brief A theme file that is not written yet. */
@@ -31,7 +33,7 @@ struct MadeFile {
 };
 
 struct MadeThemes {
-    QVector<MadeFile> files; //!< default.theme first
+    QVector<MadeFile> files; //!< the default file first
     QStringList notes; //!< one sentence for each wish that could not be fulfilled, with its look
 };
 

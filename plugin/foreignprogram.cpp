@@ -4,6 +4,7 @@
 #include <plugin/foreignprogram.h>
 
 #include <colormath/contrast.h>
+#include <format/themepath.h>
 #include <hvtheme/theme.h>
 #include <hvthemeapp/desktoptheme.h>
 
@@ -48,9 +49,15 @@ ForeignProgram::ForeignProgram(const Options &options)
         m_styleSheet = qApp->styleSheet();
     });
     // What lies beside a program of others under the name of a folder of themes is none.
-    const QString builtIn = QStringLiteral(":/hvthemeapp/themes");
-    if (!setFolder(options.folder.isEmpty() ? builtIn : options.folder))
+    setFolder(builtInThemesFolder());
+    const bool isReady =
+        options.folder.isEmpty() || (setSuffix(options.suffix) && setFolder(options.folder));
+    if (!isReady)
         return; // it has said why
+    for (const QString &templates : options.templates) {
+        if (!addTemplates(templates, options.prefix))
+            return;
+    }
     takeWantedTheme();
     qApp->installEventFilter(this);
 }
@@ -131,7 +138,7 @@ bool ForeignProgram::takeThemeLike(const QPalette &palette)
         *isDark ? DesktopSettings::ColorScheme::Dark : DesktopSettings::ColorScheme::Light;
     const auto contrast =
         isContrast ? DesktopSettings::Contrast::High : DesktopSettings::Contrast::Normal;
-    const QString fitting = HV::themeForDesktop(folder(), names(), scheme, contrast);
+    const QString fitting = HV::themeForDesktop(folder(), suffix(), names(), scheme, contrast);
     if (fitting == name() || !setName(fitting))
         return false;
     m_isThemeLikeProgram = true;

@@ -29,6 +29,9 @@ public:
     struct Options {
         QString theme; //!< name; empty means as the desktop
         QString folder; //!< of theme files; empty means the built-in themes
+        QString suffix; //!< of the files of a folder; empty means "theme"
+        QStringList templates; //!< folders
+        QString prefix = QStringLiteral("global"); //!< of the tokens of these templates
         bool liftsText = true;
     };
 

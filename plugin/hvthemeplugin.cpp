@@ -32,6 +32,10 @@ ForeignProgram::Options optionsOf(const QUrlQuery &query)
     ForeignProgram::Options options;
     options.theme = value("theme");
     options.folder = value("themes");
+    options.suffix = value("suffix");
+    options.templates = query.allQueryItemValues(QStringLiteral("templates"), QUrl::FullyDecoded);
+    if (query.hasQueryItem(QStringLiteral("prefix")))
+        options.prefix = value("prefix");
     options.liftsText = value("lift") != QLatin1String("no");
     return options;
 }
@@ -42,7 +46,8 @@ ForeignProgram::Options optionsOf(const QUrlQuery &query)
  * \brief Gives a theme to a program of Qt Widgets that knows nothing of it.
  *
  * What stands behind the key is the query of a URL: `theme` the name of the theme, without one the desktop is
- * followed; `themes` a folder of theme files; `lift=no` leaves the program's own colours of text as
+ * followed; `themes` a folder of theme files, `suffix` what their names end in; `templates`
+ * a folder of templates, several times for several, `prefix` what their tokens begin with; `lift=no` leaves the program's own colours of text as
  * they are; `inspect=yes` opens the inspector; `program` is the file name of one that is not left alone, whatever the lists say.
  */
 class HVThemePlugin : public QGenericPlugin

@@ -14,6 +14,7 @@
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
+#include <tools/themeoptions.h>
 
 #include <QDir>
 
@@ -24,6 +25,11 @@ namespace
 
 const QString commandName = QStringLiteral("import");
 constexpr qint64 largestFile = 16 * 1024 * 1024;
+
+struct Wishes {
+    QString name; // of the theme or the set, or empty
+    QString suffix; // of theme files
+};
 
 // The colour that tokens of another author mean as the brand: by name, else the most colourful one.
 QString brandEntry(const Exchange::ThemeContent &theme)
@@ -47,12 +53,13 @@ QString brandEntry(const Exchange::ThemeContent &theme)
 
 // Tokens that name none of a theme's colours are a palette: themes are made of its brand, and its
 // entries stand in the default file for those who want them.
-Maker::MadeThemes themesOfPalette(const Exchange::ThemeContent &tokens, const QString &name)
+Maker::MadeThemes themesOfPalette(const Exchange::ThemeContent &tokens, const Wishes &wishes)
 {
     Maker::Order order;
+    order.suffix = wishes.suffix;
     const QString brand = brandEntry(tokens);
     order.parameters.brand = tokens.palette.value(brand);
-    order.name = name;
+    order.name = wishes.name;
     Maker::MadeThemes made = Maker::makeThemes(order);
     Maker::ThemeText base(made.files.first().content);
     const QStringList own = base.keys(QStringLiteral("Palettes"));
@@ -97,23 +104,23 @@ QString nameOfTheme(const Exchange::ThemeContent &tokens, const QString &name)
     return chosen.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
 }
 
-std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens, const QString &name,
-                                          QString *error)
+std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens,
+                                          const Wishes &wishes, QString *error)
 {
     Exchange::ThemeContent theme = tokens;
     if (isTheme(tokens)) {
-        if (!name.isEmpty())
-            theme.displayName = name;
-        return Exchange::themeFiles(theme, nameOfTheme(tokens, name), error);
+        if (!wishes.name.isEmpty())
+            theme.displayName = wishes.name;
+        return Exchange::themeFiles(theme, nameOfTheme(tokens, wishes.name), wishes.suffix, error);
     }
     theme.palette = Exchange::wholePalette(tokens);
     if (!theme.palette.isEmpty())
-        return themesOfPalette(theme, name);
+        return themesOfPalette(theme, wishes);
     *error = QStringLiteral("there is no token of the type color");
     return std::nullopt;
 }
 
-std::optional<Maker::MadeThemes> themesOfFile(const QString &path, const QString &name,
+std::optional<Maker::MadeThemes> themesOfFile(const QString &path, const Wishes &wishes,
                                               QString *error)
 {
     const auto input = InputFile::read(path, largestFile, error);
@@ -121,7 +128,7 @@ std::optional<Maker::MadeThemes> themesOfFile(const QString &path, const QString
         return std::nullopt;
     std::optional<Maker::MadeThemes> made;
     if (const auto tokens = Exchange::readDesignTokens(input->content(), error))
-        made = themesOf(*tokens, name, error);
+        made = themesOf(*tokens, wishes, error);
     if (!made)
         *error = path % QLatin1String(": ") % *error;
     return made;
@@ -143,6 +150,7 @@ int runImport(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("File of design tokens."));
     parser.addPositionalArgument(QStringLiteral("FOLDER"),
                                  QStringLiteral("Folder to write; made if it is not there."));
+    parser.addOption(ThemeOptions::suffixOption());
     parser.addOption({nameOption, "Name of the theme or the set.", "name"});
     parser.addOption({forceOption, "Write over theme files that are there."});
     if (const std::optional<int> code = parseArguments(parser, commandName, arguments))
@@ -158,12 +166,16 @@ int runImport(const QStringList &arguments)
         return usageError(commandName,
                           QLatin1String("--name: \"") % name
                               % QLatin1String("\" cannot name files"));
+    const QString wrongSuffix = ThemeOptions::mistakeInSuffix(parser);
+    if (!wrongSuffix.isEmpty())
+        return usageError(commandName, wrongSuffix);
 
     QString error;
-    const auto made = themesOfFile(positional.at(0), name, &error);
+    const Wishes wishes{name, parser.value(ThemeOptions::suffixOption())};
+    const auto made = themesOfFile(positional.at(0), wishes, &error);
     if (!made
-        || !Maker::writeThemeFiles(positional.at(1), made->files, parser.isSet(forceOption),
-                                   &error)) {
+        || !Maker::writeThemeFiles(positional.at(1), made->files, parser.isSet(forceOption), &error,
+                                   wishes.suffix)) {
         printError(error);
         return ExitUnusable;
     }

@@ -12,6 +12,7 @@
 #include <tools/commandline.h>
 #include <tools/outputfile.h>
 #include <tools/outputtext.h>
+#include <tools/themeoptions.h>
 
 #include <QColor>
 #include <QDir>
@@ -27,6 +28,7 @@ const QString commandName = QStringLiteral("new");
 constexpr qint64 largestTheme = 16 * 1024 * 1024;
 
 struct KnownOptions {
+    const QCommandLineOption suffix = ThemeOptions::suffixOption();
     const QCommandLineOption brand{
         "brand", "The colour of the brand: #RRGGBB, or a name such as steelblue.", "colour"};
     const QCommandLineOption neutral{
@@ -111,15 +113,20 @@ bool readLooks(const QString &text, QVector<Maker::Look> *looks, QString *mistak
     return true;
 }
 
-std::optional<QByteArray> themeContent(const QString &folder, const QString &theme, QString *error)
+struct Source {
+    QString folder;
+    QString suffix;
+};
+
+std::optional<QByteArray> themeContent(const Source &source, const QString &theme, QString *error)
 {
-    const QString path = themeFilePath(folder, theme);
-    const QString suffix = themeFileName(QString());
+    const QString path = themeFilePath(source.folder, theme, source.suffix);
+    const QString ending = themeFileName(QString(), source.suffix);
     if (!QFileInfo(path).isFile()) {
         *error = path % QLatin1String(": no such theme file");
-        if (theme.endsWith(suffix))
-            *error +=
-                QLatin1String("; write ") % QDir(folder).filePath(theme.chopped(suffix.size()));
+        if (theme.endsWith(ending))
+            *error += QLatin1String("; write ")
+                % QDir(source.folder).filePath(theme.chopped(ending.size()));
         return std::nullopt;
     }
     const auto input = InputFile::read(path, largestTheme, error);
@@ -129,15 +136,16 @@ std::optional<QByteArray> themeContent(const QString &folder, const QString &the
 }
 
 // A copy of one theme, with its default file, in the colours of another brand if one is given.
-std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString &name,
+std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const Maker::Order &order,
                                              const std::optional<QColor> &brand, QString *error)
 {
-    const QString folder = QFileInfo(from).path();
+    const Source source{QFileInfo(from).path(), order.suffix};
     const QString theme = QFileInfo(from).fileName();
-    const auto base = themeContent(folder, defaultThemeName(), error);
+    const QString &name = order.name;
+    const auto base = themeContent(source, defaultThemeName(), error);
     if (!base)
         return std::nullopt;
-    const auto own = themeContent(folder, theme, error);
+    const auto own = themeContent(source, theme, error);
     if (!own)
         return std::nullopt;
     Maker::MadeThemes made;
@@ -151,8 +159,8 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const QString 
         texts.own = named.text();
         fileName = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
     }
-    made.files = {{themeFileName(defaultThemeName()), texts.base},
-                  {themeFileName(fileName), texts.own}};
+    made.files = {{themeFileName(defaultThemeName(), order.suffix), texts.base},
+                  {themeFileName(fileName, order.suffix), texts.own}};
     return made;
 }
 
@@ -195,6 +203,10 @@ QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, M
             return mistake;
         order->parameters.brand = **brand;
     }
+    mistake = ThemeOptions::mistakeInSuffix(parser);
+    if (!mistake.isEmpty())
+        return mistake;
+    order->suffix = parser.value(known.suffix);
     order->name = parser.value(known.name);
     if (!Maker::isThemeName(order->name)
         || order->name.compare(QLatin1String("default"), Qt::CaseInsensitive) == 0)
@@ -222,8 +234,8 @@ int runNew(const QStringList &arguments)
         "Exit code: 0 done, 2 wrong usage or nothing written."));
     parser.addPositionalArgument(QStringLiteral("FOLDER"),
                                  QStringLiteral("Folder to write; made if it is not there."));
-    parser.addOptions({known.brand, known.neutral, known.textContrast, known.depth, known.looks,
-                       known.name, known.from, known.force});
+    parser.addOptions({known.suffix, known.brand, known.neutral, known.textContrast, known.depth,
+                       known.looks, known.name, known.from, known.force});
     if (const std::optional<int> code = parseArguments(parser, commandName, arguments))
         return *code;
 
@@ -235,7 +247,7 @@ int runNew(const QStringList &arguments)
 
     QString error;
     const auto made = parser.isSet(known.from)
-        ? copiedTheme(parser.value(known.from), order.name, brand, &error)
+        ? copiedTheme(parser.value(known.from), order, brand, &error)
         : std::optional<Maker::MadeThemes>(Maker::makeThemes(order));
     const QString folder = parser.positionalArguments().constFirst();
     if (made && parser.isSet(known.from) && holdsSource(folder, parser.value(known.from))) {
@@ -244,7 +256,9 @@ int runNew(const QStringList &arguments)
                                    "written over; name another folder"));
         return ExitUnusable;
     }
-    if (!made || !Maker::writeThemeFiles(folder, made->files, parser.isSet(known.force), &error)) {
+    if (!made
+        || !Maker::writeThemeFiles(folder, made->files, parser.isSet(known.force), &error,
+                                   order.suffix)) {
         printError(error);
         return ExitUnusable;
     }

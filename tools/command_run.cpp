@@ -8,6 +8,7 @@
 #include <format/themepath.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
+#include <tools/themeoptions.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -45,8 +46,47 @@ void addOptions(QCommandLineParser *parser)
     parser->addOption({QStringLiteral("themes"),
                        QStringLiteral("Folder of theme files (default: the built-in themes)."),
                        QStringLiteral("dir")});
+    parser->addOption(ThemeOptions::suffixOption());
+    parser->addOption(ThemeOptions::templatesOption());
+    parser->addOption(ThemeOptions::prefixOption());
     parser->addOption({QStringLiteral("no-lift"),
                        QStringLiteral("Leave the program's own text colours as they are.")});
+}
+
+QString mistakeInTemplates(const QCommandLineParser &parser)
+{
+    const QStringList templates = parser.values(ThemeOptions::templatesOption());
+    for (const QString &folder : templates) {
+        if (!folder.isEmpty() && !QFileInfo(folder).isDir())
+            return QLatin1String("--templates: ") % folder
+                % QLatin1String(": no such folder, and a program takes templates from folders");
+    }
+    if (templates.isEmpty() && parser.isSet(ThemeOptions::prefixOption()))
+        return QStringLiteral("--prefix is about --templates, which is missing");
+    return ThemeOptions::mistakeInTemplates(parser);
+}
+
+QString mistakeInThemes(const QCommandLineParser &parser)
+{
+    const QString theme = parser.value(QStringLiteral("theme"));
+    if (!parser.isSet(QStringLiteral("themes"))) {
+        if (parser.isSet(ThemeOptions::suffixOption()))
+            return QStringLiteral("--suffix is about the files of --themes, which is missing");
+        const QStringList names = QStringLiteral(HVTHEME_BUILTIN_THEMES).split(QLatin1Char(','));
+        if (theme.isEmpty() || names.contains(theme))
+            return {};
+        return QLatin1String("no built-in theme is called \"") % theme
+            % QLatin1String("\"; there are ") % names.join(QLatin1String(", "))
+            % QLatin1String(", or name a folder with --themes");
+    }
+    QString error = ThemeOptions::mistakeInSuffix(parser);
+    if (!error.isEmpty())
+        return error;
+    const auto folder = ThemeFolder::open(parser.value(QStringLiteral("themes")),
+                                          parser.value(ThemeOptions::suffixOption()), &error);
+    if (folder && !theme.isEmpty())
+        folder->read(theme, &error);
+    return error;
 }
 
 // What is wrong with the options; empty if nothing is.
@@ -56,21 +96,8 @@ QString mistake(const QCommandLineParser &parser)
         return QStringLiteral("a program is missing");
     if (parser.isSet(QStringLiteral("theme")) && parser.isSet(QStringLiteral("follow")))
         return QStringLiteral("--theme and --follow exclude each other");
-    const QString theme = parser.value(QStringLiteral("theme"));
-    if (!parser.isSet(QStringLiteral("themes"))) {
-        const QStringList names = QStringLiteral(HVTHEME_BUILTIN_THEMES).split(QLatin1Char(','));
-        if (theme.isEmpty() || names.contains(theme))
-            return {};
-        return QLatin1String("no built-in theme is called \"") % theme
-            % QLatin1String("\"; there are ") % names.join(QLatin1String(", "))
-            % QLatin1String(", or name a folder with --themes");
-    }
-    QString error;
-    const auto folder =
-        ThemeFolder::open(parser.value(QStringLiteral("themes")), defaultThemeSuffix(), &error);
-    if (folder && !theme.isEmpty())
-        folder->read(theme, &error);
-    return error;
+    const QString wrong = mistakeInThemes(parser);
+    return wrong.isEmpty() ? mistakeInTemplates(parser) : wrong;
 }
 
 // The text for the plugin. Commas separate plugins and Qt reads the list as Latin-1, so all that is
@@ -84,6 +111,13 @@ QByteArray pluginRequest(const QCommandLineParser &parser, bool inspects)
         text += "&theme=" + encoded(parser.value(QStringLiteral("theme")));
     if (parser.isSet(QStringLiteral("themes")))
         text += "&themes=" + encoded(QDir(parser.value(QStringLiteral("themes"))).absolutePath());
+    if (parser.isSet(ThemeOptions::suffixOption()))
+        text += "&suffix=" + encoded(parser.value(ThemeOptions::suffixOption()));
+    const QStringList templates = parser.values(ThemeOptions::templatesOption());
+    for (const QString &folder : templates)
+        text += "&templates=" + encoded(QDir(folder).absolutePath());
+    if (parser.isSet(ThemeOptions::prefixOption()))
+        text += "&prefix=" + encoded(parser.value(ThemeOptions::prefixOption()));
     if (parser.isSet(QStringLiteral("no-lift")))
         text += "&lift=no";
     if (inspects)

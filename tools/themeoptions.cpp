@@ -4,6 +4,7 @@
 #include <tools/themeoptions.h>
 
 #include <analysis/theme/storedvalues.h>
+#include <format/themepath.h>
 #include <tools/commandline.h>
 #include <tools/outputtext.h>
 
@@ -17,29 +18,14 @@
 namespace
 {
 
-QString suffixOption()
-{
-    return QStringLiteral("suffix");
-}
-
 QString applicationOption()
 {
     return QStringLiteral("app-dir");
 }
 
-QString templatesOption()
-{
-    return QStringLiteral("templates");
-}
-
 QString builtInOption()
 {
     return QStringLiteral("no-builtin");
-}
-
-QString prefixOption()
-{
-    return QStringLiteral("prefix");
 }
 
 // As QCoreApplication::applicationDirPath() would give it: absolute, without symbolic links.
@@ -61,21 +47,55 @@ bool isWord(const QString &prefix)
 
 } // namespace
 
+QCommandLineOption ThemeOptions::suffixOption()
+{
+    return {QStringLiteral("suffix"), "Suffix of theme files, without the dot (default: theme).",
+            "suffix", defaultThemeSuffix()};
+}
+
+QCommandLineOption ThemeOptions::templatesOption()
+{
+    return {QStringLiteral("templates"),
+            "Style sheet templates behind the built-in ones, a folder or a file; repeatable.",
+            "dir|file"};
+}
+
+QCommandLineOption ThemeOptions::prefixOption()
+{
+    return {QStringLiteral("prefix"), "Prefix of tokens (default: global).", "prefix", "global"};
+}
+
+QString ThemeOptions::mistakeInSuffix(const QCommandLineParser &parser)
+{
+    const QString suffix = parser.value(suffixOption());
+    if (suffix.isEmpty())
+        return QStringLiteral("--suffix needs a text");
+    if (suffix.contains(QLatin1Char('/')))
+        return QLatin1String("--suffix: \"") % suffix
+            % QLatin1String("\" cannot be the end of a file name");
+    return {};
+}
+
+QString ThemeOptions::mistakeInTemplates(const QCommandLineParser &parser)
+{
+    if (parser.values(templatesOption()).contains(QString()))
+        return QStringLiteral("--templates needs the name of a folder or file");
+    if (!isWord(parser.value(prefixOption())))
+        return QStringLiteral("a prefix is made of letters, digits and underscores");
+    return {};
+}
+
 void ThemeOptions::add(QCommandLineParser *parser)
 {
     parser->addPositionalArgument("FOLDER", "Folder with the theme files.");
-    parser->addOption({suffixOption(), "Suffix of theme files, without the dot (default: theme).",
-                       "suffix", "theme"});
+    parser->addOption(suffixOption());
     parser->addOption(
         {applicationOption(),
          "The application's folder, which image paths start from (default: this program's).",
          "dir"});
-    parser->addOption({templatesOption(),
-                       "Style sheet templates behind the built-in ones, a folder or a file; "
-                       "repeatable.",
-                       "dir|file"});
+    parser->addOption(templatesOption());
     parser->addOption({builtInOption(), "Leave the built-in templates out."});
-    parser->addOption({prefixOption(), "Prefix of tokens (default: global).", "prefix", "global"});
+    parser->addOption(prefixOption());
 }
 
 std::optional<ThemeProjectOptions> ThemeOptions::read(const QString &name,
@@ -104,14 +124,12 @@ std::optional<ThemeProjectOptions> ThemeOptions::read(const QString &name,
         mistake = QLatin1String("one argument too many: ") % arguments.constLast();
     else if (parser.isSet(applicationOption()) && parser.value(applicationOption()).isEmpty())
         mistake = QStringLiteral("--app-dir needs the name of a folder");
-    else if (options.templates.contains(QString()))
-        mistake = QStringLiteral("--templates needs the name of a folder or file");
-    else if (options.suffix.isEmpty())
-        mistake = QStringLiteral("--suffix needs a text");
-    else if (!isWord(options.prefix))
-        mistake = QStringLiteral("a prefix is made of letters, digits and underscores");
     else if (options.templates.isEmpty())
         mistake = QStringLiteral("--no-builtin leaves no templates: name some with --templates");
+    for (const QString &each : {mistakeInTemplates(parser), mistakeInSuffix(parser)}) {
+        if (mistake.isEmpty())
+            mistake = each;
+    }
     if (mistake.isEmpty())
         return options;
     usageError(name, mistake);

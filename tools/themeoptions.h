@@ -6,6 +6,7 @@
 
 #include <analysis/themeproject.h>
 
+#include <QCommandLineOption>
 #include <QPair>
 
 #include <memory>
@@ -17,8 +18,19 @@ class QCommandLineParser;
 namespace ThemeOptions
 {
 
+/*! \brief The options as all commands that have them declare them. */
+QCommandLineOption suffixOption();
+QCommandLineOption templatesOption();
+QCommandLineOption prefixOption();
+
+/*! \brief Returns what is wrong with the value of `--suffix`; empty if nothing is. */
+QString mistakeInSuffix(const QCommandLineParser &parser);
+
+/*! \brief Returns what is wrong with the values of `--templates` and `--prefix`, or an empty text. */
+QString mistakeInTemplates(const QCommandLineParser &parser);
+
 /*!
- * \brief Declares FOLDER and the options of every command.
+ * \brief Declares FOLDER and the options of every command that reads a project.
  *
  * They are `--suffix`, `--app-dir`, `--templates`, `--no-builtin` and `--prefix`.
  */

@@ -275,7 +275,7 @@ void tst_DesignTokens::manyGroups()
 void tst_DesignTokens::themeFiles()
 {
     QString error;
-    const auto made = Exchange::themeFiles(smallTheme(), "night", &error);
+    const auto made = Exchange::themeFiles(smallTheme(), "night", "theme", &error);
     QVERIFY2(made, qPrintable(error));
     QCOMPARE(made->files.size(), 2);
     QCOMPARE(made->files.at(0).fileName, QString("default.theme"));

@@ -48,6 +48,8 @@ void tst_ThemePath::listing()
     misses.sort();
     QCOMPARE(misses, QStringList({"Night.THEME", "day.Theme"}));
     QCOMPARE(listThemes(folder.path(), "THEME").names, QStringList("Night"));
+    QCOMPARE(themeSuffixIn(folder.path(), "THEME"), "THEME");
+    QCOMPARE(themeSuffixIn(builtInThemesFolder(), "THEME"), "theme");
     QVERIFY(listThemes(folder.filePath("nowhere")).names.isEmpty());
 }
 

@@ -108,6 +108,10 @@ private Q_SLOTS:
     void namesAreThoseOfTheFolder();
     void ownFolder();
     void folderBesideTheExecutable();
+    void ownSuffix();
+    void suffixThatCannotBeHad_data();
+    void suffixThatCannotBeHad();
+    void suffixOfFollowedThemes();
     void ownVocabulary();
     void missingKeyOfOwnVocabulary();
     void ownTemplates();
@@ -226,6 +230,115 @@ void tst_ApplicationTheme::folderBesideTheExecutable()
     QCOMPARE(theme.folder(), beside);
     QCOMPARE(theme.names(), QStringList("own"));
     QVERIFY(theme.setName("own"));
+
+    QVERIFY(theme.setSuffix("look")); // of which it has no default file
+    QCOMPARE(theme.names(), QStringList({"contrast", "dark", "light"}));
+    QVERIFY(QFile::copy(beside + "/default.theme", beside + "/default.look"));
+    QVERIFY(QFile::copy(beside + "/own.theme", beside + "/other.look"));
+    QCOMPARE(theme.folder(), beside);
+    QCOMPARE(theme.names(), QStringList("other"));
+}
+
+void tst_ApplicationTheme::ownSuffix()
+{
+    TemporaryFolder folder;
+    writeThemes(folder); // night.theme and day.theme, and with another suffix:
+    folder.write("default.look", fileText(folder.filePath("default.theme")));
+    folder.write(
+        "night.look",
+        fileText(folder.filePath("day.theme")).replace("ThemeName=Light", "ThemeName=White night"));
+    ApplicationTheme theme;
+    QCOMPARE(theme.suffix(), "theme");
+    const QSignalSpy suffixes(&theme, &ApplicationTheme::suffixChanged);
+    QVERIFY(theme.setSuffix("look")); // the themes inside the library are there all the same
+    QCOMPARE(theme.names(), QStringList({"contrast", "dark", "light"}));
+    QVERIFY(theme.setName("light"));
+    const QColor light = theme.palette().color(QPalette::Window);
+    QVERIFY(theme.setFolder(folder.path()));
+    QCOMPARE(theme.names(), QStringList("night"));
+    QCOMPARE(theme.displayName("night"), "White night");
+    QVERIFY(theme.setName("night"));
+    QCOMPARE(theme.palette().color(QPalette::Window), light);
+    QCOMPARE(theme.theme()->filePath(), folder.filePath("default.look"));
+    QVERIFY(theme.setSuffix("look"));
+    QCOMPARE(suffixes.count(), 1);
+
+    const QSignalSpy folders(&theme, &ApplicationTheme::folderChanged); // as names() are others
+    const std::unique_ptr<QMenu> menu(theme.menu());
+    QVERIFY(theme.setSuffix(QString())); // its "night" comes into force at once
+    QCOMPARE(theme.suffix(), "theme");
+    QCOMPARE(suffixes.count(), 2);
+    QCOMPARE(folders.count(), 1);
+    QVERIFY(theme.palette().color(QPalette::Window) != light);
+    QCOMPARE(theme.names(), QStringList({"day", "night"}));
+    QVERIFY(actionNamed(*menu, "Light"));
+
+    QVERIFY(theme.setName("day"));
+    QVERIFY(theme.setSuffix("look")); // which has no "day": the look stays
+    QCOMPARE(theme.name(), "day");
+    QVERIFY(theme.setName("night"));
+}
+
+void tst_ApplicationTheme::suffixThatCannotBeHad_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QString>("fault"); // behind the path of the file
+
+    QTest::newRow("no-default-file") << "none"
+                                     << "default.none\" is no file";
+    QTest::newRow("upper-case") << "Theme"
+                                << "default.Theme\" is no file";
+    QTest::newRow("default-file-without-keys") << "empty"
+                                               << "default.empty\" has no key";
+    QTest::newRow("theme-that-is-no-text") << "bad"
+                                           << "night.bad\" is no text";
+}
+
+// The good look stays, and so does the suffix.
+void tst_ApplicationTheme::suffixThatCannotBeHad()
+{
+    QFETCH(QString, suffix);
+    QFETCH(QString, fault);
+    TemporaryFolder folder;
+    writeThemes(folder);
+    folder.write("default.empty", "\n");
+    folder.write("default.bad", fileText(folder.filePath("default.theme")));
+    folder.write("night.bad", QByteArray("a=\0", 4));
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("night"));
+    const QSignalSpy suffixes(&theme, &ApplicationTheme::suffixChanged);
+    const QSignalSpy changes(&theme, &ApplicationTheme::changed);
+    const QString sheet = qApp->styleSheet();
+    QVERIFY(!theme.setSuffix(suffix));
+    QVERIFY2(theme.problem().contains(folder.filePath(fault)), qPrintable(theme.problem()));
+    QCOMPARE(logged(m_log), warning(theme.problem()));
+    QCOMPARE(theme.suffix(), "theme");
+    QCOMPARE(theme.names(), QStringList({"day", "night"}));
+    QCOMPARE(suffixes.count(), 0);
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(qApp->styleSheet(), sheet);
+    QVERIFY(theme.setName("night"));
+    QCOMPARE(theme.problem(), QString());
+}
+
+// Which theme is dark stands in the files of the suffix.
+void tst_ApplicationTheme::suffixOfFollowedThemes()
+{
+    TemporaryFolder folder;
+    writeThemes(folder);
+    QVERIFY(QFile::rename(folder.filePath("default.theme"), folder.filePath("default.look")));
+    QVERIFY(QFile::rename(folder.filePath("night.theme"), folder.filePath("a.look")));
+    QVERIFY(QFile::rename(folder.filePath("day.theme"), folder.filePath("b.look")));
+    ApplicationTheme theme;
+    QVERIFY(theme.setSuffix("look"));
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.followDesktop());
+    const bool isDark = QApplication::palette().color(QPalette::Window).lightness() < 128;
+    QCOMPARE(theme.name(), isDark ? "a" : "b");
+    ApplicationTheme usual;
+    QVERIFY(usual.followDesktop());
+    QCOMPARE(QApplication::palette().color(QPalette::Window).lightness() < 128, isDark);
 }
 
 void tst_ApplicationTheme::ownVocabulary()
@@ -452,16 +565,25 @@ void tst_ApplicationTheme::menuInStep()
 void tst_ApplicationTheme::liveReload_data()
 {
     QTest::addColumn<bool>("isReplaced");
-    QTest::newRow("in-place") << false;
-    QTest::newRow("by-rename") << true;
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("in-place") << false << "theme";
+    QTest::newRow("by-rename") << true << "theme";
+    QTest::newRow("another-suffix") << false << "look";
 }
 
 void tst_ApplicationTheme::liveReload()
 {
     QFETCH(bool, isReplaced);
+    QFETCH(QString, suffix);
     TemporaryFolder folder;
     writeThemes(folder);
+    for (const char *name : {"default", "night", "day"}) {
+        const QString file = folder.filePath(name);
+        QVERIFY(suffix == "theme" || QFile::rename(file + ".theme", file + '.' + suffix));
+    }
+    const QString night = "night." + suffix;
     ApplicationTheme theme;
+    QVERIFY(theme.setSuffix(suffix));
     QVERIFY(theme.setFolder(folder.path()));
     QVERIFY(theme.setName("night"));
     theme.setLiveReload(true);
@@ -470,22 +592,21 @@ void tst_ApplicationTheme::liveReload()
         const QByteArray text = fileText(":/hvthemeapp/themes/dark.theme")
                                     .replace("BackgroundColor_2=Bg_2",
                                              QByteArray(QByteArray("BackgroundColor_2=") + color));
-        folder.write(isReplaced ? "new" : "night.theme", text);
+        folder.write(isReplaced ? "new" : night, text);
         if (isReplaced)
-            QVERIFY(rename(qPrintable(folder.filePath("new")),
-                           qPrintable(folder.filePath("night.theme")))
+            QVERIFY(rename(qPrintable(folder.filePath("new")), qPrintable(folder.filePath(night)))
                     == 0);
         QVERIFY(changes.wait());
         QCOMPARE(theme.palette().color(QPalette::Window), QColor(color));
     }
     // A file that is gone leaves the last good look, and is seen when it is back.
     QSignalSpy problems(&theme, &ApplicationTheme::problemChanged);
-    const QByteArray text = fileText(folder.filePath("night.theme"));
-    QVERIFY(QFile::remove(folder.filePath("night.theme")));
+    const QByteArray text = fileText(folder.filePath(night));
+    QVERIFY(QFile::remove(folder.filePath(night)));
     QVERIFY(problems.wait());
     QCOMPARE(theme.palette().color(QPalette::Window), QColor("#405060"));
     QCOMPARE(logged(m_log), warning(theme.problem()));
-    folder.write("night.theme", text);
+    folder.write(night, text);
     QVERIFY(problems.wait());
     QCOMPARE(theme.problem(), QString());
 }

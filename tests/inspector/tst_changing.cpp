@@ -60,6 +60,7 @@ private Q_SLOTS:
     void changedBetweenEdits();
     void cannotBeSaved_data();
     void cannotBeSaved();
+    void saveAs_data();
     void saveAs();
     void saveAsKeepsOtherFiles();
     void saveAsCannotGoOn();
@@ -906,11 +907,27 @@ void tst_Changing::cannotBeSaved()
     QVERIFY(!ProgramChanges::ofProgram()->isUnsaved());
 }
 
+void tst_Changing::saveAs_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("usual-suffix") << "theme";
+    QTest::newRow("another-suffix") << "look";
+}
+
 void tst_Changing::saveAs()
 {
+    QFETCH(QString, suffix);
+    for (const char *name : {"default", "dark", "light"}) {
+        const QString path = m_folder->filePath(name);
+        QVERIFY(suffix == "theme" || QFile::rename(path + ".theme", path + '.' + suffix));
+    }
+    QVERIFY(m_theme->setSuffix(suffix));
+    settle();
+    const QByteArray dark = "dark." + suffix.toUtf8();
+    const QByteArray night = "night." + suffix.toUtf8();
     QVERIFY(choose("Values", "background-color"));
     type(part<QLineEdit>("Colour"), "#ff00aa");
-    const QByteArray before = file("dark.theme");
+    const QByteArray before = file(dark.constData());
     QTest::keyClick(part<QLineEdit>("Colour"), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     auto *copy = dialog<QDialog>();
     QCOMPARE(part<QLineEdit>("Name", copy)->text(), QString("dark-2"));
@@ -921,12 +938,12 @@ void tst_Changing::saveAs()
              qPrintable(problem->text()));
     type(part<QLineEdit>("Name", copy), "night");
     QTest::keyClick(part<QLineEdit>("Name", copy), Qt::Key_Return);
-    QVERIFY(file("night.theme").contains("AccentBackgroundColor=#ff00aa"));
-    QVERIFY(file("night.theme").contains("ThemeName=night"));
-    QCOMPARE(file("dark.theme"), before);
+    QVERIFY(file(night.constData()).contains("AccentBackgroundColor=#ff00aa"));
+    QVERIFY(file(night.constData()).contains("ThemeName=night"));
+    QCOMPARE(file(dark.constData()), before);
     QCOMPARE(m_theme->name(), QString("night"));
     QCOMPARE(part<QLabel>("What came of saving")->text(),
-             "Saved as the new theme " + m_folder->filePath("night.theme") + '.');
+             "Saved as the new theme " + m_folder->filePath(QString::fromUtf8(night)) + '.');
 }
 
 // What is written nowhere stays unsaved.

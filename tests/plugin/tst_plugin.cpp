@@ -36,7 +36,9 @@ private Q_SLOTS:
     void leftAlone_data();
     void leftAlone();
     void firstOfSeveral();
+    void folderOfThemes_data();
     void folderOfThemes();
+    void templatesOfTheUser();
     void noSuchTheme();
     void desktop_data();
     void desktop();
@@ -365,16 +367,45 @@ void tst_Plugin::firstOfSeveral()
     QCOMPARE(facts.object["sheet"], m_plain["sheet"]);
 }
 
+void tst_Plugin::folderOfThemes_data()
+{
+    QTest::addColumn<QString>("suffix");
+    QTest::addColumn<QStringList>("options");
+
+    const QStringList named{"--theme", "night, of mine"};
+    QTest::newRow("usual-suffix") << "theme" << named;
+    QTest::newRow("own-suffix") << "l&,k" << named + QStringList{"--suffix", "l&,k"};
+    QTest::newRow("as-the-desktop") << "look" << QStringList{"--suffix", "look"};
+}
+
 void tst_Plugin::folderOfThemes()
 {
+    QFETCH(QString, suffix);
+    QFETCH(QStringList, options);
     const QTemporaryDir folder;
     const QString sample = HVTHEME_SOURCE_DIR "/themes/";
-    QVERIFY(QFile::copy(sample + "default.theme", folder.filePath("default.theme")));
-    QVERIFY(QFile::copy(sample + "dark.theme", folder.filePath("night, of mine.theme")));
-    const Facts facts = ::themed("plain", {"--themes", folder.path(), "--theme", "night, of mine"});
+    QVERIFY(QFile::copy(sample + "default.theme", folder.filePath("default." + suffix)));
+    QVERIFY(QFile::copy(sample + "dark.theme", folder.filePath("night, of mine." + suffix)));
+    const Facts facts = ::themed("plain", QStringList{"--themes", folder.path()} + options);
     QCOMPARE(facts.object["window"], m_plain["window"]);
     QCOMPARE(facts.object["text"], m_plain["text"]);
     QCOMPARE(facts.code, 0);
+}
+
+void tst_Plugin::templatesOfTheUser()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("a&b, c"));
+    QFile file(folder.filePath("a&b, c/own.qss"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("QAbstractButton#nobody { color: mine.theme.color.DefaultForegroundColor; }\n");
+    file.close();
+    const Facts facts = ::themed(
+        "plain", {"--theme", "dark", "--templates", folder.filePath("a&b, c"), "--prefix", "mine"});
+    QCOMPARE(facts.errors, QByteArray());
+    const QString sheet = facts.object["sheet"].toString();
+    QVERIFY(sheet.startsWith(m_plain["sheet"].toString()));
+    QVERIFY2(sheet.contains("QAbstractButton#nobody { color: #"), qPrintable(sheet.right(200)));
 }
 
 // The program is what its user wants; a theme comes second.

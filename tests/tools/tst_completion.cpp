@@ -160,6 +160,8 @@ void tst_Completion::words_data()
     QTest::newRow("new-has-one-argument") << "new x " << "";
     QTest::newRow("themes-to-run-in") << "run --theme " << "contrast dark default light";
     QTest::newRow("folder-of-themes") << "run --themes the" << "themes";
+    QTest::newRow("folder-of-templates") << "run --themes themes --suffix x --templates temp" << "templates";
+    QTest::newRow("program-behind-options") << "run --suffix x --templates t --prefix y mkfif" << "mkfifo";
     QTest::newRow("program") << "run --theme dark -- mkfif" << "mkfifo";
     QTest::newRow("program-by-path") << "run templates/b" << "templates/b.qss";
     QTest::newRow("arguments") << "run -- cat --theme templates/b" << "templates/b.qss";

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void displayNames();
     void recordsItsParameters();
     void copies();
+    void copyOfAnotherSuffix();
     void refused_data();
     void refused();
     void keepsWhatIsThere();
@@ -102,6 +103,8 @@ void tst_New::files_data()
                            << QStringList{"default.theme", "light.theme"};
     QTest::newRow("named") << QStringList{"--looks", "dark", "--name", "Stage Light"}
                            << QStringList{"default.theme", "stage-light-dark.theme"};
+    QTest::newRow("suffix") << QStringList{"--looks", "dark", "--suffix", "look"}
+                            << QStringList{"dark.look", "default.look"};
 }
 
 void tst_New::files()
@@ -116,6 +119,16 @@ void tst_New::files()
         QVERIFY(run.output.contains((folder.filePath(file) + '\n').toUtf8()));
     for (const QString &file : expected)
         QVERIFY(!contentOf(folder.filePath(file)).contains("[ImageFiles]"));
+
+    // Comments name the files of this folder, and the command that made them.
+    const QString suffix = QFileInfo(expected.constFirst()).suffix();
+    const QByteArray base = contentOf(folder.filePath("default." + suffix));
+    const QByteArray look = contentOf(folder.filePath(expected.constFirst()));
+    QVERIFY(base.contains("; " + expected.constFirst().toUtf8() + " for \"")
+            || expected.constFirst() != "dark." + suffix);
+    QVERIFY(look.contains("Read after default." + suffix.toUtf8() + ',')
+            || expected.constFirst().startsWith("default"));
+    QCOMPARE(base.contains("--suffix \"look\"\n"), suffix == "look");
 }
 
 void tst_New::displayNames()
@@ -162,6 +175,28 @@ void tst_New::copies()
     QVERIFY(own.contains("\nThemeName=Rust\n"));
     QVERIFY(own.contains("\nadd=../share/hvtheme/themes/dark/add.svg\n"));
     QVERIFY(contentOf(folder.filePath("rust/default.theme")).contains("\nBrand=#8A3324\n"));
+}
+
+void tst_New::copyOfAnotherSuffix()
+{
+    const QByteArray text("[General]\nThemeName=Mine\n");
+    const TemporaryTheme source(text); // its default.theme is none of this suffix
+    const QStringList arguments{"--from", source.path("night"), "--suffix", "look"};
+    const QTemporaryDir folder;
+    const QString out = folder.filePath("out");
+    source.write("night.look", text);
+    QCOMPARE(CommandRun(QStringList{"new", out} + arguments).errors,
+             "hvtheme: " + source.path("default.look").toUtf8() + ": no such theme file\n");
+    source.write("default.look", "[Flags]\nA=1\n");
+    QCOMPARE(CommandRun(QStringList{"new", out} + arguments).exitCode, 0);
+    QCOMPARE(filesIn(out), QStringList({"default.look", "night.look"}));
+    QCOMPARE(contentOf(folder.filePath("out/default.look")), QByteArray("[Flags]\nA=1\n"));
+
+    // Themes are there already, of this suffix; of the other there are none yet.
+    const QStringList anew{"new", out, "--brand", "red"};
+    QVERIFY(CommandRun(anew + QStringList{"--suffix", "look"})
+                .errors.contains("there are themes already (default.look, night.look)"));
+    QCOMPARE(CommandRun(anew).exitCode, 0);
 }
 
 void tst_New::refused_data()
@@ -213,6 +248,11 @@ void tst_New::refused_data()
                                      << QByteArray("a file is in the way; name a folder");
     QTest::newRow("read-only") << QStringList{"/proc", "--brand", "red"}
                                << QByteArray("/proc/default.theme: ");
+    QTest::newRow("no-suffix") << QStringList{"OUT", "--brand", "red", "--suffix", ""}
+                               << QByteArray("--suffix needs a text");
+    QTest::newRow("suffix-with-slash")
+        << QStringList{"OUT", "--brand", "red", "--suffix", "/../x"}
+        << QByteArray("--suffix: \"/../x\" cannot be the end of a file name");
     QTest::newRow("name-with-umlaut")
         << QStringList{"OUT", "--brand", "red", "--name", QString::fromUtf8("ü")}
         << QByteArray("--name");

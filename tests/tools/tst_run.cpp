@@ -148,6 +148,10 @@ void tst_Run::pluginRequest_data()
     QTest::newRow("no-lift") << QStringList("--no-lift") << "hvtheme:program=env&lift=no";
     QTest::newRow("built-in") << QStringList({"--theme", "dark"})
                               << "hvtheme:program=env&theme=dark";
+    QTest::newRow("templates") << QStringList(
+        {"--templates", "/proc", "--templates", "/proc/self", "--prefix", "mine"})
+                               << "hvtheme:program=env&templates=%2Fproc&templates=%2Fproc%2Fself&"
+                                  "prefix=mine";
 }
 
 void tst_Run::pluginRequest()
@@ -256,6 +260,29 @@ void tst_Run::usage_data()
            "light, or name a folder with --themes";
     QTest::newRow("no-folder") << QStringList({"--themes", "/no/such", "env"})
                                << "/no/such: no such folder; name the one with the theme files";
+    QTest::newRow("no-file-of-suffix")
+        << QStringList({"--themes", HVTHEME_SOURCE_DIR "/themes", "--suffix", "look", "env"})
+        << HVTHEME_SOURCE_DIR "/themes: no default.look here, with which every theme begins";
+    QTest::newRow("empty-suffix") << QStringList(
+        {"--themes", HVTHEME_SOURCE_DIR "/themes", "--suffix", "", "env"})
+                                  << "--suffix needs a text";
+    QTest::newRow("suffix-of-nothing")
+        << QStringList({"--suffix", "look", "env"})
+        << "--suffix is about the files of --themes, which is missing";
+    QTest::newRow("no-templates")
+        << QStringList({"--templates", "/no/such", "env"})
+        << "--templates: /no/such: no such folder, and a program takes templates from folders";
+    QTest::newRow("template-file")
+        << QStringList({"--templates", HVTHEME_SOURCE_DIR "/README.md", "env"})
+        << "--templates: " HVTHEME_SOURCE_DIR
+           "/README.md: no such folder, and a program takes templates "
+           "from folders";
+    QTest::newRow("empty-templates") << QStringList({"--templates", "", "env"})
+                                     << "--templates needs the name of a folder or file";
+    QTest::newRow("prefix") << QStringList({"--templates", "/proc", "--prefix", "a b", "env"})
+                            << "a prefix is made of letters, digits and underscores";
+    QTest::newRow("prefix-of-nothing") << QStringList({"--prefix", "mine", "env"})
+                                       << "--prefix is about --templates, which is missing";
 }
 
 void tst_Run::usage()
@@ -283,6 +310,11 @@ void tst_Run::themesFolder()
                            "QT_QPA_GENERIC_PLUGINS"),
                  "hvtheme:program=env&theme=" + QString(name.second) + "&themes=" + folder);
     }
+    themes.write("default.l,k", "[Colors]\n");
+    themes.write("day.l,k", "[Colors]\n");
+    QCOMPARE(valueSeen(options + QStringList{"day", "--suffix", "l,k"}, plainEnvironment(),
+                       "QT_QPA_GENERIC_PLUGINS"),
+             "hvtheme:program=env&theme=day&themes=" + folder + "&suffix=l%2Ck");
     const Run seen = run(options + QStringList{"day", "env"}, plainEnvironment());
     const QString errors = QString::fromLocal8Bit(seen.errors);
     QVERIFY2(errors.startsWith("hvtheme: run: " + themes.path() + "/day.theme"
