@@ -215,9 +215,13 @@ void ApplicationTheme::restyleAgain()
     QPalette palette = applicationPalette(d->theme->values());
     lookInForce().isChanging = true;
     ThemedStyle::install();
+    d->ownStyleSheet.reset();
     complete(&palette, &styleSheet);
     lookInForce().owner = this;
-    lookInForce().styleSheet = look;
+    // A class that does without our complete() knows alone what else is the application's.
+    const bool isAllKnown = d->ownStyleSheet.has_value();
+    lookInForce().styleSheet = {look, isAllKnown ? styleSheet : look,
+                                d->ownStyleSheet.value_or(QString())};
     d->palette = palette;
     d->watch();
     d->lift();
@@ -233,8 +237,8 @@ void ApplicationTheme::restyleAgain()
 void ApplicationTheme::complete(QPalette *, QString *styleSheet)
 {
     const QString own = styleSheetBeside(lookInForce().styleSheet);
-    if (!own.isEmpty())
-        *styleSheet += own;
+    d->ownStyleSheet = own;
+    *styleSheet += own;
 }
 
 } // namespace HV

@@ -38,7 +38,8 @@ class Theme;
  * good one, makes the function return false, and is told in one sentence: by problem(), and once as a
  * warning of the category `hvtheme.app`. A theme that is complete logs nothing.
  *
- * A style sheet that the application has set itself comes after the one of the look and stays. What
+ * A style sheet that the application has set itself, or the text of the file that it or the option
+ * `-stylesheet` names, comes after the one of the look and stays. What
  * the application sets later replaces all; it is joined with the look again at the next change, or by
  * restyleAgain().
  *
@@ -294,7 +295,7 @@ protected:
      *        style sheet that the application has set itself.
      *
      * Called for every look, as the theme is in force and nothing else of it. What is added costs no
-     * restyling of its own.
+     * restyling of its own, and goes with the look that it was added to.
      */
     virtual void complete(QPalette *palette, QString *styleSheet);
 

@@ -8,6 +8,7 @@
 
 #include "desktopsettings.h"
 #include "legibletext.h"
+#include "programlook.h"
 #include "templatefolders.h"
 #include "themefolder.h"
 #include "themewatcher.h"
@@ -27,10 +28,10 @@ class QApplication;
 namespace HV
 {
 
-// An application has one look: who set it last, and the style sheet without what is not ours.
+// An application has one look: who set it last, and its style sheet, which may have been replaced.
 struct LookInForce {
     ApplicationTheme *owner = nullptr;
-    QString styleSheet;
+    StyleSheetParts styleSheet;
     bool isChanging = false; // widget by widget
 };
 
@@ -83,6 +84,7 @@ public:
     bool liftsText = false;
     std::unique_ptr<LegibleText, EndLegibleText> legibleText; // while there is an application
     QPalette palette;
+    std::optional<QString> ownStyleSheet; // of the application, if complete() has added it
     QString problem;
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
     std::unique_ptr<DesktopSettings> desktop; // while it is followed

@@ -6,6 +6,7 @@
 #include "calendarweekends.h"
 #include "iconcolors.h"
 #include "placeholders.h"
+#include "stylesheettext.h"
 #include "themedstyle.h"
 
 #include <colormath/oklch.h>
@@ -14,10 +15,13 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMdiArea>
+#include <QPointer>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextCursor>
 #include <QToolTip>
+#include <QVector>
 
 #include <algorithm>
 
@@ -56,6 +60,7 @@ void recolorLinks(QTextEdit *edit, const LinkColors &colors)
     QTextDocument *document = edit->document();
     if (document->isUndoAvailable() || document->isRedoAvailable() || document->isModified())
         return;
+    const QSignalBlocker blocker(edit); // the text is what it was
     const bool hasUndo = document->isUndoRedoEnabled();
     document->setUndoRedoEnabled(false);
     recolorLinks(document, colors);
@@ -78,15 +83,16 @@ void renewKeptColors(const QPalette &before, const QPalette &after)
 {
     const LinkColors links{before.color(QPalette::Link), after.color(QPalette::Link)};
     const QWidgetList all = QApplication::allWidgets();
-    for (QWidget *widget : all) {
-        auto *area = qobject_cast<QMdiArea *>(widget);
+    const QVector<QPointer<QWidget>> widgets(all.cbegin(), all.cend());
+    for (const QPointer<QWidget> &widget : widgets) { // a document's signals may delete others
+        auto *area = qobject_cast<QMdiArea *>(widget.data());
         if (area && area->background() == before.brush(QPalette::Dark))
             area->setBackground(after.brush(QPalette::Dark));
         if (links.before == links.after)
             continue;
-        if (auto *edit = qobject_cast<QTextEdit *>(widget))
+        if (auto *edit = qobject_cast<QTextEdit *>(widget.data()))
             recolorLinks(edit, links);
-        else if (auto *label = qobject_cast<QLabel *>(widget))
+        else if (auto *label = qobject_cast<QLabel *>(widget.data()))
             recolorLinks(label);
     }
 }
@@ -129,12 +135,16 @@ bool isPainting()
     });
 }
 
-QString styleSheetBeside(const QString &look)
+QString styleSheetBeside(const StyleSheetParts &given)
 {
     QString styleSheet = qApp->styleSheet();
-    if (!look.isEmpty())
-        styleSheet.remove(look);
-    return styleSheet.trimmed();
+    if (given.whole.isEmpty())
+        return styleSheetText(styleSheet).trimmed();
+    if (styleSheet.contains(given.whole))
+        styleSheet.replace(given.whole, given.own);
+    else
+        styleSheet.remove(given.templates);
+    return styleSheetText(styleSheet).trimmed();
 }
 
 void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet)

@@ -18,8 +18,16 @@ QPalette startPalette();
 /*! \brief Returns whether a widget is in a paint event. */
 bool isPainting();
 
-/*! \brief Returns the style sheet of the application without \a look, which it may contain. */
-QString styleSheetBeside(const QString &look);
+/*! A style sheet that was given to the application. */
+struct StyleSheetParts {
+    QString templates;
+    QString whole;
+    QString own; // what of the whole is the application's
+};
+
+/*! \brief Returns the style sheet of the application without what \a given has more than its own, be
+ *         that there as it was given, replaced, or with more around it. */
+QString styleSheetBeside(const StyleSheetParts &given);
 
 /*!
  * \brief Puts palette, icon colours and style sheet in force, and polishes each widget once.

@@ -7,6 +7,7 @@
 #include <format/themepath.h>
 #include <hvtheme/theme.h>
 #include <hvthemeapp/desktoptheme.h>
+#include <hvthemeapp/stylesheettext.h>
 
 #include <QApplication>
 #include <QEvent>
@@ -179,5 +180,5 @@ QString ForeignProgram::withoutTheme(const QString &styleSheet) const
     QString own = styleSheet;
     for (const QString &theme : m_themeStyleSheets)
         own.remove(theme);
-    return own.trimmed();
+    return HV::styleSheetText(own).trimmed();
 }

@@ -118,6 +118,10 @@ private Q_SLOTS:
     void everythingInForceWhenChanged();
     void paintedOnce();
     void ownStyleSheetStays();
+    void styleSheetOfAFile_data();
+    void styleSheetOfAFile();
+    void picturesOfAFile();
+    void styleSheetWithoutAFile();
     void whatPalettesDoNotReach();
     void titleBarsFollow();
     void saveAndRestore();
@@ -467,6 +471,82 @@ void tst_ApplicationTheme::ownStyleSheetStays()
     const int size = int(qApp->styleSheet().size());
     QVERIFY(other.setName("dark"));
     QCOMPARE(qApp->styleSheet().size(), size);
+}
+
+void tst_ApplicationTheme::styleSheetOfAFile_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected"); // %1: its folder
+
+    const auto row = [](const char *tag, const char *text, const char *expected) {
+        QTest::newRow(tag) << text << expected;
+    };
+    row("rule", "QLabel { padding: 7px }", "QLabel { padding: 7px }");
+    row("spaces around", "\n QLabel { padding: 7px }\n\n", "QLabel { padding: 7px }");
+    row("picture", "a { image: url(b.png) }", "a { image: url(\"%1/b.png\") }");
+    row("two pictures", "a { image: url(b.png) } c { image: URL( 'd/e f.png' ) }",
+        "a { image: url(\"%1/b.png\") } c { image: url(\"%1/d/e f.png\") }");
+    row("quoted", "a { image: url(\"b(1).png\") }", "a { image: url(\"%1/b(1).png\") }");
+    row("from anywhere", "a { image: url(/b.png) } c { image: url(:/d.png) }",
+        "a { image: url(/b.png) } c { image: url(:/d.png) }");
+    row("comment", "/* url(b.png) ' */ a { b: 'url(c.png)' }",
+        "/* url(b.png) ' */ a { b: 'url(c.png)' }");
+    row("text", "a { b: \"\\\"url(c.png)\" }", "a { b: \"\\\"url(c.png)\" }");
+    row("not closed", "a { image: url(b.png", "a { image: url(b.png");
+    row("empty", "", "");
+}
+
+// As the option "-stylesheet" names it.
+void tst_ApplicationTheme::styleSheetOfAFile()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    TemporaryFolder folder;
+    folder.write("own.qss", text.toUtf8());
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    const QString look = qApp->styleSheet();
+    qApp->setStyleSheet("file:///" + folder.filePath("own.qss"));
+    for (int again = 0; again < 2; ++again) {
+        theme.restyleAgain();
+        QCOMPARE(qApp->styleSheet(), look + expected.replace("%1", folder.path()));
+    }
+}
+
+void tst_ApplicationTheme::picturesOfAFile()
+{
+    TemporaryFolder folder;
+    const QString name = QStringLiteral("a b'(\u00fc&/");
+    const QString file = folder.write(name + "own.qss", "QWidget#own { background: url(red.png) }");
+    QImage red(20, 20, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(folder.filePath(name + "red.png")));
+    qApp->setStyleSheet("file:///" + file);
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    QWidget widget;
+    widget.setObjectName("own");
+    widget.setAttribute(Qt::WA_StyledBackground);
+    widget.resize(20, 20);
+    QCOMPARE(widget.grab().toImage().pixelColor(10, 10), QColor(Qt::red));
+}
+
+void tst_ApplicationTheme::styleSheetWithoutAFile()
+{
+    ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    const QString look = qApp->styleSheet();
+    qApp->setStyleSheet("file:////nowhere/own.qss");
+    m_log.take(); // what Qt says
+    for (int again = 0; again < 2; ++again) {
+        theme.restyleAgain();
+        QCOMPARE(qApp->styleSheet(), look);
+    }
+    QCOMPARE(
+        logged(m_log),
+        warning(
+            "The application's style sheet \"/nowhere/own.qss\" cannot be read: No such file or "
+            "directory."));
 }
 
 void tst_ApplicationTheme::whatPalettesDoNotReach()

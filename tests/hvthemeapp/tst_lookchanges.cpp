@@ -16,10 +16,12 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTextBrowser>
 #include <QtTest>
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 using HV::ApplicationTheme;
 
@@ -71,6 +73,11 @@ private Q_SLOTS:
     void accentThatCannotBe();
     void accentsOfUserAndLook();
     void restoredTheme();
+    void additions_data();
+    void additions();
+    void additionsAndAnotherTheme();
+    void deletedByADocument();
+    void documentsSayNothing();
     void barsOfTheProgram();
     void filtersOfTheProgram();
 
@@ -80,6 +87,7 @@ private:
 
 void tst_LookChanges::init()
 {
+    qApp->setStyleSheet(QString());
     m_theme = std::make_unique<ApplicationTheme>();
     QVERIFY(m_theme->setName("dark"));
 }
@@ -302,6 +310,101 @@ void tst_LookChanges::restoredTheme()
     settings.clear();
     m_theme->save(settings);
     QCOMPARE(settings.value("Accent").toString(), QString("#ff0000"));
+}
+
+void tst_LookChanges::additions_data()
+{
+    QTest::addColumn<QString>("set"); // by the program after each change; %1 is what is in force
+    QTest::addColumn<QString>("own"); // that is there after three changes
+
+    QTest::newRow("nothing") << "%1"
+                             << "QFrame { margin: 1px }";
+    QTest::newRow("replaced") << "QFrame { margin: 2px }"
+                              << "QFrame { margin: 2px }";
+    QTest::newRow("appended") << "%1\nQFrame { margin: 2px }"
+                              << "QFrame { margin: 1px }"
+            + QString("\nQFrame { margin: 2px }").repeated(3);
+    QTest::newRow("put before") << "QFrame { margin: 2px }\n%1"
+                                << QString("QFrame { margin: 2px }\n").repeated(3)
+            + "QFrame { margin: 1px }";
+    QTest::newRow("cleared") << ""
+                             << "";
+}
+
+namespace
+{
+
+class WithAdditions : public ApplicationTheme
+{
+protected:
+    void complete(QPalette *palette, QString *styleSheet) override
+    {
+        ApplicationTheme::complete(palette, styleSheet);
+        *styleSheet = "/*first*/" + *styleSheet + "/*last " + name() + "*/";
+    }
+};
+
+} // namespace
+
+// What a class adds stands in the style sheet once, and what the application has set stays.
+void tst_LookChanges::additions()
+{
+    QFETCH(QString, set);
+    QFETCH(QString, own);
+    qApp->setStyleSheet("QFrame { margin: 1px }");
+    WithAdditions theme;
+    QVERIFY(theme.setName("contrast"));
+    for (const char *name : {"dark", "light", "contrast"}) {
+        qApp->setStyleSheet(QString(set).replace("%1", qApp->styleSheet()));
+        QVERIFY(theme.setName(name));
+    }
+    const QString whole = qApp->styleSheet();
+    QVERIFY(whole.startsWith("/*first*/"));
+    QVERIFY2(whole.endsWith('\n' + own + "/*last contrast*/"), qPrintable(whole.right(300)));
+    QCOMPARE(whole.count("/*first*/"), 1);
+    QCOMPARE(whole.count("/*last"), 1);
+    QCOMPARE(whole.count("margin: 1px"), own.count("margin: 1px"));
+}
+
+void tst_LookChanges::additionsAndAnotherTheme()
+{
+    qApp->setStyleSheet("QFrame { margin: 1px }");
+    QVERIFY(m_theme->setName("light"));
+    const QString look = qApp->styleSheet();
+    WithAdditions theme;
+    QVERIFY(theme.setName("dark"));
+    QVERIFY(m_theme->setName("light"));
+    QCOMPARE(qApp->styleSheet(), look);
+}
+
+void tst_LookChanges::deletedByADocument()
+{
+    QTextEdit edit;
+    edit.setHtml("<a href='x'>link</a>");
+    std::vector<std::unique_ptr<QLabel>> labels(50);
+    for (std::unique_ptr<QLabel> &label : labels)
+        label = std::make_unique<QLabel>("<a href='x'>link</a>");
+    connect(edit.document(), &QTextDocument::contentsChanged, [&] { labels.clear(); });
+    QVERIFY(m_theme->setName("light"));
+    QVERIFY(labels.empty());
+}
+
+// A program may save its text whenever that changes.
+void tst_LookChanges::documentsSayNothing()
+{
+    QTextBrowser browser;
+    QTextEdit edit;
+    for (QTextEdit *each : {static_cast<QTextEdit *>(&browser), &edit})
+        each->setHtml("<a href='x'>link</a>");
+    QSignalSpy browserChanges(&browser, &QTextEdit::textChanged);
+    QSignalSpy changes(&edit, &QTextEdit::textChanged);
+    const QString before = edit.toHtml();
+    QVERIFY(m_theme->setName("light"));
+    QVERIFY(edit.toHtml() != before); // the link has its colour
+    QCOMPARE(browserChanges.size(), 0);
+    QCOMPARE(changes.size(), 0);
+    edit.append("text");
+    QVERIFY(!changes.isEmpty());
 }
 
 // A meter of the program's own, which a rule for bars must not cover.

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void themed();
     void styleSheet_data();
     void styleSheet();
+    void styleSheetOfAFile();
     void programThatInsists();
     void palette_data();
     void palette();
@@ -153,6 +154,20 @@ void tst_Plugin::styleSheet()
              color.isNull() ? m_plain["label"].toString() : color);
     QCOMPARE(facts.object["other"], m_plain["other"]);
     QCOMPARE(facts.object["window"], m_plain["window"]);
+}
+
+// Qt makes a URL of it, which is no rule behind the theme's.
+void tst_Plugin::styleSheetOfAFile()
+{
+    const QByteArray own = "QLabel#own { color: #010203 }";
+    const TemporaryTheme folder("");
+    folder.write("own.qss", own);
+    const Facts facts = run({"run", "--theme", "dark", "--", HVTHEME_PROGRAM, "plain",
+                             "-stylesheet", folder.path() + "/own.qss"});
+    QCOMPARE(facts.errors, QByteArray());
+    QCOMPARE(facts.object["sheet"].toString(), m_plain["sheet"].toString() + '\n' + own);
+    QCOMPARE(facts.object["label"].toString(), QString("#010203"));
+    QCOMPARE(facts.object["other"], m_plain["other"]);
 }
 
 // Two that answer each other would be busy for ever.
