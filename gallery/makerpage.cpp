@@ -292,8 +292,7 @@ void MakerPage::say(const QString &text)
 void MakerPage::checkName()
 {
     const QString name = m_name->text();
-    const bool isGood = Maker::isThemeName(name)
-        && name.compare(QLatin1String("default"), Qt::CaseInsensitive) != 0;
+    const bool isGood = Maker::isThemeName(name);
     m_save->setEnabled(isGood);
     say(isGood ? QString()
                : QStringLiteral("This name cannot name files: take letters, digits, “-”, "

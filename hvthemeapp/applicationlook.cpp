@@ -123,12 +123,15 @@ bool ApplicationTheme::Private::apply(const ThemeFolder &themes, const QString &
         return true;
     }
 
-    const QStringList derived = readTheme(*theme, themes, newName, accent, unsavedTexts);
-    const QString lacks = derived.isEmpty()
+    QString fault;
+    const auto derived = readTheme(*theme, themes, newName, accent, unsavedTexts, &fault);
+    if (!derived)
+        return report(fault);
+    const QString lacks = derived->isEmpty()
         ? QString()
         : QStringLiteral("The theme \"%1\" lacks %2 of the colours that a look is made of (%3); "
                          "they are derived from those that it has.")
-              .arg(themes.file(newName), QString::number(derived.size()), firstOf(derived));
+              .arg(themes.file(newName), QString::number(derived->size()), firstOf(*derived));
     if (!lacks.isEmpty() && derivedColors.value(themes.file(newName)) != lacks)
         qCWarning(lcApp, "%ls", qUtf16Printable(lacks));
     derivedColors.insert(themes.file(newName), lacks);

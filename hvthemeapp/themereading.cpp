@@ -185,10 +185,15 @@ public:
         Maker::ThemeTexts texts{contentOf(folder.defaultFile(), contents),
                                 isDefault ? QByteArray() : contentOf(folder.file(name), contents)};
         QStringList notes; // what cannot be had is a tone that comes near
-        if (accent.isValid())
-            texts = Maker::withBrand(texts, accent, &notes);
+        if (accent.isValid()) {
+            const auto branded = Maker::withBrand(texts, accent, &notes, &m_problem);
+            texts = branded.value_or(texts);
+        }
         m_isWritten = write(&m_first, texts.base) && write(&m_second, texts.own);
     }
+
+    /*! \brief One sentence if the accent cannot be had, or a null text. */
+    QString problem() const { return m_problem; }
 
     QString first() const { return m_isWritten ? m_first.fileName() : QString(); }
     QString second() const { return m_isWritten ? m_second.fileName() : QString(); }
@@ -205,17 +210,24 @@ private:
 
     QTemporaryFile m_first;
     QTemporaryFile m_second;
+    QString m_problem;
     bool m_isWritten = false;
 };
 
 } // namespace
 
-QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
-                      const QColor &accent, const QHash<QString, QByteArray> &contents)
+std::optional<QStringList> readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
+                                     const QColor &accent,
+                                     const QHash<QString, QByteArray> &contents, QString *problem)
 {
     if (!accent.isValid() && contents.isEmpty())
         return Reading(theme, folder, name, QString(), QString()).run();
     const OtherFiles files(folder, name, accent, contents);
+    if (!files.problem().isNull()) {
+        *problem =
+            folder.file(name) % QLatin1String(": the accent cannot be had: ") % files.problem();
+        return std::nullopt;
+    }
     return Reading(theme, folder, name, files.first(), files.second()).run();
 }
 

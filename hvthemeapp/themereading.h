@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QStringList>
 
+#include <optional>
+
 namespace HV
 {
 
@@ -29,13 +31,14 @@ class ThemeFolder;
  *
  * \param contents  by path: what stands in place of files' own texts.
  *
- * \return the colours that had to be derived, sorted, but for optional ones.
+ * \return the colours that had to be derived, sorted, but for optional ones. Nothing, with one sentence
+ *         in \a problem and the theme as it was, if the files cannot be given the accent.
  *
  * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
  */
-QStringList readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
-                      const QColor &accent = QColor(),
-                      const QHash<QString, QByteArray> &contents = {});
+std::optional<QStringList> readTheme(Theme &theme, const ThemeFolder &folder, const QString &name,
+                                     const QColor &accent,
+                                     const QHash<QString, QByteArray> &contents, QString *problem);
 
 } // namespace HV
 

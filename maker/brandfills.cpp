@@ -11,16 +11,6 @@
 namespace Maker
 {
 
-namespace
-{
-
-QString toneName(int step)
-{
-    return QLatin1String("Brand_") % QString::number(step);
-}
-
-} // namespace
-
 BrandFills::BrandFills(const QColor &brand, const LookPairs &pairs, LookColors *colors,
                        const Note &note)
     : m_brand(brand)
@@ -31,7 +21,7 @@ BrandFills::BrandFills(const QColor &brand, const LookPairs &pairs, LookColors *
     , m_brandText(QStringLiteral("Brand"))
 {
     if (!colors->resolved(m_brandText).isValid())
-        m_brandText = toneName(nearestStep(brand));
+        m_brandText = brandToneName(nearestStep(brand));
 }
 
 void BrandFills::setOwnTexts()
@@ -45,7 +35,7 @@ void BrandFills::setLooksTexts()
     setWherePossible(QStringLiteral("SliderAcrossBackgroundColor"),
                      QStringLiteral("the crossed part of sliders would stand out at "));
     const QString frame = QStringLiteral("EditHighlightBorderColor");
-    if (m_colors.text(frame).startsWith(QLatin1String("Brand"))) // a theme may frame in any colour
+    if (isOfBrand(m_colors.text(frame))) // a theme may frame in any colour
         setWherePossible(frame,
                          QStringLiteral("the frame of a field in use, the ground of rows "
                                         "as well, would reach "));
@@ -136,7 +126,7 @@ void BrandFills::setStates(const char *hover, const char *pressed, const QString
         for (int distance = 0; distance < toneCount && !states.isEmpty(); ++distance) {
             constexpr double leastDifference = 4; // of L*, to be seen
             const int tone = step + direction * distance;
-            const QString text = toneName(tone);
+            const QString text = brandToneName(tone);
             const bool isTone = m_colors.resolved(text).isValid();
             if (isTone && std::abs(toneLightness(tone) - own) >= leastDifference
                 && m_pairs.canHave(states.constFirst(), text))
@@ -177,7 +167,7 @@ QString BrandFills::nearestTone(const IsPossible &isPossible) const
     QString nearest;
     double least = 200;
     for (int step = 1; step <= toneCount; ++step) {
-        const QString tone = toneName(step);
+        const QString tone = brandToneName(step);
         const double distance = std::abs(toneLightness(step) - own);
         if (m_colors.resolved(tone).isValid() && distance < least && isPossible(tone)) {
             nearest = tone;

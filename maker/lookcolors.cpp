@@ -71,11 +71,6 @@ bool isSurface(const QString &key)
         || key == QLatin1String("MenuBackgroundColor");
 }
 
-bool isBrandTone(const QString &text)
-{
-    return text.startsWith(QLatin1String("Brand"));
-}
-
 bool isPlainText(const QString &key)
 {
     return key == QLatin1String("DefaultForegroundColor") || key == QLatin1String("Color_W100")
@@ -98,7 +93,7 @@ void Designer::followBrand()
         const QColor color = colorFromText(m_colors.text(key));
         if (key.startsWith(QLatin1String("Color_Brand_")) && color.alpha() == 255
             && color.isValid())
-            m_colors.setText(key, QLatin1String("Brand_") % QString::number(nearestStep(color)));
+            m_colors.setText(key, brandToneName(nearestStep(color)));
     }
 }
 
@@ -159,10 +154,10 @@ void Designer::mend(const ColorPair &pair)
 // As far as the texts on it let an edge go. In tones: no lightness between them is enough either.
 void Designer::approach(const ColorPair &edge)
 {
-    if (!isBrandTone(m_colors.text(edge.foreground))) // a theme may frame in any colour
+    if (!isOfBrand(m_colors.text(edge.foreground))) // a theme may frame in any colour
         return;
     for (int step = 1; step <= toneCount; ++step) {
-        const QString tone = QLatin1String("Brand_") % QString::number(step);
+        const QString tone = brandToneName(step);
         LookColors changed = m_colors;
         changed.setText(edge.foreground, tone);
         if (changed.color(edge.foreground).isValid() && changed.ratio(edge) > m_colors.ratio(edge)

@@ -8,6 +8,8 @@
 #include <maker/rebranding.h>
 #include <maker/themetext.h>
 
+#include <QMap>
+
 #include <algorithm>
 
 namespace Maker
@@ -24,11 +26,9 @@ Look lookOf(const LookColors &colors, const QMap<QString, QString> &flags)
     return surface.isValid() && ColorMath::cieLightness(surface) > 50 ? Look::Light : Look::Dark;
 }
 
-bool hasBrand(const ThemeText &text)
+bool hasTone(const QStringList &names)
 {
-    const QStringList keys = text.keys(sectionName(Kind::Palette));
-    return std::any_of(keys.cbegin(), keys.cend(),
-                       [](const QString &key) { return key.startsWith(QLatin1String("Brand_")); });
+    return std::any_of(names.cbegin(), names.cend(), isBrandTone);
 }
 
 // A theme without fills of its own for the brand gets them, for the look's text may not stand on it.
@@ -45,41 +45,25 @@ void addAccent(QMap<QString, QString> *colors)
 }
 
 // The entries of the brand. What is called Brand is the brand, even if one of its tones is just that.
-QVector<PaletteEntry> brandEntries(const ThemeText &holder, const QColor &brand)
+QVector<PaletteEntry> brandEntries(const Parameters &parameters, bool hasWhole)
 {
+    QVector<PaletteEntry> entries = palette(parameters);
+    const auto isOther = [](const PaletteEntry &entry) { return !isOfBrand(entry.first); };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isOther), entries.end());
     const QString whole = QStringLiteral("Brand");
-    QVector<PaletteEntry> entries;
-    bool hasWhole = false;
-    Parameters parameters;
-    parameters.brand = brand;
-    const QVector<PaletteEntry> made = palette(parameters);
-    for (const PaletteEntry &entry : made) {
-        if (entry.first.startsWith(whole))
-            entries.append(entry);
-        hasWhole = hasWhole || entry.first == whole;
-    }
-    if (!hasWhole && !holder.value(sectionName(Kind::Palette), whole).isNull())
-        entries.append({whole, brand.toRgb()});
+    const bool isMade =
+        std::any_of(entries.cbegin(), entries.cend(),
+                    [&](const PaletteEntry &entry) { return entry.first == whole; });
+    if (hasWhole && !isMade)
+        entries.append({whole, parameters.brand.toRgb()});
     return entries;
 }
 
-// The entries that the text has, and those that a colour has come to name.
-QVector<PaletteEntry> usedEntries(const QVector<PaletteEntry> &entries, const ThemeText &text,
-                                  const LookColors &colors)
-{
-    const QStringList keys = text.keys(sectionName(Kind::Palette));
-    const QStringList named = colors.texts().values();
-    QVector<PaletteEntry> used;
-    std::copy_if(entries.cbegin(), entries.cend(), std::back_inserter(used),
-                 [&](const PaletteEntry &entry) {
-                     return keys.contains(entry.first) || named.contains(entry.first);
-                 });
-    return used;
-}
+using Palette = QMap<QString, QColor>;
 
 // Resolves entries as the library does: in the order of their names, and an entry may name one that
 // is known by then. What is neither that nor a colour is black.
-void resolve(const QMap<QString, QString> &texts, QMap<QString, QColor> *known)
+void resolve(const QMap<QString, QString> &texts, Palette *known)
 {
     for (auto it = texts.cbegin(); it != texts.cend(); ++it) {
         if (known->contains(it.key()))
@@ -89,60 +73,150 @@ void resolve(const QMap<QString, QString> &texts, QMap<QString, QColor> *known)
     }
 }
 
-// The palette of both files, of which holder has the tones of the brand.
-QVector<PaletteEntry> wholePalette(const ThemeText &base, const ThemeText &own,
-                                   const ThemeText &holder, const QVector<PaletteEntry> &brand)
+/*!
+ * \brief A default file and the theme over it, on the way to another brand.
+ *
+ * The default file is read whole before the other one, so its colours name none of that one's entries,
+ * and a key that it has keeps its value.
+ */
+class Rebranding
 {
-    QMap<QString, QColor> known;
-    for (const ThemeText *text : {&base, &own}) {
-        QMap<QString, QString> texts = text->values(sectionName(Kind::Palette));
-        if (text == &holder) {
-            for (const PaletteEntry &entry : brand)
-                texts.insert(entry.first, hexadecimal(entry.second));
-        }
-        resolve(texts, &known);
-    }
+public:
+    Rebranding(const ThemeTexts &theme, const QColor &brand);
+
+    bool isBranded() const;
+    void design(QStringList *notes);
+    std::optional<ThemeTexts> texts(QString *error) const;
+
+private:
+    bool isOfBase(const QString &entry) const;
+    void readPalettes();
+    void setTones();
+
+    ThemeText m_base;
+    ThemeText m_own;
+    const bool m_isOneFile;
+    const QMap<QString, QString> m_baseEntries;
+    const QMap<QString, QString> m_ownEntries;
+    const QMap<QString, QString> m_baseColors;
+    const Parameters m_parameters;
+    QVector<PaletteEntry> m_tones;
+    Palette m_basePalette;
+    Palette m_palette;
+    QMap<QString, QString> m_colors; // as they stand there, and what is added to them
+};
+
+Parameters parametersOf(const QColor &brand)
+{
+    Parameters parameters;
+    parameters.brand = brand;
+    return parameters;
+}
+
+Rebranding::Rebranding(const ThemeTexts &theme, const QColor &brand)
+    : m_base(theme.base)
+    , m_own(theme.own)
+    , m_isOneFile(theme.own.isEmpty())
+    , m_baseEntries(m_base.values(sectionName(Kind::Palette)))
+    , m_ownEntries(m_own.values(sectionName(Kind::Palette)))
+    , m_baseColors(m_base.values(sectionName(Kind::Color)))
+    , m_parameters(parametersOf(brand))
+    , m_colors(m_own.values(sectionName(Kind::Color)))
+{
+    for (auto it = m_baseColors.cbegin(); it != m_baseColors.cend(); ++it)
+        m_colors.insert(it.key(), it.value());
+    const QString whole = QStringLiteral("Brand");
+    m_tones =
+        brandEntries(m_parameters, m_baseEntries.contains(whole) || m_ownEntries.contains(whole));
+}
+
+bool Rebranding::isBranded() const
+{
+    return hasTone(m_baseEntries.keys()) || hasTone(m_ownEntries.keys())
+        || hasTone(m_colors.values());
+}
+
+// An entry changes where it is, and a new one goes where the others are.
+bool Rebranding::isOfBase(const QString &entry) const
+{
+    if (m_baseEntries.contains(entry) || m_ownEntries.contains(entry))
+        return m_baseEntries.contains(entry);
+    return hasTone(m_baseEntries.keys()) || !hasTone(m_ownEntries.keys());
+}
+
+// With all tones there could be, of which those stay that are used in the end.
+void Rebranding::readPalettes()
+{
+    QMap<QString, QString> baseTexts = m_baseEntries;
+    QMap<QString, QString> ownTexts = m_ownEntries;
+    for (const PaletteEntry &tone : qAsConst(m_tones))
+        (isOfBase(tone.first) ? baseTexts : ownTexts).insert(tone.first, hexadecimal(tone.second));
+    resolve(baseTexts, &m_basePalette);
+    m_palette = m_basePalette;
+    resolve(ownTexts, &m_palette);
+}
+
+void Rebranding::design(QStringList *notes)
+{
+    readPalettes();
+    addAccent(&m_colors);
     QVector<PaletteEntry> entries;
-    for (auto it = known.cbegin(); it != known.cend(); ++it)
+    for (auto it = m_palette.cbegin(); it != m_palette.cend(); ++it)
         entries.append({it.key(), it.value()});
-    return entries;
+    QMap<QString, QString> seen = m_colors;
+    for (auto it = m_baseColors.cbegin(); it != m_baseColors.cend(); ++it) {
+        if (m_palette.contains(*it) && !m_basePalette.contains(*it))
+            seen.insert(it.key(), hexadecimal(Qt::black)); // which the library makes of it
+    }
+    const Look look = lookOf(LookColors(entries, seen), m_own.values(QStringLiteral("Flags")));
+    const LookColors designed = recoloredLook(look, m_parameters, entries, seen, notes);
+    for (auto it = seen.cbegin(); it != seen.cend(); ++it) {
+        const QString text = designed.text(it.key());
+        const bool isInBase = m_isOneFile || m_baseColors.contains(it.key());
+        const bool isOutOfReach =
+            isInBase && m_palette.contains(text) && !m_basePalette.contains(text);
+        if (text != *it)
+            m_colors.insert(it.key(), isOutOfReach ? hexadecimal(m_palette.value(text)) : text);
+        (isInBase ? m_base : m_own)
+            .setValue(sectionName(Kind::Color), it.key(), m_colors.value(it.key()));
+    }
+    setTones();
+}
+
+void Rebranding::setTones()
+{
+    const QStringList named = m_colors.values() + m_baseEntries.values() + m_ownEntries.values();
+    for (const PaletteEntry &tone : qAsConst(m_tones)) {
+        const bool isThere =
+            m_baseEntries.contains(tone.first) || m_ownEntries.contains(tone.first);
+        if (isThere || named.contains(tone.first))
+            setPaletteEntries(isOfBase(tone.first) ? &m_base : &m_own, {tone});
+    }
+}
+
+std::optional<ThemeTexts> Rebranding::texts(QString *error) const
+{
+    const auto base = m_base.provenText();
+    const auto own = m_own.provenText();
+    if (base && own)
+        return ThemeTexts{*base, *own};
+    *error = QLatin1String("nothing can be added to the ")
+        % QLatin1String(base ? "theme's own file" : "default file")
+        % QLatin1String(" without changing other entries; look for a quotation mark that is never "
+                        "closed");
+    return std::nullopt;
 }
 
 } // namespace
 
-ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes)
+std::optional<ThemeTexts> withBrand(const ThemeTexts &theme, const QColor &brand,
+                                    QStringList *notes, QString *error)
 {
-    ThemeText base(theme.base);
-    ThemeText own(theme.own);
-    // A key of the default file keeps its value, so that is where it has to change.
-    QMap<QString, QString> colors = own.values(sectionName(Kind::Color));
-    const QMap<QString, QString> baseColors = base.values(sectionName(Kind::Color));
-    for (auto it = baseColors.cbegin(); it != baseColors.cend(); ++it)
-        colors.insert(it.key(), it.value());
-
-    const auto isTone = [](const QString &text) {
-        return text.startsWith(QLatin1String("Brand_"));
-    };
-    const bool isNamed = std::any_of(colors.cbegin(), colors.cend(), isTone);
-    if (!hasBrand(base) && !hasBrand(own) && !isNamed)
+    Rebranding rebranding(theme, brand);
+    if (!rebranding.isBranded())
         return theme;
-    addAccent(&colors);
-
-    ThemeText &paletteText = hasBrand(own) && !hasBrand(base) ? own : base;
-    const QVector<PaletteEntry> tones = brandEntries(paletteText, brand);
-    const QVector<PaletteEntry> entries = wholePalette(base, own, paletteText, tones);
-    const LookColors before(entries, colors);
-    Parameters parameters;
-    parameters.brand = brand;
-    const LookColors designed = recoloredLook(lookOf(before, own.values(QStringLiteral("Flags"))),
-                                              parameters, entries, colors, notes);
-    setPaletteEntries(&paletteText, usedEntries(tones, paletteText, designed));
-    for (auto it = colors.cbegin(); it != colors.cend(); ++it) {
-        const bool isOfBase = baseColors.contains(it.key()) || theme.own.isEmpty();
-        ThemeText &holder = isOfBase ? base : own;
-        holder.setValue(sectionName(Kind::Color), it.key(), designed.text(it.key()));
-    }
-    return {base.text(), own.text()};
+    rebranding.design(notes);
+    return rebranding.texts(error);
 }
 
 } // namespace Maker

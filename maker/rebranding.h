@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QStringList>
 
+#include <optional>
+
 namespace Maker
 {
 
@@ -22,9 +24,13 @@ struct ThemeTexts {
  *
  * The palette entries `Brand_1` to `Brand_10` change, and what of the look's colours then calls for
  * it. A theme that neither has such entries nor names them stays as it is; one that lacks some of the
- * samples' colours is mended as far as its keys go.
+ * samples' colours is mended as far as its keys go. An entry changes in the file that has it; a colour
+ * of the default file that comes to a tone which only the other file has is written in digits.
+ *
+ * \return nothing, with one sentence in \a error, if an open quotation mark takes in what would be added.
  */
-ThemeTexts withBrand(const ThemeTexts &theme, const QColor &brand, QStringList *notes);
+std::optional<ThemeTexts> withBrand(const ThemeTexts &theme, const QColor &brand,
+                                    QStringList *notes, QString *error);
 
 } // namespace Maker
 

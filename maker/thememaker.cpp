@@ -49,8 +49,7 @@ QString fileBaseName(const QString &name, Look look)
 {
     if (name.isEmpty())
         return lookName(look);
-    const QString base = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
-    return base % QLatin1Char('-') % lookName(look);
+    return themeFileBaseName(name) % QLatin1Char('-') % lookName(look);
 }
 
 QString neutralText(const Neutral &neutral)
@@ -125,7 +124,23 @@ bool isThemeName(const QString &name)
 {
     static const QRegularExpression pattern(
         QStringLiteral("^(?:[A-Za-z0-9][A-Za-z0-9_-]*(?: [A-Za-z0-9_-]+)*)?$"));
-    return pattern.match(name).hasMatch();
+    return pattern.match(name).hasMatch()
+        && name.compare(defaultThemeName(), Qt::CaseInsensitive) != 0;
+}
+
+QString themeNameMistake(const QString &name)
+{
+    if (isThemeName(name))
+        return {};
+    return QLatin1Char('"') % name
+        % QLatin1String(
+               "\" cannot name files; take letters, digits, \"-\", \"_\" and single spaces, "
+               "and not \"default\"");
+}
+
+QString themeFileBaseName(const QString &name)
+{
+    return name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
 }
 
 MadeThemes makeThemes(const Order &order)

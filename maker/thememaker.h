@@ -46,8 +46,14 @@ struct MadeThemes {
  */
 MadeThemes makeThemes(const Order &order);
 
-/*! \brief Tells whether \a name can be an Order's name. */
+/*! \brief Tells whether \a name can be an Order's name; an empty one can. */
 bool isThemeName(const QString &name);
+
+/*! \brief Returns what is wrong with \a name, for a reader, or a null text if it is a theme's name. */
+QString themeNameMistake(const QString &name);
+
+/*! \brief Returns the name that files of the set or theme \a name begin with: "stage-light". */
+QString themeFileBaseName(const QString &name);
 
 } // namespace Maker
 

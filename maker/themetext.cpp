@@ -7,6 +7,7 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <iterator>
 
 namespace Maker
@@ -27,6 +28,25 @@ QByteArray lineEndOf(const QByteArray &line)
     if (line.endsWith("\r\n"))
         return QByteArrayLiteral("\r\n");
     return !line.isEmpty() && IniSyntax::isLineEnd(line.back()) ? line.right(1) : QByteArray();
+}
+
+QByteArray withoutLineEnds(QByteArray value)
+{
+    while (!value.isEmpty() && IniSyntax::isLineEnd(value.back()))
+        value.chop(1);
+    return value;
+}
+
+// Makes sure that what follows begins a line of its own; a backslash takes one line end along.
+void endLine(QByteArray *text)
+{
+    const QByteArray lineEnd = lineEndOf(*text);
+    if (lineEnd.isEmpty())
+        *text += '\n';
+    int position = 0;
+    IniSyntax::Line line;
+    if (IniSyntax::nextLine(*text, &position, &line) && line.end == text->size())
+        *text += lineEnd.isEmpty() ? QByteArray("\n") : lineEnd;
 }
 
 QString rootSection()
@@ -110,6 +130,33 @@ QByteArray ThemeText::text() const
     return text;
 }
 
+// Line ends behind a backslash that ended the text do not count.
+bool ThemeText::readsAs(const ThemeText &other) const
+{
+    const auto nextEntry = [](const Lines &lines, Lines::const_iterator from) {
+        return std::find_if(from, lines.cend(),
+                            [](const Line &line) { return !line.key.isEmpty(); });
+    };
+    auto own = nextEntry(m_lines, m_lines.cbegin());
+    auto others = nextEntry(other.m_lines, other.m_lines.cbegin());
+    while (own != m_lines.cend() && others != other.m_lines.cend()) {
+        if (own->section != others->section || own->key != others->key
+            || withoutLineEnds(rawValueOf(*own)) != withoutLineEnds(rawValueOf(*others)))
+            return false;
+        own = nextEntry(m_lines, std::next(own));
+        others = nextEntry(other.m_lines, std::next(others));
+    }
+    return own == m_lines.cend() && others == other.m_lines.cend();
+}
+
+std::optional<QByteArray> ThemeText::provenText() const
+{
+    const QByteArray proposed = text();
+    if (!readsAs(ThemeText(proposed)))
+        return std::nullopt;
+    return proposed;
+}
+
 QStringList ThemeText::keys(const QString &section) const
 {
     QStringList keys;
@@ -133,10 +180,14 @@ QMap<QString, QString> ThemeText::values(const QString &section) const
     return values;
 }
 
+QByteArray ThemeText::rawValueOf(const Line &line)
+{
+    return line.text.mid(line.valueStart, line.valueEnd - line.valueStart);
+}
+
 QString ThemeText::valueOf(const Line &line) const
 {
-    const QStringList parts = IniSyntax::unescapedValue(
-        line.text.mid(line.valueStart, line.valueEnd - line.valueStart), encoding(m_isUtf8));
+    const QStringList parts = IniSyntax::unescapedValue(rawValueOf(line), encoding(m_isUtf8));
     const bool isText = parts.size() == 1 && !parts.constFirst().isEmpty();
     return isText ? parts.constFirst() : QStringLiteral("");
 }
@@ -178,8 +229,8 @@ void ThemeText::setValue(const QString &section, const QString &key, const QStri
         return;
     }
     if (!m_ends.contains(section)) {
-        if (!m_lines.empty() && lineEndOf(m_lines.back().text).isEmpty())
-            m_lines.back().text += '\n';
+        if (!m_lines.empty())
+            endLine(&m_lines.back().text);
         Line header;
         header.text = "\n[" + IniSyntax::escapedKey(section) + "]\n";
         header.section = section;
@@ -187,8 +238,7 @@ void ThemeText::setValue(const QString &section, const QString &key, const QStri
         note(m_lines.insert(m_lines.end(), header));
     }
     const auto last = m_ends.value(section);
-    if (lineEndOf(last->text).isEmpty())
-        last->text += '\n';
+    endLine(&last->text);
     note(m_lines.insert(std::next(last), entry(section, key, value, lineEndOf(last->text))));
 }
 

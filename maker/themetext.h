@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <list>
+#include <optional>
 
 namespace Maker
 {
@@ -31,6 +32,13 @@ public:
     Q_DISABLE_COPY_MOVE(ThemeText)
 
     QByteArray text() const;
+
+    /*!
+     * \brief Returns text() if it reads as all that was set and, apart from that, as before.
+     *
+     * Nothing if an open quotation mark takes in what was added behind it.
+     */
+    std::optional<QByteArray> provenText() const;
 
     /*! \brief Returns the keys of a section, "Colors" say, in the order of the file. */
     QStringList keys(const QString &section) const;
@@ -63,7 +71,9 @@ private:
     void addPlainLines(const QByteArray &text, const QString &section);
     Line entry(const QString &section, const QString &key, const QString &value,
                const QByteArray &lineEnd) const;
+    static QByteArray rawValueOf(const Line &line);
     QString valueOf(const Line &line) const;
+    bool readsAs(const ThemeText &other) const;
     void note(Lines::iterator line);
 
     bool m_isUtf8;

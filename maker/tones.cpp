@@ -4,7 +4,8 @@
 #include <colormath/oklch.h>
 #include <maker/tones.h>
 
-#include <QStringList>
+#include <QRegularExpression>
+#include <QStringBuilder>
 
 #include <algorithm>
 
@@ -53,6 +54,22 @@ double toneLightness(int step)
 int nearestStep(const QColor &color)
 {
     return qBound(1, qRound((100.0 - ColorMath::cieLightness(color)) / 9.0), toneCount);
+}
+
+QString brandToneName(int step)
+{
+    return QLatin1String("Brand_") % QString::number(step);
+}
+
+bool isBrandTone(const QString &name)
+{
+    static const QRegularExpression pattern(QStringLiteral("^Brand_(?:[1-9]|10)$"));
+    return pattern.match(name).hasMatch();
+}
+
+bool isOfBrand(const QString &name)
+{
+    return name == QLatin1String("Brand") || isBrandTone(name);
 }
 
 QColor Run::tone(int step) const

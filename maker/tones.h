@@ -41,6 +41,15 @@ double toneLightness(int step);
 /*! \brief Returns the step, from 1 to 10, whose lightness is nearest to that of \a color. */
 int nearestStep(const QColor &color);
 
+/*! \brief Returns the name of the palette entry of a step of the brand's run: `Brand_6`. */
+QString brandToneName(int step);
+
+/*! \brief Tells whether \a name is that of a step of the brand's run, and not only begins like one. */
+bool isBrandTone(const QString &name);
+
+/*! \brief Tells whether \a name is that of the brand's entry, `Brand`, or of one of its tones. */
+bool isOfBrand(const QString &name);
+
 /*! \brief Returns the run through \a brand: its hue throughout, its chroma where it is itself. */
 Run brandRun(const QColor &brand);
 

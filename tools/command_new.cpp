@@ -149,18 +149,30 @@ std::optional<Maker::MadeThemes> copiedTheme(const QString &from, const Maker::O
     if (!own)
         return std::nullopt;
     Maker::MadeThemes made;
-    Maker::ThemeTexts texts{*base, *own};
+    std::optional<Maker::ThemeTexts> texts{{*base, *own}};
     if (brand)
-        texts = Maker::withBrand(texts, *brand, &made.notes);
+        texts = Maker::withBrand(*texts, *brand, &made.notes, error);
+    if (!texts) {
+        *error = from % QLatin1String(": ") % *error;
+        return std::nullopt;
+    }
     QString fileName = theme;
     if (!name.isEmpty()) {
-        Maker::ThemeText named(texts.own);
+        Maker::ThemeText named(texts->own);
         named.setValue(QStringLiteral("General"), QStringLiteral("ThemeName"), name);
-        texts.own = named.text();
-        fileName = name.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+        const auto text = named.provenText();
+        if (!text) {
+            *error = from
+                % QLatin1String(
+                         ": the name cannot be added without changing other entries; look for "
+                         "a quotation mark that is never closed");
+            return std::nullopt;
+        }
+        texts->own = *text;
+        fileName = Maker::themeFileBaseName(name);
     }
-    made.files = {{themeFileName(defaultThemeName(), order.suffix), texts.base},
-                  {themeFileName(fileName, order.suffix), texts.own}};
+    made.files = {{themeFileName(defaultThemeName(), order.suffix), texts->base},
+                  {themeFileName(fileName, order.suffix), texts->own}};
     return made;
 }
 
@@ -208,11 +220,8 @@ QString readOrder(const QCommandLineParser &parser, const KnownOptions &known, M
         return mistake;
     order->suffix = parser.value(known.suffix);
     order->name = parser.value(known.name);
-    if (!Maker::isThemeName(order->name)
-        || order->name.compare(QLatin1String("default"), Qt::CaseInsensitive) == 0)
-        return QLatin1String("--name: \"") % order->name
-            % QLatin1String("\" cannot name files; take letters, digits, \"-\", \"_\" and single "
-                            "spaces, and not \"default\"");
+    if (!Maker::isThemeName(order->name))
+        return QLatin1String("--name: ") % Maker::themeNameMistake(order->name);
     Maker::Parameters &parameters = order->parameters;
     if (readNeutral(parser.value(known.neutral), &parameters.neutral, &mistake)
         && readNumber(parser, known.textContrast, 4.5, 10, &parameters.textContrast, &mistake)

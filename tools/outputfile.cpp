@@ -10,11 +10,6 @@
 #include <cstdio>
 #include <unistd.h>
 
-namespace
-{
-
-} // namespace
-
 bool writeStandardOutput(const QString &text)
 {
     const bool isTerminal = ::isatty(STDOUT_FILENO) == 1;

@@ -41,6 +41,8 @@ private Q_SLOTS:
     void signalsOnce();
     void opacityDoesNotCount();
     void themeWithoutBrand();
+    void tonesOfTheThemesOwn();
+    void openQuotationMark();
     void filePathIsTheThemes();
     void saveAndRestore();
     void deletedByASlot();
@@ -295,6 +297,42 @@ void tst_Accent::themeWithoutBrand()
     const QColor highlighted = theme.theme()->color("HighlightedForegroundColor");
     QVERIFY(theme.setAccent(QColor("#8a3324")));
     QCOMPARE(theme.theme()->color("HighlightedForegroundColor"), highlighted);
+}
+
+// The default file is read before the palette of the theme over it.
+void tst_Accent::tonesOfTheThemesOwn()
+{
+    TemporaryFolder folder;
+    folder.write("default.theme", "[Colors]\nGeneralButtonBackgroundNormal=#2D63F0\n");
+    folder.write("own.theme",
+                 "[Palettes]\nBrand_6=#2D63F0\n[Colors]\nColor_Brand_6=Brand_6\n"
+                 "BackgroundColor_3=#202020\nDefaultForegroundColor=#ffffff\n");
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("own"));
+    QVERIFY(theme.setAccent(QColor("#a02020")));
+    const QColor ground = theme.theme()->color("GeneralButtonBackgroundNormal");
+    QVERIFY2(ground.red() > ground.blue(), qPrintable(ground.name()));
+    m_log.take(); // most colours are derived
+}
+
+// An accent that cannot be written into the theme is refused, and the look stays.
+void tst_Accent::openQuotationMark()
+{
+    TemporaryFolder folder;
+    folder.write("default.theme", "[Palettes]\nBrand_6=#2D63F0\nVeil=\"#80000000\n");
+    folder.write("own.theme",
+                 "[Colors]\nGeneralButtonBackgroundNormal=Brand_6\nColor_W100=#ffffff\n");
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("own"));
+    const QColor ground = theme.theme()->color("GeneralButtonBackgroundNormal");
+    QVERIFY(!theme.setAccent(QColor("#ffd000")));
+    QVERIFY2(theme.problem().contains("look for a quotation mark that is never closed"),
+             qPrintable(theme.problem()));
+    QVERIFY(!theme.accent().isValid());
+    QCOMPARE(theme.theme()->color("GeneralButtonBackgroundNormal"), ground);
+    m_log.take(); // most colours are derived
 }
 
 void tst_Accent::filePathIsTheThemes()

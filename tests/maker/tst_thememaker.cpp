@@ -52,6 +52,15 @@ Order orderOf(const QColor &brand, const Neutral &neutral = {})
     return order;
 }
 
+ThemeTexts branded(const ThemeTexts &theme, const QColor &brand, QStringList *notes)
+{
+    QString error;
+    const auto made = Maker::withBrand(theme, brand, notes, &error);
+    if (!made)
+        qFatal("%s", qPrintable(error));
+    return *made;
+}
+
 // The least that was measured so far of each kind of pair, to be told.
 struct Figures {
     QMap<QString, double> ratios; // by look and need
@@ -212,6 +221,12 @@ private Q_SLOTS:
     void withBrandKeepsSpellings_data();
     void withBrandKeepsSpellings();
     void withBrandAddsFills();
+    void withBrandInTheThemesOwnPalette_data();
+    void withBrandInTheThemesOwnPalette();
+    void namesLikeTones_data();
+    void namesLikeTones();
+    void withBrandBehindAnOpenQuotationMark_data();
+    void withBrandBehindAnOpenQuotationMark();
 };
 
 void tst_ThemeMaker::samples_data()
@@ -588,6 +603,7 @@ void tst_ThemeMaker::names_data()
     QTest::newRow("comma") << "a,b" << QStringList();
     QTest::newRow("beyond-ascii") << QString::fromUtf8("ü") << QStringList();
     QTest::newRow("leading-space") << " a" << QStringList();
+    QTest::newRow("default") << "Default" << QStringList();
 }
 
 void tst_ThemeMaker::names()
@@ -621,7 +637,7 @@ void tst_ThemeMaker::withBrand()
     for (const Look look : allLooks) {
         const ThemeTexts before{sampleFile("default.theme"), sampleFile(lookName(look) + ".theme")};
         QStringList notes;
-        const ThemeTexts after = Maker::withBrand(before, brand, &notes);
+        const ThemeTexts after = branded(before, brand, &notes);
         const QTemporaryDir folder;
         QVERIFY(
             write(folder.path(), {{{"default.theme", after.base}, {"own.theme", after.own}}, {}}));
@@ -648,7 +664,7 @@ void tst_ThemeMaker::withBrandOfAnotherTheme()
                             "DefaultForegroundColor=Ink\nBackgroundColor_3=#ffffff\n",
                             "[Colors]\nHighlightedForegroundColor=Brand_6\n"};
     QStringList notes;
-    const ThemeTexts after = Maker::withBrand(before, QColor("#a02020"), &notes);
+    const ThemeTexts after = branded(before, QColor("#a02020"), &notes);
     QCOMPARE(ThemeText(after.base).value("Colors", "DefaultForegroundColor"), QString("Ink"));
     QCOMPARE(ThemeText(after.base).value("Palettes", "Ink"), QString("#101010"));
     QVERIFY(ThemeText(after.base).value("Palettes", "Brand_6") != "#2D63F0");
@@ -679,7 +695,7 @@ void tst_ThemeMaker::withBrandKeepsSpellings()
         + "\nBackgroundColor_3=#ffffff\nColor_W20=Brand_6\n";
     const ThemeTexts before{"[Palettes]\nBrand_6=#2D63F0\n" + entries, colors};
     QStringList notes;
-    const ThemeTexts after = Maker::withBrand(before, QColor("#a02020"), &notes);
+    const ThemeTexts after = branded(before, QColor("#a02020"), &notes);
     QCOMPARE(notes, QStringList());
     QVERIFY2(after.base.endsWith(entries), after.base.constData());
     QVERIFY(after.base != before.base);
@@ -693,14 +709,127 @@ void tst_ThemeMaker::withBrandAddsFills()
         "[Palettes]\nBrand_6=#2D63F0\n",
         "[Colors]\nColor_W100=#FFFFFF\nGeneralButtonBackgroundNormal=Brand_6\n"};
     QStringList notes;
-    const ThemeText own(Maker::withBrand(before, QColor("#ffd000"), &notes).own);
+    const ThemeText own(branded(before, QColor("#ffd000"), &notes).own);
     QCOMPARE(own.value("Colors", "AccentBackgroundColor"), QString("Brand"));
     QCOMPARE(own.value("Colors", "AccentForegroundColor"), QString("#000000"));
     // All in one default file: what is added stands there too.
     const ThemeTexts one{before.base + before.own, ""};
-    const ThemeTexts after = Maker::withBrand(one, QColor("#ffd000"), &notes);
+    const ThemeTexts after = branded(one, QColor("#ffd000"), &notes);
     QCOMPARE(ThemeText(after.base).value("Colors", "AccentBackgroundColor"), QString("Brand"));
     QVERIFY(after.own.isEmpty());
+}
+
+void tst_ThemeMaker::withBrandInTheThemesOwnPalette_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QByteArray>("own");
+
+    const QByteArray tones = "Brand_1=#dbe4ff\nBrand_3=#8aa9ff\nBrand_5=#4f7bf5\nBrand_6=#2D63F0\n"
+                             "Brand_7=#1f4cc4\nBrand_8=#1137A2\n";
+    const QByteArray palette = "[Palettes]\n" + tones;
+    const QByteArray general =
+        "[Colors]\nBackgroundColor_3=#202020\nDefaultForegroundColor=#ffffff\n"
+        "Color_W100=#ffffff\nEditBackgroundColor=#101010\n"
+        "EditHighlightBorderColor=#1f4cc4\n";
+    const QByteArray button = "GeneralButtonBackgroundNormal=#2D63F0\nColor_Brand_8=#1137A2\n";
+    QTest::newRow("colors-of-the-default-file") << "[Colors]\n" + button << palette + general;
+    QTest::newRow("all-colors-of-the-default-file") << general + button << palette;
+    QTest::newRow("named-by-the-theme")
+        << "[Colors]\n" + button << palette + general + "Color_Brand_6=Brand_6\n";
+    QTest::newRow("out-of-reach-already")
+        << QByteArray("[Colors]\nColor_Brand_8=Brand_8\n")
+        << palette + general + "GeneralButtonBackgroundNormal=Brand_6\n";
+    QTest::newRow("tones-in-both-files") << "[Palettes]\nBrand_6=#2D63F0\n[Colors]\n"
+            + button << "[Palettes]\nBrand_8=#1137A2\n" + general + "Color_Brand_7=Brand_8\n";
+}
+
+// The default file is read before the theme's palette, so its colours cannot name what stands there.
+void tst_ThemeMaker::withBrandInTheThemesOwnPalette()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QByteArray, own);
+    const auto read = [](const ThemeTexts &texts, HV::WorkableTheme *theme) {
+        const QTemporaryDir folder;
+        QVERIFY(
+            write(folder.path(), {{{"default.theme", texts.base}, {"own.theme", texts.own}}, {}}));
+        const auto silent = [](QtMsgType, const QMessageLogContext &, const QString &) {};
+        const QtMessageHandler former =
+            qInstallMessageHandler(silent); // nearly all keys are missing
+        HV::changeTheme(theme, "own", folder.path());
+        qInstallMessageHandler(former);
+    };
+    HV::WorkableTheme before;
+    read({base, own}, &before);
+    QStringList notes;
+    const ThemeTexts after = branded({base, own}, QColor("#a02020"), &notes);
+    HV::WorkableTheme theme;
+    read(after, &theme);
+    for (const QByteArray &text : {after.base, after.own}) {
+        const QStringList keys = ThemeText(text).keys("Colors");
+        for (const QString &key : keys) {
+            if (before.values().contains(key) && before.color(key) != Qt::black)
+                QVERIFY2(theme.color(key) != Qt::black, qPrintable(key));
+        }
+    }
+    const QColor ground = theme.color("GeneralButtonBackgroundNormal");
+    QVERIFY2(ground.red() > ground.blue(), qPrintable(ground.name()));
+    const QStringList entries = ThemeText(after.own).keys("Palettes"); // no tone has two values
+    for (const QString &key : entries)
+        QVERIFY2(ThemeText(after.base).value("Palettes", key).isNull(), qPrintable(key));
+}
+
+void tst_ThemeMaker::namesLikeTones_data()
+{
+    QTest::addColumn<QByteArray>("entry");
+    for (const char *name : {"Brand_Logo", "Brand_11", "Brand_0", "Brand_06", "Brandy_6", "Brand_"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+// What only begins like a tone is none: the theme has no brand, and stays byte for byte.
+void tst_ThemeMaker::namesLikeTones()
+{
+    QFETCH(QByteArray, entry);
+    const ThemeTexts before{"[Palettes]\n" + entry + "=#2D63F0\n[Colors]\nColor_W100=#ffffff\n",
+                            "[Colors]\nGeneralButtonBackgroundNormal=#204080\n"
+                            "EditHighlightBorderColor="
+                                + entry + "\n"};
+    QStringList notes;
+    const ThemeTexts after = branded(before, QColor("#a02020"), &notes);
+    QCOMPARE(after.base, before.base);
+    QCOMPARE(after.own, before.own);
+    // Beside a brand, it is a colour as any other.
+    const ThemeTexts both{"[Palettes]\nBrand_6=#2D63F0\n" + entry + "=#2D63F0\n", before.own};
+    const ThemeText own(branded(both, QColor("#a02020"), &notes).own);
+    QCOMPARE(own.value("Colors", "EditHighlightBorderColor"), QString(entry));
+}
+
+void tst_ThemeMaker::withBrandBehindAnOpenQuotationMark_data()
+{
+    QTest::addColumn<QByteArray>("base");
+    QTest::addColumn<QByteArray>("own");
+    QTest::addColumn<QString>("file");
+
+    const QByteArray palette = "[Palettes]\nBrand_6=#2D63F0\n";
+    const QByteArray colors =
+        "[Colors]\nColor_W100=#ffffff\nGeneralButtonBackgroundNormal=Brand_6\n";
+    QTest::newRow("default-file") << palette + "Veil=\"#80000000\n" << colors << "default file";
+    QTest::newRow("own-file") << palette << colors + "Veil=\"#80000000"
+                              << "theme's own file";
+    QTest::newRow("new-section") << QByteArray("[Integers]\nA=\"1\n") << colors << "default file";
+}
+
+void tst_ThemeMaker::withBrandBehindAnOpenQuotationMark()
+{
+    QFETCH(QByteArray, base);
+    QFETCH(QByteArray, own);
+    QFETCH(QString, file);
+    QStringList notes;
+    QString error;
+    QVERIFY(!Maker::withBrand({base, own}, QColor("#ffd000"), &notes, &error));
+    QCOMPARE(
+        error,
+        "nothing can be added to the " + file
+            + " without changing other entries; look for a quotation mark that is never closed");
 }
 
 QTEST_MAIN(tst_ThemeMaker)

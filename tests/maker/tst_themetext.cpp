@@ -17,6 +17,8 @@ private Q_SLOTS:
     void value();
     void setValue_data();
     void setValue();
+    void provenText_data();
+    void provenText();
     void strangeNames_data();
     void strangeNames();
     void manyKeys();
@@ -113,6 +115,61 @@ void tst_ThemeText::setValue()
     theme.setValue("Colors", "A", "new");
     QCOMPARE(theme.text(), expected);
     QCOMPARE(theme.value("Colors", "A"), QString("new"));
+}
+
+void tst_ThemeText::provenText_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("expected"); // null: refused
+
+    QTest::newRow("in-place") << QByteArray("[Colors]\nA=x\nB=\"z\n")
+                              << QByteArray("[Colors]\nA=new\nB=\"z\n");
+    QTest::newRow("open-quotation-mark") << QByteArray("[Colors]\nB=\"z\n") << QByteArray();
+    QTest::newRow("open-quotation-mark-without-line-end")
+        << QByteArray("[Colors]\nB=\"z") << QByteArray();
+    QTest::newRow("open-quotation-mark-takes-sections-in")
+        << QByteArray("[Colors]\nB=\"z\n[Flags]\nC=1\n") << QByteArray();
+    QTest::newRow("new-section-behind-a-quotation-mark")
+        << QByteArray("[Flags]\nB=\"z\n") << QByteArray();
+    QTest::newRow("quotation-mark-in-another-section")
+        << QByteArray("[Colors]\nB=z\n[Flags]\nC=\"1\n")
+        << QByteArray("[Colors]\nB=z\nA=new\n[Flags]\nC=\"1\n");
+    QTest::newRow("quotation-mark-in-a-comment")
+        << QByteArray("[Colors]\nB=z ; \"\n") << QByteArray("[Colors]\nB=z ; \"\nA=new\n");
+    QTest::newRow("backslash-at-the-end")
+        << QByteArray("[Colors]\nB=z\\") << QByteArray("[Colors]\nB=z\\\n\nA=new\n");
+    QTest::newRow("backslash-and-line-end")
+        << QByteArray("[Colors]\r\nB=z\\\r\n") << QByteArray("[Colors]\r\nB=z\\\r\n\r\nA=new\r\n");
+    QTest::newRow("new-section-behind-a-backslash")
+        << QByteArray("[Flags]\nB=z\\") << QByteArray("[Flags]\nB=z\\\n\n\n[Colors]\nA=new\n");
+}
+
+// As QSettings reads it: the new value and all that was there, or nothing.
+void tst_ThemeText::provenText()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QByteArray, expected);
+    ThemeText theme(text);
+    theme.setValue("Colors", "A", "new");
+    QCOMPARE(theme.provenText().value_or(QByteArray()), expected);
+    QCOMPARE(theme.provenText().has_value(), !expected.isNull());
+    if (expected.isNull())
+        return;
+    const auto valuesOf = [](const QByteArray &content) {
+        QMap<QString, QVariant> values;
+        QTemporaryFile file;
+        if (!file.open() || file.write(content) != content.size())
+            qFatal("cannot write");
+        const QString path = file.fileName();
+        file.close();
+        const QSettings settings(path, QSettings::IniFormat);
+        for (const QString &key : settings.allKeys())
+            values.insert(key, settings.value(key));
+        return values;
+    };
+    QMap<QString, QVariant> values = valuesOf(text);
+    values.insert("Colors/A", "new");
+    QCOMPARE(valuesOf(expected), values);
 }
 
 // Keys and values may be anything; the entries around them stay what they are.

@@ -23,6 +23,8 @@ private Q_SLOTS:
     void recordsItsParameters();
     void copies();
     void copyOfAnotherSuffix();
+    void openQuotationMark_data();
+    void openQuotationMark();
     void refused_data();
     void refused();
     void keepsWhatIsThere();
@@ -197,6 +199,35 @@ void tst_New::copyOfAnotherSuffix()
     QVERIFY(CommandRun(anew + QStringList{"--suffix", "look"})
                 .errors.contains("there are themes already (default.look, night.look)"));
     QCOMPARE(CommandRun(anew).exitCode, 0);
+}
+
+void tst_New::openQuotationMark_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("reason");
+    QTest::newRow("brand") << QStringList{"--brand", "#2060a0"}
+                           << QByteArray("/own: nothing can be added to the default file without "
+                                         "changing other entries; look for a quotation mark");
+    QTest::newRow("name") << QStringList{"--name", "Rust"}
+                          << QByteArray("/own: the name cannot be added without changing other "
+                                        "entries; look for a quotation mark");
+}
+
+// It would take in what is added behind it.
+void tst_New::openQuotationMark()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, reason);
+    const TemporaryTheme source("[Palettes]\nBrand_6=#2449CC\nVeil=\"#80000000\n");
+    source.write("own.theme",
+                 "[Colors]\nColor_W100=#ffffff\nGeneralButtonBackgroundNormal=Brand_6\nA=\"x\n");
+    const QTemporaryDir place;
+    const CommandRun run(QStringList{"new", place.filePath("out"), "--from", source.path("own")}
+                         + options);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.errors.contains(reason), run.errors.constData());
+    QCOMPARE(run.errors.count('\n'), 1);
+    QVERIFY(!QFileInfo::exists(place.filePath("out")));
 }
 
 void tst_New::refused_data()
