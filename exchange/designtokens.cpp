@@ -80,6 +80,20 @@ QJsonObject group(const char *type, const QMap<QString, Value> &values, QString 
     return object;
 }
 
+// JSON has no numbers for positions such as nan.
+QString gradientMistake(const ThemeContent &theme)
+{
+    for (auto it = theme.gradients.cbegin(); it != theme.gradients.cend(); ++it) {
+        for (const QGradientStop &stop : *it) {
+            if (!std::isfinite(stop.first))
+                return QLatin1String("the gradient \"") % it.key()
+                    % QLatin1String("\" has a stop at ") % QString::number(stop.first)
+                    % QLatin1String(", which no design token can say");
+        }
+    }
+    return {};
+}
+
 // --- reading
 
 struct FoundToken {
@@ -102,6 +116,7 @@ private:
     void collect(const QJsonObject &object, const QStringList &path, const QString &type,
                  int depth);
     FoundToken resolved(const QString &name);
+    bool isOurs(const QString &path) const;
     static QString aliasOf(const QJsonValue &value);
     QColor color(const QString &name, const QJsonValue &value);
     QColor colorOfObject(const QString &name, const QJsonObject &value);
@@ -265,7 +280,7 @@ qint64 Reader::integer(const QString &name, const QJsonValue &value)
         && dimension.value(QStringLiteral("unit")).toString() != QLatin1String("px"))
         fail(name, QStringLiteral("of dimensions only px is read"));
     const double rounded = std::round(number.toDouble());
-    if (!(std::abs(rounded) <= 2147483647.0))
+    if (!(rounded >= -2147483648.0 && rounded <= 2147483647.0))
         fail(name, QStringLiteral("the number does not fit into 32 bits"));
     return qint64(rounded);
 }
@@ -304,21 +319,29 @@ QString keyOf(const QString &path)
     return path.section(QLatin1Char('.'), 1);
 }
 
+// Tells whether a token of one of our groups has a type that ours have there, or none of its own.
+bool Reader::isOurs(const QString &path) const
+{
+    const QString type = m_tokens.value(path).type;
+    const auto is = [&](const char *name) { return type.isEmpty() || type == QLatin1String(name); };
+    return ((isIn("palette", path) || isIn("color", path)) && is("color"))
+        || (isIn("gradient", path) && is("gradient"))
+        || (isIn("integer", path) && (is("number") || is("dimension")));
+}
+
 // Entries of ours keep their names; those of others have to make do with what is left.
 void Reader::namePaletteEntries()
 {
     PaletteNames names;
     for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
-        if (isIn("palette", it.key())) {
+        if (isIn("palette", it.key()) && isOurs(it.key())) {
             m_paletteNames.insert(it.key(), keyOf(it.key()));
             names.take(keyOf(it.key()));
         }
     }
     for (auto it = m_tokens.cbegin(); it != m_tokens.cend(); ++it) {
         const QString &path = it.key();
-        const bool isOurs = isIn("palette", path) || isIn("color", path) || isIn("gradient", path)
-            || isIn("integer", path);
-        const bool isColor = !isOurs && resolved(path).type == QLatin1String("color");
+        const bool isColor = !isOurs(path) && resolved(path).type == QLatin1String("color");
         if (!m_mistake.isNull())
             return;
         if (isColor)
@@ -333,13 +356,14 @@ ThemeContent Reader::content()
     for (auto it = m_tokens.cbegin(); it != m_tokens.cend() && m_mistake.isNull(); ++it) {
         const QString &name = it.key();
         const QJsonValue value = resolved(name).value;
+        const bool isKnown = isOurs(name);
         if (m_paletteNames.contains(name))
             theme.palette.insert(m_paletteNames.value(name), color(name, value));
-        else if (isIn("color", name))
+        else if (isKnown && isIn("color", name))
             theme.colors.insert(keyOf(name), themeColor(name));
-        else if (isIn("gradient", name))
+        else if (isKnown && isIn("gradient", name))
             theme.gradients.insert(keyOf(name), gradient(name, value));
-        else if (isIn("integer", name))
+        else if (isKnown && isIn("integer", name))
             theme.integers.insert(keyOf(name), integer(name, value));
     }
     return theme;
@@ -391,7 +415,7 @@ std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error
     for (auto it = theme.imageFiles.cbegin(); it != theme.imageFiles.cend(); ++it)
         images.insert(it.key(), it.value());
 
-    error->clear();
+    *error = gradientMistake(theme);
     const QJsonObject root{
         {QStringLiteral("palette"),
          group("color", theme.palette, error,

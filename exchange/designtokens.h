@@ -22,7 +22,7 @@ namespace Exchange
  * and stand below `$extensions`, in `hvtheme`. readDesignTokens() gives it all back.
  *
  * \return nothing, with one sentence in \a error, for a key that cannot name a token: one that holds
- *         a dot or a brace, or begins with a dollar sign.
+ *         a dot or a brace, or begins with a dollar sign; and for a stop of a gradient at no number.
  */
 std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error);
 
@@ -32,7 +32,7 @@ std::optional<QByteArray> designTokens(const ThemeContent &theme, QString *error
  * Those of the four groups above become what they were. Any other colour becomes a palette entry,
  * named after its path: `brand.primary.500` is `brand_primary_500`, with a number behind it if there
  * is such an entry already. A colour of ours that is an alias of an entry names it. Tokens of other
- * types are passed over. Colours may be objects of the colour space sRGB, objects of any space with a
+ * types are passed over, in the four groups as well. Colours may be objects of the colour space sRGB, objects of any space with a
  * `hex`, or text such as `#3060f0` and `#3060f0ff`, the opacity last.
  *
  * \return nothing, with one sentence in \a error that names the token, for a text that is no JSON,

@@ -26,9 +26,9 @@ const QByteArray ownComment =
     ". A colour is the name of a palette entry of that file or hexadecimal\n"
     "; digits, #RRGGBB or #AARRGGBB with the opacity first.\n";
 
-void writeBase(const ThemeContent &theme, QSettings *settings)
+void writeBase(const ThemeContent &theme, const QString &displayName, QSettings *settings)
 {
-    settings->setValue(QStringLiteral("ThemeName"), QStringLiteral("Default"));
+    settings->setValue(QStringLiteral("ThemeName"), displayName);
     settings->beginGroup(QStringLiteral("Palettes"));
     for (auto it = theme.palette.cbegin(); it != theme.palette.cend(); ++it)
         settings->setValue(it.key(), Maker::hexadecimal(it.value()));
@@ -102,9 +102,14 @@ std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QSt
                                             const QString &suffix, QString *error)
 {
     const QTemporaryDir folder;
-    const QString displayName = theme.displayName.isEmpty() ? name : theme.displayName;
-    const auto base =
-        iniText(folder, baseComment, [&](QSettings *settings) { writeBase(theme, settings); });
+    const bool isAlone = name == defaultThemeName();
+    const bool isUnnamed = theme.displayName.isEmpty() && theme.name.isEmpty();
+    const QString displayName = isUnnamed ? name : theme.displayName;
+    const auto base = iniText(folder, baseComment, [&](QSettings *settings) {
+        writeBase(theme, isAlone ? displayName : QStringLiteral("Default"), settings);
+        if (isAlone)
+            writeOwn(theme, displayName, settings);
+    });
     const QString baseName = themeFileName(defaultThemeName(), suffix);
     const auto own = iniText(folder, "; Read after " + baseName.toUtf8() + ownComment,
                              [&](QSettings *settings) { writeOwn(theme, displayName, settings); });
@@ -114,7 +119,10 @@ std::optional<Maker::MadeThemes> themeFiles(const ThemeContent &theme, const QSt
                                 : QLatin1String(": no temporary folder can be made here"));
         return std::nullopt;
     }
-    return Maker::MadeThemes{{{baseName, *base}, {themeFileName(name, suffix), *own}}, {}};
+    Maker::MadeThemes made{{{baseName, *base}}, {}};
+    if (!isAlone)
+        made.files.append({themeFileName(name, suffix), *own});
+    return made;
 }
 
 } // namespace Exchange

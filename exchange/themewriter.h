@@ -16,7 +16,7 @@ namespace Exchange
  * \brief Returns \a theme as files of a folder: the default file with palette and integers, and the
  *        theme's own with all that makes the look.
  *
- * \param name  of the theme's file, as Maker::isThemeName() has it, in lower case.
+ * \param name    of the theme's file; for `default` all of it stands in that one file.
  * \param suffix  of both files.
  * \return nothing, with one sentence in \a error, if there is no room for temporary files.
  */

@@ -4,6 +4,7 @@
 #include <tools/command_import.h>
 
 #include <analysis/theme/inputfile.h>
+#include <colormath/oklch.h>
 #include <exchange/designtokens.h>
 #include <exchange/themewriter.h>
 #include <format/applicationkeys.h>
@@ -16,9 +17,10 @@
 #include <tools/outputtext.h>
 #include <tools/themeoptions.h>
 
-#include <QDir>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <iterator>
 
 namespace
 {
@@ -31,49 +33,96 @@ struct Wishes {
     QString suffix; // of theme files
 };
 
-// The colour that tokens of another author mean as the brand: by name, else the most colourful one.
+// Those of the names that are as is wanted, or all if none is.
+template<typename IsWanted>
+QStringList preferred(const QStringList &names, IsWanted isWanted)
+{
+    QStringList wanted;
+    std::copy_if(names.cbegin(), names.cend(), std::back_inserter(wanted), isWanted);
+    return wanted.isEmpty() ? names : wanted;
+}
+
+// The opaque colour that tokens of another author mean as the brand, or an empty name: what is called
+// so; of a scale its middle, which all scales to 900 call 500; and of what is left the most colourful.
 QString brandEntry(const Exchange::ThemeContent &theme)
 {
-    const QStringList names = theme.palette.keys();
-    for (const char *word : {"brand", "primary", "accent"}) {
-        for (const QString &name : names) {
-            if (name.contains(QLatin1String(word), Qt::CaseInsensitive)
-                && theme.palette.value(name).alpha() == 255)
-                return name;
-        }
+    QStringList names;
+    for (auto it = theme.palette.cbegin(); it != theme.palette.cend(); ++it) {
+        if (it->alpha() == 255)
+            names.append(it.key());
     }
+    if (names.isEmpty())
+        return {};
+    for (const char *text : {"brand", "primary", "accent"}) {
+        const QLatin1String word(text);
+        names = preferred(
+            names, [&](const QString &name) { return name.contains(word, Qt::CaseInsensitive); });
+    }
+    static const QRegularExpression called(QStringLiteral("(?:brand|primary|accent)$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    names = preferred(names, [](const QString &name) { return name.contains(called); });
+    static const QRegularExpression middle(QStringLiteral("(?:^|[^0-9])500$"));
+    names = preferred(names, [](const QString &name) { return name.contains(middle); });
     const auto chroma = [&](const QString &name) {
-        const QColor color = theme.palette.value(name);
-        return color.alpha() == 255 ? color.hsvSaturation() * color.value() : -1;
+        return ColorMath::toOklch(theme.palette.value(name)).chroma;
     };
     return *std::max_element(names.cbegin(), names.cend(), [&](const QString &a, const QString &b) {
         return chroma(a) < chroma(b);
     });
 }
 
+// One sentence for all entries that were left out.
+QString leftOut(const QStringList &entries)
+{
+    if (entries.size() == 1)
+        return QLatin1String("the palette entry ") % entries.constFirst()
+            % QLatin1String(" is made of the brand; the token is left out");
+    constexpr int shown = 3;
+    return QString::number(entries.size()) % QLatin1String(" palette entries (")
+        % entries.mid(0, shown).join(QLatin1String(", "))
+        % QLatin1String(entries.size() > shown ? ", ..." : "")
+        % QLatin1String(") are made of the brand; the tokens are left out");
+}
+
 // Tokens that name none of a theme's colours are a palette: themes are made of its brand, and its
 // entries stand in the default file for those who want them.
-Maker::MadeThemes themesOfPalette(const Exchange::ThemeContent &tokens, const Wishes &wishes)
+std::optional<Maker::MadeThemes> themesOfPalette(const Exchange::ThemeContent &tokens,
+                                                 const Wishes &wishes, QString *error)
 {
     Maker::Order order;
     order.suffix = wishes.suffix;
     const QString brand = brandEntry(tokens);
+    if (brand.isEmpty()) {
+        *error = QStringLiteral("all colours are translucent; a theme is made of opaque colours");
+        return std::nullopt;
+    }
     order.parameters.brand = tokens.palette.value(brand);
     order.name = wishes.name;
     Maker::MadeThemes made = Maker::makeThemes(order);
     Maker::ThemeText base(made.files.first().content);
     const QStringList own = base.keys(QStringLiteral("Palettes"));
+    QStringList left;
     for (auto it = tokens.palette.cbegin(); it != tokens.palette.cend(); ++it) {
         if (own.contains(it.key()))
-            made.notes.append(QLatin1String("the palette entry ") % it.key()
-                              % QLatin1String(" is made of the brand; the token is left out"));
+            left.append(it.key());
         else
             base.setValue(QStringLiteral("Palettes"), it.key(), Maker::hexadecimal(it.value()));
     }
     made.files.first().content = base.text();
     made.notes.prepend(QLatin1String("no token names a colour of a theme, so themes are made of ")
                        % brand % QLatin1String(", ") % Maker::hexadecimal(order.parameters.brand));
+    if (!left.isEmpty())
+        made.notes.append(leftOut(left));
     return made;
+}
+
+// Tells whether a file of the folder can be called so; the library misreads a "%" in paths.
+bool isFileBaseName(const QString &name)
+{
+    constexpr int longest = 60; // characters, of which each may take four bytes
+    static const QRegularExpression pattern(QStringLiteral("^[\\w-](?:[\\w .+()-]*[\\w+()-])?$"),
+                                            QRegularExpression::UseUnicodePropertiesOption);
+    return name.size() <= longest && pattern.match(name).hasMatch();
 }
 
 bool isColorOfTemplates(const QString &key)
@@ -90,18 +139,19 @@ bool isColorOfTemplates(const QString &key)
 bool isTheme(const Exchange::ThemeContent &tokens)
 {
     const QStringList keys = tokens.colors.keys();
-    return !keys.isEmpty()
-        && (!tokens.name.isEmpty() || std::any_of(keys.cbegin(), keys.cend(), isColorOfTemplates));
+    return !tokens.name.isEmpty() || std::any_of(keys.cbegin(), keys.cend(), isColorOfTemplates);
 }
 
-// The theme's name in file names: what was asked for, else the one in the tokens, if it can be that.
+// The theme's name in file names: what was asked for, else the one in the tokens. That of a default
+// file alone stays; in other letters it would be a theme that is never read.
 QString nameOfTheme(const Exchange::ThemeContent &tokens, const QString &name)
 {
-    QString chosen = name.isEmpty() ? tokens.name : name;
-    if (chosen.isEmpty() || !Maker::isThemeName(chosen)
-        || chosen.compare(defaultThemeName(), Qt::CaseInsensitive) == 0)
-        chosen = QStringLiteral("imported");
-    return chosen.toLower().replace(QLatin1Char(' '), QLatin1Char('-'));
+    if (!name.isEmpty())
+        return Maker::themeFileBaseName(name);
+    const bool isOfDefault = tokens.name.compare(defaultThemeName(), Qt::CaseInsensitive) == 0;
+    const bool isName =
+        tokens.name == defaultThemeName() || (!isOfDefault && isFileBaseName(tokens.name));
+    return isName ? tokens.name : QStringLiteral("imported");
 }
 
 std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens,
@@ -115,7 +165,7 @@ std::optional<Maker::MadeThemes> themesOf(const Exchange::ThemeContent &tokens,
     }
     theme.palette = Exchange::wholePalette(tokens);
     if (!theme.palette.isEmpty())
-        return themesOfPalette(theme, wishes);
+        return themesOfPalette(theme, wishes, error);
     *error = QStringLiteral("there is no token of the type color");
     return std::nullopt;
 }
@@ -161,11 +211,8 @@ int runImport(const QStringList &arguments)
         return usageError(commandName, QStringLiteral("FILE and FOLDER are needed"));
     if (positional.size() > 2)
         return usageError(commandName, QLatin1String("one argument too many: ") % positional.at(2));
-    if (!Maker::isThemeName(name)
-        || name.compare(QLatin1String("default"), Qt::CaseInsensitive) == 0)
-        return usageError(commandName,
-                          QLatin1String("--name: \"") % name
-                              % QLatin1String("\" cannot name files"));
+    if (!Maker::isThemeName(name))
+        return usageError(commandName, QLatin1String("--name: ") % Maker::themeNameMistake(name));
     const QString wrongSuffix = ThemeOptions::mistakeInSuffix(parser);
     if (!wrongSuffix.isEmpty())
         return usageError(commandName, wrongSuffix);

@@ -14,11 +14,15 @@ class tst_DesignTokens : public QObject
 
 private Q_SLOTS:
     void roundTrip();
+    void positionsThatAreNoNumbers_data();
+    void positionsThatAreNoNumbers();
     void keysThatAreNoNames_data();
     void keysThatAreNoNames();
     void colors_data();
     void colors();
     void tokensOfOthers();
+    void otherTypesInOurGroups_data();
+    void otherTypesInOurGroups();
     void paletteNames_data();
     void paletteNames();
     void refused_data();
@@ -42,7 +46,8 @@ ThemeContent smallTheme()
     theme.imageFiles = {{"add", "../share/a,b.svg"}, {"none", ""}};
     theme.gradients = {{"Heading", {{0, QColor("#000000")}, {0.33333333, QColor(9, 8, 7, 6)}}}};
     theme.flags = {{"Dark", true}, {"Loud", false}};
-    theme.integers = {{"FontSize_L", 14}, {"Width", -3}};
+    theme.integers = {
+        {"FontSize_L", 14}, {"Width", -3}, {"Most", 2147483647}, {"Least", -2147483647 - 1}};
     return theme;
 }
 
@@ -65,6 +70,27 @@ void tst_DesignTokens::roundTrip()
     QCOMPARE(read->flags, theme.flags);
     QCOMPARE(read->integers, theme.integers);
     QCOMPARE(*designTokens(*read, &error), *text);
+}
+
+void tst_DesignTokens::positionsThatAreNoNumbers_data()
+{
+    QTest::addColumn<double>("position");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("nan") << qQNaN() << "nan";
+    QTest::newRow("infinite") << qInf() << "inf";
+    QTest::newRow("minus-infinite") << -qInf() << "-inf";
+}
+
+void tst_DesignTokens::positionsThatAreNoNumbers()
+{
+    QFETCH(double, position);
+    QFETCH(QString, text);
+    ThemeContent theme;
+    theme.gradients.insert("Glow", {{0, Qt::red}, {position, Qt::red}});
+    QString error;
+    QVERIFY(!designTokens(theme, &error));
+    QCOMPARE(error,
+             "the gradient \"Glow\" has a stop at " + text + ", which no design token can say");
 }
 
 void tst_DesignTokens::keysThatAreNoNames_data()
@@ -140,6 +166,46 @@ void tst_DesignTokens::tokensOfOthers()
     QCOMPARE(theme->palette.keys(), QStringList({"brand_primary_500", "text_muted"}));
     QCOMPARE(theme->palette.value("text_muted"), QColor("#3060f0"));
     QVERIFY(theme->colors.isEmpty() && theme->integers.isEmpty());
+}
+
+void tst_DesignTokens::otherTypesInOurGroups_data()
+{
+    QTest::addColumn<QByteArray>("tokens");
+    QTest::addColumn<QStringList>("palette");
+
+    QTest::newRow("palette") << QByteArray(
+        R"("palette":{"name":{"$type":"string","$value":"Ocean"}})")
+                             << QStringList();
+    QTest::newRow("color") << QByteArray(R"("color":{"opacity":{"$type":"number","$value":0.5}})")
+                           << QStringList();
+    QTest::newRow("color-with-a-type-of-its-own")
+        << QByteArray(R"("color":{"$type":"color","gap":{"$type":"dimension","$value":"4px"}})")
+        << QStringList();
+    QTest::newRow("gradient") << QByteArray(
+        R"("gradient":{"angle":{"$type":"number","$value":90}})")
+                              << QStringList();
+    QTest::newRow("color-in-gradient")
+        << QByteArray(R"("gradient":{"start":{"$type":"color","$value":"#123456"}})")
+        << QStringList{"gradient_start"};
+    QTest::newRow("integer") << QByteArray(
+        R"("integer":{"fast":{"$type":"duration","$value":"10ms"}})")
+                             << QStringList();
+    QTest::newRow("color-in-integer")
+        << QByteArray(R"("integer":{"one":{"$type":"color","$value":"#123456"}})")
+        << QStringList{"integer_one"};
+}
+
+// Others call their groups as we do and keep there what we do not.
+void tst_DesignTokens::otherTypesInOurGroups()
+{
+    QFETCH(QByteArray, tokens);
+    QFETCH(QStringList, palette);
+    QString error;
+    const auto theme = readDesignTokens(
+        R"({"brand":{"$type":"color","$value":"#3060f0"},)" + tokens + '}', &error);
+    QVERIFY2(theme, qPrintable(error));
+    QCOMPARE(theme->palette.keys(), QStringList{"brand"} + palette);
+    QVERIFY(theme->colors.isEmpty() && theme->gradients.isEmpty() && theme->integers.isEmpty());
 }
 
 void tst_DesignTokens::paletteNames_data()
@@ -243,6 +309,8 @@ void tst_DesignTokens::refused_data()
                           << "token integer.a: of dimensions only px is read";
     QTest::newRow("wide") << QByteArray(R"({"integer":{"a":{"$value":1e300}}})")
                           << "token integer.a: the number does not fit into 32 bits";
+    QTest::newRow("narrow") << QByteArray(R"({"integer":{"a":{"$value":-2147483649}}})")
+                            << "token integer.a: the number does not fit into 32 bits";
     QTest::newRow("gradient") << QByteArray(R"({"gradient":{"a":{"$value":[]}}})")
                               << "token gradient.a: a gradient is a list of stops";
     QTest::newRow("stop") << QByteArray(R"({"gradient":{"a":{"$value":[{"color":"#000"}]}}})")

@@ -13,7 +13,14 @@ class tst_Exchange : public QObject
 private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
+    void roundTripOfRareThemes_data();
+    void roundTripOfRareThemes();
+    void noNumber();
     void tokensOfOthers();
+    void brandOfOthers_data();
+    void brandOfOthers();
+    void oneNoteForAll_data();
+    void oneNoteForAll();
     void importedFiles_data();
     void importedFiles();
     void exportRefused_data();
@@ -86,6 +93,140 @@ void tst_Exchange::roundTrip()
     QCOMPARE(values(made), values(folder));
 }
 
+void tst_Exchange::roundTripOfRareThemes_data()
+{
+    QTest::addColumn<QString>("theme");
+    QTest::addColumn<QByteArray>("content");
+
+    const QByteArray palette = "[Palettes]\nInk=#102030\n";
+    const QByteArray colors = "[Colors]\nText=Ink\n";
+    QTest::newRow("without-colors") << "night" << QByteArray("ThemeName=Night\n[Flags]\nDark=1\n");
+    QTest::newRow("empty") << "night" << QByteArray();
+    QTest::newRow("capital") << "Night"
+                             << "ThemeName=N\n" + colors;
+    QTest::newRow("blanks") << "Stage Light 2.0"
+                            << "ThemeName=N\n" + colors;
+    QTest::newRow("umlaut") << QString::fromUtf8("Über") << "ThemeName=N\n" + colors;
+    QTest::newRow("no-display-name") << "night"
+                                     << "ThemeName=\n" + colors;
+    QTest::newRow("least-integer")
+        << "night" << QByteArray("ThemeName=N\n[Integers]\nLeast=-2147483648\nMost=2147483647\n");
+    QTest::newRow("default-file") << "default"
+                                  << "ThemeName=Basis\n" + palette + colors + "[Flags]\nDark=1\n";
+    QTest::newRow("default-file-without-colors") << "default"
+                                                 << "ThemeName=Basis\n" + palette;
+}
+
+// The same files' names, and the same bytes when it is exported again.
+void tst_Exchange::roundTripOfRareThemes()
+{
+    QFETCH(QString, theme);
+    QFETCH(QByteArray, content);
+    const TemporaryTheme folder("ThemeName=Default\n[Palettes]\nInk=#102030\n");
+    folder.write(theme + ".theme", content);
+    const QTemporaryDir place;
+    const QString tokens = place.filePath("tokens.json");
+    const CommandRun out({"export", folder.path(), theme, "-o", tokens});
+    QCOMPARE(out.errors, QByteArray());
+    const QString made = place.filePath("made");
+    const CommandRun in({"import", tokens, made});
+    QCOMPARE(in.errors, QByteArray());
+    const QStringList files = QDir(made).entryList(QDir::Files, QDir::Name);
+    QVERIFY2(files.contains(theme + ".theme") && files.size() == (theme == "default" ? 1 : 2),
+             qPrintable(files.join(' ')));
+    const CommandRun again({"export", made, theme});
+    QCOMPARE(again.output, contentOf(tokens));
+}
+
+void tst_Exchange::noNumber()
+{
+    const TemporaryTheme folder(
+        "ThemeName=Default\n[Gradients]\nGlow=1\nGlow\\1\\pos=nan\nGlow\\1\\color=#102030\n"
+        "Glow\\size=1\n");
+    const QTemporaryDir place;
+    const CommandRun out({"export", folder.path(), "default", "-o", place.filePath("t.json")});
+    QCOMPARE(out.exitCode, 2);
+    QCOMPARE(
+        out.errors,
+        QByteArray("hvtheme: the gradient \"Glow\" has a stop at nan, which no design token can "
+                   "say\n"));
+    QVERIFY(!QFileInfo::exists(place.filePath("t.json")));
+}
+
+void tst_Exchange::brandOfOthers_data()
+{
+    QTest::addColumn<QByteArray>("tokens");
+    QTest::addColumn<QByteArray>("brand");
+
+    const QByteArray scale = R"("50":{"$value":"#eff6ff"},"100":{"$value":"#dbeafe"},
+                                "500":{"$value":"#3b82f6"},"600":{"$value":"#2563eb"},
+                                "900":{"$value":"#1e3a8a"})";
+    QTest::newRow("scale") << R"("primary":{)" + scale + "}" << QByteArray("primary_500, #3B82F6");
+    QTest::newRow("scale-beside-another") << R"("accent":{"500":{"$value":"#ff0000"}},"primary":{)"
+            + scale + "}" << QByteArray("primary_500, #3B82F6");
+    QTest::newRow("scale-of-ten") << QByteArray(
+        R"("primary":{"1":{"$value":"#eff6ff"},"6":{"$value":"#2563eb"},
+                                    "10":{"$value":"#14213d"}})")
+                                  << QByteArray("primary_6, #2563EB");
+    QTest::newRow("scale-without-a-name")
+        << R"("blue":{)" + scale + R"(},"grey":{"500":{"$value":"#808080"}})"
+        << QByteArray("blue_500, #3B82F6");
+    QTest::newRow("called-so") << QByteArray(
+        R"("brand":{"accent":{"$value":"#00ff00"},"primary":{"$value":"#8a3324"}})")
+                               << QByteArray("brand_primary, #8A3324");
+    QTest::newRow("called-so-beside-its-states")
+        << QByteArray(R"("primary":{"$value":"#8a3324"},"primary-hover":{"$value":"#ff0000"})")
+        << QByteArray("primary, #8A3324");
+    QTest::newRow("text-of-that-rank") << QByteArray(R"("fill":{"primary":{"$value":"#8a3324"}},
+                         "text":{"primary":{"$value":"#101014"}})")
+                                       << QByteArray("fill_primary, #8A3324");
+    QTest::newRow("translucent-brand")
+        << QByteArray(R"("brand":{"$value":"#ff000080"},"x":{"$value":"#8a3324"})")
+        << QByteArray("x, #8A3324");
+}
+
+void tst_Exchange::brandOfOthers()
+{
+    QFETCH(QByteArray, tokens);
+    QFETCH(QByteArray, brand);
+    const QTemporaryDir place;
+    const CommandRun run({"import", written(place, "t.json", R"({"$type":"color",)" + tokens + '}'),
+                          place.filePath("made")});
+    QCOMPARE(run.errors, QByteArray());
+    QVERIFY2(run.output.contains("so themes are made of " + brand + '\n'), run.output.constData());
+}
+
+void tst_Exchange::oneNoteForAll_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QByteArray>("note");
+    QTest::newRow("one") << 1
+                         << QByteArray("note: the palette entry Brand_1 is made of the brand; the "
+                                       "token is left out\n");
+    QTest::newRow("three") << 3
+                           << QByteArray("note: 3 palette entries (Brand_1, Brand_2, Brand_3) are "
+                                         "made of the brand; the tokens are left out\n");
+    QTest::newRow("nine") << 9
+                          << QByteArray("note: 9 palette entries (Brand_1, Brand_2, Brand_3, ...) "
+                                        "are made of the brand; the tokens are left out\n");
+}
+
+void tst_Exchange::oneNoteForAll()
+{
+    QFETCH(int, count);
+    QFETCH(QByteArray, note);
+    QByteArray tokens;
+    for (int i = 1; i <= count; ++i)
+        tokens += ",\"Brand_" + QByteArray::number(i) + R"(":{"$value":"#3060f0"})";
+    const QTemporaryDir place;
+    const CommandRun run(
+        {"import", written(place, "t.json", R"({"palette":{"$type":"color")" + tokens + "}}"),
+         place.filePath("made")});
+    QCOMPARE(run.errors, QByteArray());
+    QVERIFY2(run.output.contains(note), run.output.constData());
+    QCOMPARE(run.output.count("left out"), 1);
+}
+
 void tst_Exchange::tokensOfOthers()
 {
     const QTemporaryDir place;
@@ -123,6 +264,14 @@ void tst_Exchange::importedFiles_data()
                           "palette":{"$type":"color","Ink":{"$value":"#101010"}},
                           "$extensions":{"hvtheme":{"name":"Default"}}})")
         << QStringList{"default.theme", "imported.theme"} << QByteArray("Ink=#101010\n");
+    QTest::newRow("name-with-a-path")
+        << QByteArray(R"({"color":{"$type":"color","Color_W100":{"$value":"#8a3324"}},
+                          "$extensions":{"hvtheme":{"name":"../x"}}})")
+        << QStringList{"default.theme", "imported.theme"} << QByteArray("ThemeName=Default\n");
+    QTest::newRow("name-with-a-place-mark")
+        << QByteArray(R"({"color":{"$type":"color","Color_W100":{"$value":"#8a3324"}},
+                          "$extensions":{"hvtheme":{"name":"a%1"}}})")
+        << QStringList{"default.theme", "imported.theme"} << QByteArray("ThemeName=Default\n");
     QTest::newRow("strange-names")
         << QByteArray("{\"palette\":{\"$type\":\"color\",\"\xe5\x93\x81\":{\"$value\":\"#101010\"},"
                       "\";x\":{\"$value\":\"#202020\"},\"a=b\":{\"$value\":\"#303030\"},"
@@ -199,6 +348,10 @@ void tst_Exchange::importRefused_data()
         groups += "{\"a\":";
     QTest::newRow("groups-in-groups") << groups + R"({"$type":"color","$value":"#123"})"
             + QByteArray(200, '}') << QByteArray("groups within groups without end");
+    QTest::newRow("translucent")
+        << QByteArray(R"({"x":{"glass":{"$type":"color","$value":"#ff000080"}}})")
+        << QByteArray(
+               "tokens.json: all colours are translucent; a theme is made of opaque colours");
     QTest::newRow("wrong-color") << QByteArray(R"({"a":{"$type":"color","$value":"bright"}})")
                                  << QByteArray("tokens.json: token a: ");
 }
@@ -243,7 +396,11 @@ void tst_Exchange::importNowhere_data()
     QTest::newRow("read-only") << QStringList{"/proc"} << QByteArray("/proc/default.theme: ");
     QTest::newRow("no-place") << QStringList{"/proc/made"}
                               << QByteArray("/proc/made: the folder cannot be made: ");
-    QTest::newRow("name") << QStringList{"OUT", "--name", "a/b"} << QByteArray("a/b");
+    QTest::newRow("name") << QStringList{"OUT", "--name", "a/b"}
+                          << QByteArray(
+                                 "--name: \"a/b\" cannot name files; take letters, digits, ");
+    QTest::newRow("name-default") << QStringList{"OUT", "--name", "Default"}
+                                  << QByteArray("--name: \"Default\" cannot name files");
 }
 
 void tst_Exchange::importNowhere()
