@@ -1067,7 +1067,7 @@ void tst_Changing::lastWindow()
     const auto endsProgram = [](QWidget *window) {
         QSignalSpy ended(qApp, &QGuiApplication::lastWindowClosed);
         QTimer::singleShot(0, window, &QWidget::close);
-        QTimer::singleShot(200, window, [] { QCoreApplication::quit(); });
+        QTimer::singleShot(200, window, [] { QCoreApplication::exit(); });
         QCoreApplication::exec(); // it is only said while there are events
         return !ended.isEmpty();
     };
