@@ -213,8 +213,12 @@ std::optional<ThemeTexts> withBrand(const ThemeTexts &theme, const QColor &brand
                                     QStringList *notes, QString *error)
 {
     Rebranding rebranding(theme, brand);
-    if (!rebranding.isBranded())
+    if (!rebranding.isBranded()) {
+        notes->append(
+            QStringLiteral("the theme stays as it is, for it has and names none of the tones of a "
+                           "brand, Brand_1 to Brand_10"));
         return theme;
+    }
     rebranding.design(notes);
     return rebranding.texts(error);
 }

@@ -797,6 +797,8 @@ void tst_ThemeMaker::namesLikeTones()
     const ThemeTexts after = branded(before, QColor("#a02020"), &notes);
     QCOMPARE(after.base, before.base);
     QCOMPARE(after.own, before.own);
+    QCOMPARE(notes.size(), 1);
+    QVERIFY2(notes.constFirst().startsWith("the theme stays as it is"), qPrintable(notes.first()));
     // Beside a brand, it is a colour as any other.
     const ThemeTexts both{"[Palettes]\nBrand_6=#2D63F0\n" + entry + "=#2D63F0\n", before.own};
     const ThemeText own(branded(both, QColor("#a02020"), &notes).own);
