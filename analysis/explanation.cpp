@@ -75,12 +75,12 @@ QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &
     return steps;
 }
 
-Explanation::Explanation(const ThemeProject &input, const ThemeStack &theme, const QString &key)
-    : m_input(input)
+Explanation::Explanation(const ThemeProject &project, const ThemeStack &theme, const QString &key)
+    : m_input(project)
     , m_theme(theme)
     , m_key(key)
 {
-    const auto values = storedValues(theme, input.options().applicationFolder);
+    const auto values = storedValues(theme, project.options().applicationFolder);
     for (const StoredValue &value : values) {
         if (value.key() == key)
             tellValue(value);

@@ -37,7 +37,7 @@ QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &
 class Explanation
 {
 public:
-    Explanation(const ThemeProject &input, const ThemeStack &theme, const QString &key);
+    Explanation(const ThemeProject &project, const ThemeStack &theme, const QString &key);
 
     /*! \brief Tells whether the theme has a value of this key, of whatever kind. */
     bool isDefined() const { return m_isDefined; }

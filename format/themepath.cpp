@@ -25,6 +25,12 @@ QString themeSuffixIn(const QString &folder, const QString &suffix)
     return folder == builtInThemesFolder() ? defaultThemeSuffix() : suffix;
 }
 
+bool isNewThemeName(const QString &name)
+{
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
+        && !name.contains(QLatin1Char('%')) && !name.contains(QChar(0)) && name.trimmed() == name;
+}
+
 QString themeFileName(const QString &name, const QString &suffix)
 {
     return name % QLatin1Char('.') % suffix;

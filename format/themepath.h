@@ -25,6 +25,13 @@ QString builtInThemesFolder();
  *         "theme". */
 QString themeSuffixIn(const QString &folder, const QString &suffix);
 
+/*!
+ * \brief Tells whether \a name can be that of a new theme.
+ *
+ * Themes that are there may have other names: hidden files, or with a `%` that the library trips over.
+ */
+bool isNewThemeName(const QString &name);
+
 /*! \brief Returns NAME.SUFFIX, the name of a theme's file. */
 QString themeFileName(const QString &name, const QString &suffix = defaultThemeSuffix());
 

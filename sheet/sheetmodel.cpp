@@ -28,11 +28,11 @@ QStringList keysInFileOrder(const QVector<StoredValue> &values, const ThemeStack
     return keys;
 }
 
-QSet<QString> textKeys(const ThemeProject &input)
+QSet<QString> textKeys(const ThemeProject &project)
 {
     QSet<QString> keys;
-    for (const TemplateToken &token : input.tokens()) {
-        const StyleRule *rule = input.styleRules().ruleAt(token.offset);
+    for (const TemplateToken &token : project.tokens()) {
+        const StyleRule *rule = project.styleRules().ruleAt(token.offset);
         const StyleDeclaration *declaration = rule ? rule->declarationAt(token.offset) : nullptr;
         if (token.kind == Kind::Color && declaration
             && (declaration->property == QLatin1String("color")
@@ -62,12 +62,12 @@ QString SheetContrast::text() const
     return grade.isEmpty() ? figure : figure % QLatin1Char(' ') % grade;
 }
 
-SheetModel::SheetModel(const ThemeProject &input, const QStringList &names,
+SheetModel::SheetModel(const ThemeProject &project, const QStringList &names,
                        const QString &groundKey)
-    : m_textKeys(textKeys(input))
+    : m_textKeys(textKeys(project))
 {
     for (const QString &name : names)
-        addTheme(input.theme(name), input.options().applicationFolder, groundKey);
+        addTheme(project.theme(name), project.options().applicationFolder, groundKey);
 }
 
 void SheetModel::addTheme(const ThemeStack &stack, const QString &applicationFolder,

@@ -49,7 +49,7 @@ public:
      *
      * \param groundKey  the colour key or palette entry to show colours on.
      */
-    SheetModel(const ThemeProject &input, const QStringList &names, const QString &groundKey);
+    SheetModel(const ThemeProject &project, const QStringList &names, const QString &groundKey);
 
     const QVector<SheetTheme> &themes() const { return m_themes; }
 

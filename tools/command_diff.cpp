@@ -23,11 +23,11 @@ struct Pair {
 // By kind and key; the kinds keep their order.
 using Pairs = QMap<QPair<int, QString>, Pair>;
 
-Pairs pairsOf(const ThemeProject &input, const ThemeStack &first, const ThemeStack &second)
+Pairs pairsOf(const ThemeProject &project, const ThemeStack &first, const ThemeStack &second)
 {
     Pairs pairs;
-    const auto firstValues = storedValues(first, input.options().applicationFolder);
-    const auto secondValues = storedValues(second, input.options().applicationFolder);
+    const auto firstValues = storedValues(first, project.options().applicationFolder);
+    const auto secondValues = storedValues(second, project.options().applicationFolder);
     for (const StoredValue &value : firstValues)
         pairs[{int(value.kind()), value.key()}].first = value;
     for (const StoredValue &value : secondValues)
@@ -90,12 +90,12 @@ int runDiff(const QStringList &arguments)
     parser.addPositionalArgument(QStringLiteral("THEME_B"), QStringLiteral("Another one."));
     if (const std::optional<int> code = parseArguments(parser, name, arguments))
         return *code;
-    const auto input = ThemeOptions::readProject(name, parser, {2, 2});
-    if (!input)
+    const auto project = ThemeOptions::readProject(name, parser, {2, 2});
+    if (!project)
         return ExitUnusable;
 
     const QStringList names = parser.positionalArguments().mid(1);
-    const Pairs pairs = pairsOf(*input, input->theme(names.at(0)), input->theme(names.at(1)));
+    const Pairs pairs = pairsOf(*project, project->theme(names.at(0)), project->theme(names.at(1)));
     TextTable table({QStringLiteral("KIND"), QStringLiteral("KEY"), QStringLiteral("DISTANCE"),
                      names.at(0), names.at(1)});
     int differing = 0;

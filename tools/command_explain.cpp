@@ -79,16 +79,16 @@ int runExplain(const QStringList &arguments)
     const QStringList positional = parser.positionalArguments();
     if (positional.size() == 2)
         return usageError(name, QStringLiteral("KEY is missing"));
-    const auto input = ThemeOptions::readProject(name, parser, {1, 1}, 1);
-    if (!input)
+    const auto project = ThemeOptions::readProject(name, parser, {1, 1}, 1);
+    if (!project)
         return ExitUnusable;
 
-    const ThemeStack &theme = input->theme(positional.at(1));
+    const ThemeStack &theme = project->theme(positional.at(1));
     const QString asked = positional.at(2);
-    const Explanation explanation(*input, theme, asked);
+    const Explanation explanation(*project, theme, asked);
     if (!explanation.isDefined() && colorOf(asked).isValid())
-        return explainColor(*input, theme, asked);
-    if (!explanation.isDefined() && isMeantAsSelector(*input, asked))
-        return explainSelector(*input, theme, asked);
+        return explainColor(*project, theme, asked);
+    if (!explanation.isDefined() && isMeantAsSelector(*project, asked))
+        return explainSelector(*project, theme, asked);
     return write(explanation.steps(), explanation.isDefined());
 }

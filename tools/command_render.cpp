@@ -15,10 +15,10 @@ namespace
 {
 
 // An application logs it for every token; once for every image will do.
-void reportMissingImages(const ThemeProject &input, const QVariantMap &values)
+void reportMissingImages(const ThemeProject &project, const QVariantMap &values)
 {
     QStringList keys;
-    for (const TemplateToken &token : input.templates().tokens()) {
+    for (const TemplateToken &token : project.templates().tokens()) {
         if (token.kind == Kind::ImageFile && values.contains(token.key))
             keys << token.key;
     }
@@ -32,9 +32,9 @@ void reportMissingImages(const ThemeProject &input, const QVariantMap &values)
 }
 
 // Once: as a rule it is the application's folder, with which every path begins.
-void reportUnreadablePath(const ThemeProject &input, const QVariantMap &values)
+void reportUnreadablePath(const ThemeProject &project, const QVariantMap &values)
 {
-    for (const TemplateToken &token : input.tokens()) {
+    for (const TemplateToken &token : project.tokens()) {
         const QString path = values.value(token.key).toString();
         const int fault = token.kind == Kind::ImageFile ? urlPathFault(path) : -1;
         if (fault < 0)
@@ -47,23 +47,23 @@ void reportUnreadablePath(const ThemeProject &input, const QVariantMap &values)
     }
 }
 
-int render(const ThemeProject &input, const ThemeStack &theme, const QString &output)
+int render(const ThemeProject &project, const ThemeStack &theme, const QString &output)
 {
-    const FinishedStyleSheet &finished = input.finished(theme);
+    const FinishedStyleSheet &finished = project.finished(theme);
     if (!finished.endlessKey.isNull()) {
         printError(theme.name() % QLatin1String(": the value of ") % finished.endlessKey
                    % QLatin1String(" leads back to its own token, so the style sheet would never "
                                    "be done; nothing is written"));
         return ExitFindings;
     }
-    const QVariantMap values = theme.values(input.options().applicationFolder);
-    reportMissingImages(input, values);
-    reportUnreadablePath(input, values);
+    const QVariantMap values = theme.values(project.options().applicationFolder);
+    reportMissingImages(project, values);
+    reportUnreadablePath(project, values);
 
     if (output == QLatin1String("-"))
         return writeStandardOutput(finished.text) ? ExitDone : ExitUnusable;
     QString error;
-    if (writeFile(output, finished.text.toUtf8(), ThemeOptions::files(input), &error))
+    if (writeFile(output, finished.text.toUtf8(), ThemeOptions::files(project), &error))
         return ExitDone;
     printError(error);
     return ExitUnusable;
@@ -92,9 +92,9 @@ int runRender(const QStringList &arguments)
         return *code;
     if (parser.value(outputOption).isEmpty())
         return usageError(name, QStringLiteral("--output needs the name of a file"));
-    const auto input = ThemeOptions::readProject(name, parser, {1, 1});
-    if (!input)
+    const auto project = ThemeOptions::readProject(name, parser, {1, 1});
+    if (!project)
         return ExitUnusable;
-    return render(*input, input->theme(parser.positionalArguments().at(1)),
+    return render(*project, project->theme(parser.positionalArguments().at(1)),
                   parser.value(outputOption));
 }

@@ -90,15 +90,15 @@ int runSheet(const QStringList &arguments)
         return usageError(name,
                           QLatin1String("no vision is called \"") % parser.value(visionOption())
                               % QLatin1String("\"; there are normal, protan, deutan and tritan"));
-    const auto input =
+    const auto project =
         ThemeOptions::readProject(name, parser, {1, std::numeric_limits<int>::max()});
-    if (!input)
+    if (!project)
         return ExitUnusable;
 
     QStringList themes = parser.positionalArguments().mid(1);
     themes.removeDuplicates();
     const QString background = parser.value(backgroundOption());
-    SheetModel model(*input, themes, background);
+    SheetModel model(*project, themes, background);
     model.setVision(*vision);
     if (parser.isSet(backgroundOption()) && !model.hasGround())
         return usageError(name,
@@ -109,7 +109,7 @@ int runSheet(const QStringList &arguments)
     reportLargeImages(model);
     QString error;
     const QByteArray content = isPage ? sheetPage(model) : sheetPicture(model, &error);
-    if (!content.isEmpty() && writeFile(file, content, ThemeOptions::files(*input), &error))
+    if (!content.isEmpty() && writeFile(file, content, ThemeOptions::files(*project), &error))
         return ExitDone;
     printError(error);
     return ExitUnusable;

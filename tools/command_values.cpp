@@ -130,12 +130,12 @@ int runValues(const QStringList &arguments)
         return usageError(name,
                           QLatin1String("no format is called \"") % format
                               % QLatin1String("\"; there are table, json and csv"));
-    const auto input = ThemeOptions::readProject(name, parser, {1, 1});
-    if (!input)
+    const auto project = ThemeOptions::readProject(name, parser, {1, 1});
+    if (!project)
         return ExitUnusable;
 
-    const ThemeStack &theme = input->theme(parser.positionalArguments().at(1));
-    const auto values = storedValues(theme, input->options().applicationFolder);
+    const ThemeStack &theme = project->theme(parser.positionalArguments().at(1));
+    const auto values = storedValues(theme, project->options().applicationFolder);
     const QString text = format == QLatin1String("json") ? asJson(theme, values)
         : format == QLatin1String("csv")                 ? asCsv(values)
                                                          : asTable(values);

@@ -125,12 +125,6 @@ QVector<ThemeChange> added(const ValuesByKey &before, const QVector<ThemeChange>
     return added;
 }
 
-bool isName(const QString &name)
-{
-    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
-        && !name.contains(QLatin1Char('%')) && !name.contains(QChar(0)) && name.trimmed() == name;
-}
-
 } // namespace
 
 ThemeEditor::ThemeEditor()
@@ -333,7 +327,7 @@ std::optional<QByteArray> ThemeEditor::newContent(const QString &file, QString *
 bool ThemeEditor::saveAs(const NewTheme &to, const QStringList &files, QString *error) const
 {
     const QString defaultName = defaultThemeName();
-    if (!isName(to.name) || to.name.compare(defaultName, Qt::CaseInsensitive) == 0)
+    if (!isNewThemeName(to.name) || to.name.compare(defaultName, Qt::CaseInsensitive) == 0)
         return fail(QStringLiteral("\"%1\" cannot be the name of a new theme").arg(to.name), error);
     const auto base = newContent(files.value(0), error);
     if (!base)

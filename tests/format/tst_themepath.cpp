@@ -11,6 +11,8 @@ class tst_ThemePath : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void names_data();
+    void names();
     void listing();
     void templates();
     void opened_data();
@@ -30,6 +32,28 @@ void write(const QString &path, const QByteArray &content)
 }
 
 } // namespace
+
+void tst_ThemePath::names_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isName");
+
+    QTest::newRow("word") << "night" << true;
+    QTest::newRow("words-of-any-language") << QString::fromUtf8("Nacht \u00fc.2") << true;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("hidden") << ".night" << false;
+    QTest::newRow("path") << "a/night" << false;
+    QTest::newRow("placeholder") << "night%1" << false;
+    QTest::newRow("null") << QString("a") + QChar(0) << false;
+    QTest::newRow("space-in-front") << " night" << false;
+    QTest::newRow("space-behind") << "night " << false;
+}
+
+void tst_ThemePath::names()
+{
+    QFETCH(QString, name);
+    QTEST(isNewThemeName(name), "isName");
+}
 
 void tst_ThemePath::listing()
 {
