@@ -14,8 +14,10 @@
 #include <QApplication>
 #include <QLoggingCategory>
 #include <QPointer>
+#include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 namespace HV
 {
@@ -66,10 +68,11 @@ ThemeFolder ApplicationTheme::Private::folderWith(const QString &otherSuffix) co
     return folder.isNull() ? ThemeFolder::usual(otherSuffix) : ThemeFolder(folder, otherSuffix);
 }
 
-QString ApplicationTheme::Private::fitting(const ThemeFolder &themes) const
+QString ApplicationTheme::Private::fitting(const ThemeFolder &themes,
+                                           const DesktopSettings &settings)
 {
-    return themeForDesktop(themes.path(), themes.suffix(), themes.names(), desktop->colorScheme(),
-                           desktop->contrast());
+    return themeForDesktop(themes.path(), themes.suffix(), themes.names(), settings.colorScheme(),
+                           settings.contrast());
 }
 
 void ApplicationTheme::Private::watch()
@@ -94,7 +97,7 @@ void ApplicationTheme::Private::lift()
 void ApplicationTheme::Private::reload()
 {
     if (lookInForce().owner == q)
-        apply(nameFolder, name);
+        apply(comingFolder(), comingName(), accent);
 }
 
 // Returns false for a problem, so that it ends what failed. Whoever is told may delete the object.
@@ -110,99 +113,190 @@ bool ApplicationTheme::Private::report(const QString &newProblem)
     return isNone;
 }
 
-bool ApplicationTheme::Private::apply(const ThemeFolder &themes, const QString &newName)
+// Empty if nothing keeps the look from coming into force.
+QString ApplicationTheme::Private::faultOf(const ThemeFolder &themes, const QString &newName) const
 {
     if (!guiApplication())
-        return report(tr("There is no application to give a look to; make a QApplication first."));
-    for (const QString &fault : {themes.problemOf(newName), templates.problem()}) {
-        if (!fault.isEmpty())
-            return report(fault);
-    }
-    if (lookInForce().isChanging || isPainting()) {
-        applyLater(themes, newName);
-        return true;
-    }
+        return tr("There is no application to give a look to; make a QApplication first.");
+    const QString fault = themes.problemOf(newName);
+    return fault.isEmpty() ? templates.problem() : fault;
+}
 
+// Returns what keeps the theme from being read; the theme is then what it was.
+QString ApplicationTheme::Private::read(const ThemeFolder &themes, const QString &newName,
+                                        const QColor &newAccent)
+{
     QString fault;
-    const auto derived = readTheme(*theme, themes, newName, accent, unsavedTexts, &fault);
+    const auto derived = readTheme(*theme, themes, newName, newAccent, unsavedTexts, &fault);
     if (!derived)
-        return report(fault);
+        return fault;
+    const QString file = themes.file(newName);
     const QString lacks = derived->isEmpty()
         ? QString()
         : QStringLiteral("The theme \"%1\" lacks %2 of the colours that a look is made of (%3); "
                          "they are derived from those that it has.")
-              .arg(themes.file(newName), QString::number(derived->size()), firstOf(*derived));
-    if (!lacks.isEmpty() && derivedColors.value(themes.file(newName)) != lacks)
+              .arg(file, QString::number(derived->size()), firstOf(*derived));
+    if (!lacks.isEmpty() && derivedColors.value(file) != lacks)
         qCWarning(lcApp, "%ls", qUtf16Printable(lacks));
-    derivedColors.insert(themes.file(newName), lacks);
+    derivedColors.insert(file, lacks);
+    return {};
+}
 
-    const bool isOther = newName != name;
-    name = newName;
-    nameFolder = themes;
-    laterFolder.reset(); // what waits is older than this
+// Nothing changes before it is sure that the look comes, and everything before anybody is told.
+bool ApplicationTheme::Private::apply(const ThemeFolder &themes, const QString &newName,
+                                      const QColor &newAccent, const Settle &settle)
+{
+    const bool mustWait = lookInForce().isChanging || isPainting();
+    QString fault = faultOf(themes, newName);
+    if (fault.isEmpty() && !mustWait)
+        fault = read(themes, newName, newAccent);
+    if (!fault.isEmpty())
+        return report(fault);
+
+    const bool isOtherAccent = accent != newAccent;
+    accent = newAccent;
+    if (settle)
+        settle();
     const QPointer<ApplicationTheme> guard(q);
-    report(QString());
-    if (guard)
-        q->restyleAgain();
-    if (guard && isOther)
-        Q_EMIT q->nameChanged();
+    if (mustWait)
+        applyLater(themes, newName);
+    else
+        show(themes, newName);
+    if (guard && isOtherAccent)
+        Q_EMIT q->accentChanged();
     return true;
 }
 
-// The accent stays what it was if the look does not come into force.
-bool ApplicationTheme::Private::applyWithAccent(const QColor &newAccent, const ThemeFolder &themes,
-                                                const QString &newName)
+// Gives the application the theme that was read.
+void ApplicationTheme::Private::show(const ThemeFolder &themes, const QString &newName)
 {
-    const QColor former = std::exchange(accent, newAccent);
+    lookInForce().waiting = {}; // it is older than this
+    const bool isOther = newName != name;
+    name = newName;
+    nameFolder = themes;
+    const bool hadProblem = !problem.isEmpty();
+    problem.clear();
     const QPointer<ApplicationTheme> guard(q);
-    const bool isApplied = newName.isNull() || apply(themes, newName);
-    if (!guard)
-        return isApplied;
-    if (!isApplied && accent == newAccent)
-        accent = former;
-    if (accent != former)
-        Q_EMIT q->accentChanged();
-    return isApplied;
+    q->restyleAgain();
+    if (guard && hadProblem)
+        Q_EMIT q->problemChanged();
+    if (guard && isOther)
+        Q_EMIT q->nameChanged();
 }
 
-// A look in force goes over to the theme of its name, or to the one that fits the desktop; without one
-// it stays.
-bool ApplicationTheme::Private::applySameName(const ThemeFolder &themes)
+// A look in force, or one that waits, goes over to the theme of its name, or to the one that fits the
+// desktop; without one it stays.
+bool ApplicationTheme::Private::applySameName(const ThemeFolder &themes, const Settle &settle)
 {
     const QString problemOfFolder = themes.problem();
     if (!problemOfFolder.isEmpty())
         return report(problemOfFolder);
-    if (name.isNull())
-        return true;
-    const QString sameName = desktop ? fitting(themes) : name;
-    return !themes.names().contains(sameName) || apply(themes, sameName);
+    QString sameName = comingName();
+    if (!sameName.isNull() && desktop)
+        sameName = fitting(themes, *desktop);
+    if (themes.names().contains(sameName))
+        return apply(themes, sameName, accent, settle);
+    settle();
+    return report(QString());
 }
 
 // A change of the accent alone leaves a look that does not follow it as it is.
-bool ApplicationTheme::Private::applyDesktop()
+bool ApplicationTheme::Private::applyDesktop(const DesktopSettings &settings,
+                                             const QColor &nextOwnAccent, const Settle &settle)
 {
     const ThemeFolder next = nextFolder();
-    const QString fittingName = fitting(next);
-    const QColor nextAccent = followsAccent ? desktop->accentColor() : ownAccent;
-    const bool isInForce = lookInForce().owner == q && fittingName == name && next == nameFolder
-        && nextAccent == accent;
-    return isInForce ? report(QString()) : applyWithAccent(nextAccent, next, fittingName);
+    const QString fittingName = fitting(next, settings);
+    const QColor nextAccent = followsAccent ? settings.accentColor() : nextOwnAccent;
+    const bool isLast = !lookInForce().waiting.theme || isWaiting();
+    const bool isInForce = lookInForce().owner == q && isLast && fittingName == comingName()
+        && next == comingFolder() && nextAccent == accent;
+    if (!isInForce)
+        return apply(next, fittingName, nextAccent, settle);
+    if (settle)
+        settle();
+    return report(QString());
 }
 
 // Neither a painter nor a polish may lose the rules that it is at work with.
 void ApplicationTheme::Private::applyLater(const ThemeFolder &themes, const QString &newName)
 {
-    const bool isPending = laterFolder.has_value();
-    laterFolder = themes;
-    laterName = newName;
-    if (isPending)
+    lookInForce().waiting = {q, themes, newName};
+    if (!lookInForce().isChanging) // the end of the change does it else
+        applyWaitingSoon();
+}
+
+void ApplicationTheme::Private::applyWaitingSoon()
+{
+    QMetaObject::invokeMethod(qApp, &applyWaiting, Qt::QueuedConnection);
+}
+
+void ApplicationTheme::Private::applyWaiting()
+{
+    if (!lookInForce().waiting.theme || lookInForce().isChanging)
         return;
-    const auto applyPending = [this] {
-        const std::optional<ThemeFolder> pending = std::exchange(laterFolder, std::nullopt);
-        if (pending)
-            apply(*pending, laterName);
+    if (isPainting()) { // with an event loop in it, of whose end nobody is told
+        constexpr int soon = 50; // ms
+        QTimer::singleShot(soon, qApp, &applyWaiting);
+        return;
+    }
+    const LookInForce::Waiting pending = std::exchange(lookInForce().waiting, {});
+    pending.theme->d->apply(pending.folder, pending.name, pending.theme->d->accent);
+}
+
+// The user's choice: a theme, and an accent.
+bool ApplicationTheme::Private::choose(const QString &newName, const QColor &nextOwnAccent)
+{
+    const bool wasFollowing = desktop != nullptr;
+    const QPointer<ApplicationTheme> guard(q);
+    const auto settle = [&] {
+        ownAccent = nextOwnAccent;
+        forgetDesktop();
     };
-    QMetaObject::invokeMethod(q, applyPending, Qt::QueuedConnection);
+    if (!apply(nextFolder(), newName, nextOwnAccent, settle))
+        return false;
+    if (guard && wasFollowing && !desktop)
+        Q_EMIT q->followsDesktopChanged();
+    return true;
+}
+
+bool ApplicationTheme::Private::follow(const QColor &nextOwnAccent, Failing failing)
+{
+    if (!guiApplication())
+        return apply(ThemeFolder(), QString(), accent);
+    const bool isNew = !desktop;
+    auto made = isNew ? std::make_unique<DesktopSettings>(startPalette()) : nullptr;
+    const DesktopSettings &settings = isNew ? *made : *desktop;
+    const auto settle = [&] {
+        ownAccent = nextOwnAccent;
+        if (made)
+            begin(std::move(made));
+    };
+    if (failing == Failing::Follows)
+        settle();
+    const QPointer<ApplicationTheme> guard(q);
+    const bool isApplied = applyDesktop(settings, nextOwnAccent, settle);
+    if (guard && isNew && !made)
+        Q_EMIT q->followsDesktopChanged();
+    return isApplied;
+}
+
+void ApplicationTheme::Private::begin(std::unique_ptr<DesktopSettings> settings)
+{
+    desktop = std::move(settings);
+    connect(desktop.get(), &DesktopSettings::changed, q, [this] {
+        const ApplicationTheme *owner = lookInForce().owner;
+        if (owner == q || (!owner && name.isNull()))
+            applyDesktop(*desktop, ownAccent);
+    });
+}
+
+// Not deleted at once: its signal may be what led here.
+void ApplicationTheme::Private::forgetDesktop()
+{
+    if (!desktop)
+        return;
+    desktop->disconnect(q);
+    desktop.release()->deleteLater();
 }
 
 void ApplicationTheme::restyleAgain()
@@ -233,6 +327,8 @@ void ApplicationTheme::restyleAgain()
     const QPointer<ApplicationTheme> guard(this);
     setProgramLook(palette, QVariantMap(d->theme->values()), styleSheet);
     lookInForce().isChanging = false;
+    if (lookInForce().waiting.theme)
+        Private::applyWaitingSoon();
     if (guard)
         Q_EMIT changed();
 }

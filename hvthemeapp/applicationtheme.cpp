@@ -72,12 +72,8 @@ bool ApplicationTheme::setFolder(const QString &folder)
     const ThemeFolder themes =
         path.isNull() ? ThemeFolder::usual(d->suffix) : ThemeFolder(path, d->suffix);
     const QPointer<ApplicationTheme> guard(this);
-    if (!d->applySameName(themes))
+    if (!d->applySameName(themes, [&] { d->folder = path; }))
         return false;
-    if (!guard)
-        return true;
-    d->folder = path;
-    d->report(QString());
     if (guard)
         Q_EMIT folderChanged();
     return true;
@@ -94,12 +90,8 @@ bool ApplicationTheme::setSuffix(const QString &suffix)
     if (next == d->suffix)
         return true;
     const QPointer<ApplicationTheme> guard(this);
-    if (!d->applySameName(d->folderWith(next)))
+    if (!d->applySameName(d->folderWith(next), [&] { d->suffix = next; }))
         return false;
-    if (!guard)
-        return true;
-    d->suffix = next;
-    d->report(QString());
     if (guard)
         Q_EMIT suffixChanged();
     if (guard)
@@ -124,32 +116,12 @@ QString ApplicationTheme::name() const
 
 bool ApplicationTheme::setName(const QString &name)
 {
-    const QPointer<ApplicationTheme> guard(this);
-    if (!d->applyWithAccent(d->ownAccent, d->nextFolder(), name))
-        return false;
-    if (guard)
-        setFollowsDesktop(false);
-    return true;
+    return d->choose(name, d->ownAccent);
 }
 
 bool ApplicationTheme::followDesktop()
 {
-    if (!guiApplication())
-        return d->apply(ThemeFolder(), QString());
-    const bool isNew = !d->desktop;
-    if (isNew) {
-        d->desktop = std::make_unique<DesktopSettings>(startPalette());
-        connect(d->desktop.get(), &DesktopSettings::changed, this, [this] {
-            const ApplicationTheme *owner = lookInForce().owner;
-            if (owner == this || (!owner && d->name.isNull()))
-                d->applyDesktop();
-        });
-    }
-    const QPointer<ApplicationTheme> guard(this);
-    const bool isApplied = d->applyDesktop();
-    if (guard && isNew)
-        Q_EMIT followsDesktopChanged();
-    return isApplied;
+    return d->follow(d->ownAccent, Private::Failing::Follows);
 }
 
 bool ApplicationTheme::followsDesktop() const
@@ -165,9 +137,7 @@ void ApplicationTheme::setFollowsDesktop(bool follows)
         followDesktop();
         return;
     }
-    // Not deleted at once: its signal may be what led here.
-    d->desktop->disconnect(this);
-    d->desktop.release()->deleteLater();
+    d->forgetDesktop();
     Q_EMIT followsDesktopChanged();
 }
 
@@ -179,13 +149,16 @@ QColor ApplicationTheme::accent() const
 bool ApplicationTheme::setAccent(const QColor &accent)
 {
     const QColor opaque = accent.isValid() ? QColor(accent.rgb()) : QColor();
-    const QColor former = std::exchange(d->ownAccent, opaque);
-    const QPointer<ApplicationTheme> guard(this);
-    const bool isApplied =
-        opaque == d->accent || d->applyWithAccent(opaque, d->comingFolder(), d->comingName());
-    if (guard && !isApplied)
-        d->ownAccent = former;
-    return isApplied;
+    const auto settle = [&] { d->ownAccent = opaque; };
+    const bool isOfDesktop = d->desktop && d->followsAccent;
+    if (!isOfDesktop && opaque != d->accent && !d->comingName().isNull())
+        return d->apply(d->comingFolder(), d->comingName(), opaque, settle);
+    settle();
+    if (!isOfDesktop && opaque != d->accent) {
+        d->accent = opaque;
+        Q_EMIT accentChanged();
+    }
+    return true;
 }
 
 void ApplicationTheme::resetAccent()
@@ -201,7 +174,7 @@ bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
     if (byPath == d->unsavedTexts)
         return true;
     d->unsavedTexts = byPath;
-    return d->name.isNull() || d->apply(d->comingFolder(), d->comingName());
+    return d->name.isNull() || d->apply(d->comingFolder(), d->comingName(), d->accent);
 }
 
 QHash<QString, QByteArray> ApplicationTheme::unsavedTexts() const
@@ -221,9 +194,9 @@ void ApplicationTheme::setFollowsAccent(bool follows)
     d->followsAccent = follows;
     const QPointer<ApplicationTheme> guard(this);
     if (d->desktop && follows)
-        d->applyDesktop();
+        d->applyDesktop(*d->desktop, d->ownAccent);
     else if (!follows && d->accent != d->ownAccent)
-        d->applyWithAccent(d->ownAccent, d->comingFolder(), d->comingName());
+        d->apply(d->comingFolder(), d->comingName(), d->ownAccent);
     if (guard)
         Q_EMIT followsAccentChanged();
 }
@@ -336,12 +309,9 @@ bool ApplicationTheme::restore(const QSettings &settings)
     const QString name = settings.value(themeKey).toString();
     if (!isFollowing && name.isEmpty())
         return false;
-    const QColor former = std::exchange(d->ownAccent, QColor(settings.value(accentKey).toString()));
-    const QPointer<ApplicationTheme> guard(this);
-    const bool isApplied = isFollowing ? followDesktop() : setName(name);
-    if (guard && !isApplied)
-        d->ownAccent = former;
-    return isApplied;
+    const QColor accent(settings.value(accentKey).toString());
+    return isFollowing ? d->follow(accent, Private::Failing::ChangesNothing)
+                       : d->choose(name, accent);
 }
 
 } // namespace HV

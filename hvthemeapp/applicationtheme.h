@@ -158,8 +158,8 @@ public:
      * colours. Images of the theme's own stay as they are.
      *
      * \param accent  its opacity does not count; an invalid colour gives themes their own brand back.
-     * \return whether the application has it now; true before the first look. If not, the accent stays
-     *         what it was.
+     * \return whether the application has it now, or, while the desktop's is the accent, will have it
+     *         afterwards; true before the first look. If not, the accent stays what it was.
      */
     bool setAccent(const QColor &accent);
     void resetAccent();
@@ -272,7 +272,7 @@ public:
      *         itself, and with what complete() now adds. Does nothing before the first look. */
     void restyleAgain();
 
-Q_SIGNALS:
+Q_SIGNALS: // once everything that changes has changed
     void nameChanged();
     /*! \brief The folder is another, or its themes are for the suffix(). */
     void folderChanged();

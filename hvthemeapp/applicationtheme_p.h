@@ -19,7 +19,9 @@
 #include <QColor>
 #include <QHash>
 #include <QPalette>
+#include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -33,6 +35,14 @@ struct LookInForce {
     ApplicationTheme *owner = nullptr;
     StyleSheetParts styleSheet;
     bool isChanging = false; // widget by widget
+
+    // What was asked for last while that, or a paint, was under way; by none if nothing was.
+    struct Waiting {
+        QPointer<ApplicationTheme> theme;
+        ThemeFolder folder;
+        QString name;
+    };
+    Waiting waiting;
 };
 
 LookInForce &lookInForce();
@@ -51,12 +61,27 @@ public:
     }
 
     bool report(const QString &problem);
-    bool apply(const ThemeFolder &themes, const QString &newName);
-    bool applyWithAccent(const QColor &newAccent, const ThemeFolder &themes,
-                         const QString &newName);
-    bool applySameName(const ThemeFolder &themes);
-    bool applyDesktop();
+    // Called once it is sure that a look comes, before anybody is told.
+    using Settle = std::function<void()>;
+    bool apply(const ThemeFolder &themes, const QString &newName, const QColor &newAccent,
+               const Settle &settle = {});
+    bool applySameName(const ThemeFolder &themes, const Settle &settle);
+    bool applyDesktop(const DesktopSettings &settings, const QColor &nextOwnAccent,
+                      const Settle &settle = {});
     void applyLater(const ThemeFolder &themes, const QString &newName);
+    static void applyWaiting();
+    static void applyWaitingSoon();
+    QString faultOf(const ThemeFolder &themes, const QString &newName) const;
+    QString read(const ThemeFolder &themes, const QString &newName, const QColor &newAccent);
+    void show(const ThemeFolder &themes, const QString &newName);
+    bool choose(const QString &newName, const QColor &nextOwnAccent);
+    enum class Failing {
+        Follows,
+        ChangesNothing
+    };
+    bool follow(const QColor &nextOwnAccent, Failing failing);
+    void begin(std::unique_ptr<DesktopSettings> settings);
+    void forgetDesktop();
     void reload();
     void watch();
     void lift();
@@ -64,10 +89,14 @@ public:
     ThemeFolder nextFolder() const { return folderWith(suffix); }
     ThemeFolder folderWith(const QString &otherSuffix) const;
     // The look in force, or the one that waits to be.
-    ThemeFolder comingFolder() const { return laterFolder.value_or(nameFolder); }
-    QString comingName() const { return laterFolder ? laterName : name; }
+    ThemeFolder comingFolder() const
+    {
+        return isWaiting() ? lookInForce().waiting.folder : nameFolder;
+    }
+    QString comingName() const { return isWaiting() ? lookInForce().waiting.name : name; }
+    bool isWaiting() const { return lookInForce().waiting.theme == q; }
     QStringList files() const;
-    QString fitting(const ThemeFolder &themes) const;
+    static QString fitting(const ThemeFolder &themes, const DesktopSettings &settings);
 
     ApplicationTheme *const q;
     const std::unique_ptr<Theme> theme;
@@ -89,8 +118,6 @@ public:
     QHash<QString, QString> derivedColors; // told by file, so that each is told once
     std::unique_ptr<DesktopSettings> desktop; // while it is followed
     std::unique_ptr<ThemeWatcher> watcher; // while files are
-    std::optional<ThemeFolder> laterFolder; // of a look that waits
-    QString laterName;
 };
 
 } // namespace HV

@@ -8,7 +8,9 @@
 #include <hvtheme/theme.h>
 #include <hvthemeapp/applicationtheme.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QEventLoop>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
@@ -17,6 +19,7 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QtTest>
 
 #include <functional>
@@ -58,6 +61,7 @@ class tst_LookChanges : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void init();
     void waiting_data();
     void waiting();
@@ -73,6 +77,17 @@ private Q_SLOTS:
     void accentThatCannotBe();
     void accentsOfUserAndLook();
     void restoredTheme();
+    void settledBeforeAnybodyIsTold_data();
+    void settledBeforeAnybodyIsTold();
+    void lastRequest_data();
+    void lastRequest();
+    void lastRequestOfTwoThemes();
+    void folderBeforeTheFirstLook();
+    void failingRestore_data();
+    void failingRestore();
+    void accentBesideTheDesktops();
+    void idleWhileSomethingWaits_data();
+    void idleWhileSomethingWaits();
     void additions_data();
     void additions();
     void additionsAndAnotherTheme();
@@ -82,8 +97,19 @@ private Q_SLOTS:
     void filtersOfTheProgram();
 
 private:
+    TemporaryFolder m_folder; // the themes of the library, each with a name of its own
     std::unique_ptr<ApplicationTheme> m_theme;
 };
+
+void tst_LookChanges::initTestCase()
+{
+    const ApplicationTheme theme; // the library's resources are there now
+    for (const QString name : {"default", "dark", "light", "contrast"}) {
+        QFile file(":/hvthemeapp/themes/" + name + ".theme");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        m_folder.write(name + ".theme", file.readAll().replace("ThemeName=", "ThemeName=my "));
+    }
+}
 
 void tst_LookChanges::init()
 {
@@ -310,6 +336,267 @@ void tst_LookChanges::restoredTheme()
     settings.clear();
     m_theme->save(settings);
     QCOMPARE(settings.value("Accent").toString(), QString("#ff0000"));
+}
+
+void tst_LookChanges::settledBeforeAnybodyIsTold_data()
+{
+    QTest::addColumn<Change>("before");
+    QTest::addColumn<Change>("change");
+    const auto row = [](const char *tag, const Change &before, const Change &change) {
+        QTest::newRow(tag) << before << change;
+    };
+    const Change follow = [](auto &theme) { theme.followDesktop(); };
+    const Change none = [](auto &) {};
+    const QString folder = m_folder.path();
+    const auto choose = [](const QString &name) {
+        return [name](auto &theme) { theme.setName(name); };
+    };
+    row("chosen while followed", follow, choose("contrast"));
+    row("the same while followed", follow, [](auto &theme) { theme.setName(theme.name()); });
+    row("followed", choose("contrast"), follow);
+    row("not followed", follow, [](auto &theme) { theme.setFollowsDesktop(false); });
+    row("folder", none, [folder](auto &theme) { theme.setFolder(folder); });
+    row("folder while followed", follow, [folder](auto &theme) { theme.setFolder(folder); });
+    row(
+        "first folder", [folder](auto &theme) { theme.setFolder(folder); },
+        [](auto &theme) { theme.setFolder(QString()); });
+    row("accent", none, [](auto &theme) { theme.setAccent(Qt::red); });
+    row(
+        "chosen after another accent", [](auto &theme) { theme.setFollowsAccent(true); },
+        [](auto &theme) { theme.setAccent(Qt::red); });
+    row(
+        "after a problem",
+        [](auto &theme) {
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("there is none"));
+            theme.setFolder("/there is none");
+        },
+        choose("light"));
+    row("restored", follow, [](auto &theme) {
+        const TemporaryFolder files;
+        QSettings settings(files.filePath("settings.ini"), QSettings::IniFormat);
+        settings.setValue("Theme", "contrast");
+        settings.setValue("Accent", "#ff0000");
+        theme.restore(settings);
+    });
+}
+
+// Who is told of one change and writes down the choice, or asks for something else, finds all of it.
+void tst_LookChanges::settledBeforeAnybodyIsTold()
+{
+    QFETCH(Change, before);
+    QFETCH(Change, change);
+    before(*m_theme);
+    const auto state = [this] {
+        const ApplicationTheme &theme = *m_theme;
+        const QPalette palette = QApplication::palette();
+        return QStringList{"name " + theme.name(),
+                           "folder " + theme.folder(),
+                           "shown as " + theme.displayName("dark"),
+                           QString("follows %1").arg(theme.followsDesktop()),
+                           "accent " + theme.accent().name(),
+                           "problem " + theme.problem(),
+                           "ground " + palette.color(QPalette::Window).name(),
+                           "brand " + theme.theme()->color("AccentBackgroundColor").name()};
+    };
+    QVector<QPair<QByteArray, QStringList>> told;
+    const auto record = [&](const char *signal) { told.append({signal, state()}); };
+    using A = ApplicationTheme;
+    connect(m_theme.get(), &A::changed, this, [&] { record("changed"); });
+    connect(m_theme.get(), &A::nameChanged, this, [&] { record("name"); });
+    connect(m_theme.get(), &A::folderChanged, this, [&] { record("folder"); });
+    connect(m_theme.get(), &A::followsDesktopChanged, this, [&] { record("follows"); });
+    connect(m_theme.get(), &A::accentChanged, this, [&] { record("accent"); });
+    connect(m_theme.get(), &A::problemChanged, this, [&] { record("problem"); });
+    change(*m_theme);
+    QVERIFY(!told.isEmpty());
+    for (const auto &[signal, seen] : qAsConst(told))
+        QVERIFY2(
+            seen == state(),
+            qPrintable(signal + ": " + seen.join(", ") + "\nat the end: " + state().join(", ")));
+}
+
+void tst_LookChanges::lastRequest_data()
+{
+    QTest::addColumn<Change>("before");
+    QTest::addColumn<Change>("change"); // in a paint
+    QTest::addColumn<QString>("name"); // null: that of before
+    QTest::addColumn<QString>("shownName");
+
+    const QString folder = m_folder.path();
+    const Change none = [](auto &) {};
+    const Change follow = [](auto &theme) { theme.followDesktop(); };
+    QTest::newRow("name, folder") << none << Change([folder](auto &theme) {
+        theme.setName("light");
+        theme.setFolder(folder);
+    }) << "light"
+                                  << "my Light";
+    QTest::newRow("folder, name") << none << Change([folder](auto &theme) {
+        theme.setFolder(folder);
+        theme.setName("light");
+    }) << "light"
+                                  << "my Light";
+    QTest::newRow("name, desktop") << follow << Change([](auto &theme) {
+        theme.setName("contrast");
+        theme.followDesktop();
+    }) << QString() << QString();
+    QTest::newRow("desktop, name") << none << Change([](auto &theme) {
+        theme.followDesktop();
+        theme.setName("contrast");
+    }) << "contrast" << QString();
+}
+
+void tst_LookChanges::lastRequest()
+{
+    QFETCH(Change, before);
+    QFETCH(Change, change);
+    QFETCH(QString, name);
+    QFETCH(QString, shownName);
+    before(*m_theme);
+    const QString former = m_theme->name();
+    const bool isFollowing = m_theme->followsDesktop();
+    Painting widget;
+    widget.call = [&] { change(*m_theme); };
+    widget.grab();
+    for (int again = 0; again < 3; ++again)
+        QCoreApplication::processEvents();
+    QCOMPARE(m_theme->name(), name.isNull() ? former : name);
+    QCOMPARE(m_theme->followsDesktop(), isFollowing);
+    if (!shownName.isNull())
+        QCOMPARE(m_theme->theme()->displayName(), shownName);
+}
+
+void tst_LookChanges::lastRequestOfTwoThemes()
+{
+    ApplicationTheme other;
+    Painting widget;
+    widget.call = [&] { m_theme->setName("light"); };
+    widget.grab();
+    QVERIFY(other.setName("contrast"));
+    QCoreApplication::processEvents();
+    QCOMPARE(ApplicationTheme::inForce(), &other);
+    QCOMPARE(QApplication::palette(), other.palette());
+    QCOMPARE(m_theme->name(), QString("dark"));
+}
+
+void tst_LookChanges::folderBeforeTheFirstLook()
+{
+    ApplicationTheme theme;
+    Painting widget;
+    widget.call = [&] {
+        theme.setName("light");
+        theme.setFolder(m_folder.path());
+    };
+    widget.grab();
+    QTRY_COMPARE(theme.name(), QString("light"));
+    QCOMPARE(theme.theme()->displayName(), QString("my Light"));
+}
+
+void tst_LookChanges::failingRestore_data()
+{
+    QTest::addColumn<bool>("follows");
+    QTest::addColumn<bool>("wasFollowing");
+    QTest::newRow("desktop") << true << false;
+    QTest::newRow("name") << false << false;
+    QTest::newRow("desktop while followed") << true << true;
+    QTest::newRow("name while followed") << false << true;
+}
+
+void tst_LookChanges::failingRestore()
+{
+    QFETCH(bool, follows);
+    QFETCH(bool, wasFollowing);
+    const TemporaryFolder folder;
+    folder.write("templates/a.qss", "QLabel#a {color: #010203;}");
+    QVERIFY(m_theme->addTemplates(folder.filePath("templates")));
+    QVERIFY(m_theme->setAccent(Qt::blue));
+    m_theme->setFollowsDesktop(wasFollowing);
+    const QString former = m_theme->name();
+    QVERIFY(QDir(folder.filePath("templates")).removeRecursively());
+
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    settings.setValue("Theme", "light");
+    settings.setValue("Accent", "#ff0000");
+    settings.setValue("FollowsDesktop", follows);
+    QSignalSpy changes(m_theme.get(), &ApplicationTheme::followsDesktopChanged);
+    connect(m_theme.get(), &ApplicationTheme::problemChanged, this,
+            [&] { QCOMPARE(m_theme->followsDesktop(), wasFollowing); });
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("does not exist"));
+    QVERIFY(!m_theme->restore(settings));
+    QCOMPARE(changes.size(), 0);
+    QCOMPARE(m_theme->followsDesktop(), wasFollowing);
+    QCOMPARE(m_theme->name(), former);
+    QCOMPARE(m_theme->accent(), QColor(Qt::blue));
+    m_theme->save(settings);
+    QCOMPARE(settings.value("Accent").toString(), QString("#0000ff"));
+}
+
+// The desktop's is the accent then, and here it has none.
+void tst_LookChanges::accentBesideTheDesktops()
+{
+    m_theme->setFollowsAccent(true);
+    m_theme->followDesktop();
+    const QColor former = m_theme->accent();
+    QSignalSpy changes(m_theme.get(), &ApplicationTheme::changed);
+    QSignalSpy accents(m_theme.get(), &ApplicationTheme::accentChanged);
+    QVERIFY(m_theme->setAccent(Qt::red));
+    QCOMPARE(m_theme->accent(), former);
+    QCOMPARE(changes.size() + accents.size(), 0);
+    const TemporaryFolder folder;
+    QSettings settings(folder.filePath("settings.ini"), QSettings::IniFormat);
+    m_theme->save(settings);
+    QCOMPARE(settings.value("Accent").toString(), QString("#ff0000"));
+    m_theme->setFollowsAccent(false);
+    QCOMPARE(m_theme->accent(), QColor(Qt::red));
+    QCOMPARE(accents.size(), 1);
+}
+
+void tst_LookChanges::idleWhileSomethingWaits_data()
+{
+    QTest::addColumn<bool>("isInPaint");
+    QTest::newRow("restyling") << false;
+    QTest::newRow("paint") << true;
+}
+
+// A dialog that a widget opens as it restyles may stay for minutes.
+void tst_LookChanges::idleWhileSomethingWaits()
+{
+    QFETCH(bool, isInPaint);
+    class Restyled : public QWidget
+    {
+    public:
+        std::function<void()> call;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (event->type() == QEvent::StyleChange && call)
+                std::exchange(call, nullptr)();
+            QWidget::changeEvent(event);
+        }
+    };
+    int turns = 0;
+    const auto dialog = [&] {
+        m_theme->setName("contrast");
+        QEventLoop loop;
+        QTimer::singleShot(300, &loop, &QEventLoop::quit);
+        const auto count = connect(QAbstractEventDispatcher::instance(),
+                                   &QAbstractEventDispatcher::awake, this, [&] { ++turns; });
+        loop.exec();
+        disconnect(count);
+    };
+    Restyled restyled;
+    Painting painting;
+    if (isInPaint) {
+        painting.call = dialog;
+        painting.grab();
+    } else {
+        restyled.show();
+        restyled.call = dialog;
+        QVERIFY(m_theme->setName("light"));
+    }
+    QVERIFY2(turns > 0 && turns < 50, qPrintable(QString::number(turns)));
+    QTRY_COMPARE(m_theme->name(), QString("contrast"));
+    QCOMPARE(QApplication::palette(), m_theme->palette());
 }
 
 void tst_LookChanges::additions_data()
