@@ -3,6 +3,7 @@
 
 #include "iconengine.h"
 
+#include "brokenimages.h"
 #include "iconcolors.h"
 #include "tinteddrawing.h"
 
@@ -24,6 +25,7 @@ namespace
 {
 
 const double maximumSide = 4096;
+const QSize placeholderSize(20, 20);
 
 bool isPath(const QString &name)
 {
@@ -36,10 +38,11 @@ QString pathOf(const QString &name)
     if (isPath(name))
         return name;
     QString own = IconColors::imageFile(name);
-    if (!own.isEmpty() && QFile::exists(own))
-        return own;
     const QString builtIn = builtInDrawings() + name + QLatin1String(".hvicon");
-    return QFile::exists(builtIn) ? builtIn : QString();
+    const bool isBuiltIn = QFile::exists(builtIn);
+    if (!own.isEmpty() && QFile::exists(own) && (!isBuiltIn || isDrawing(own) || isImage(own)))
+        return own;
+    return isBuiltIn ? builtIn : QString();
 }
 
 // "lock" is "lock_on" where it is checked, and "switch_on" is "switch_on_hover" under the pointer.
@@ -92,6 +95,8 @@ QPixmap pixelsOf(const QString &path, const QSize &size)
     QPixmap result;
     if (QPixmapCache::find(key, &result))
         return result;
+    if (!isImage(path))
+        return QPixmap::fromImage(placeholderImage(size));
     QImageReader reader(path);
     const QSize own = reader.size();
     if (own.isValid() && (own.width() > size.width() || own.height() > size.height()))
@@ -229,7 +234,7 @@ QSize IconEngine::fittedSize(const Picture &picture, const QSize &size) const
         return size.isEmpty() ? QSize()
                               : declared.scaled(size, Qt::KeepAspectRatio).expandedTo({1, 1});
     } else if (!picture.path.isEmpty()) {
-        own = QImageReader(picture.path).size();
+        own = isImage(picture.path) ? QImageReader(picture.path).size() : placeholderSize;
     }
     const bool fits = own.width() <= size.width() && own.height() <= size.height();
     return own.isEmpty() ? QSize() : fits ? own : own.scaled(size, Qt::KeepAspectRatio);

@@ -50,19 +50,22 @@ void addMissingImages(Theme &theme)
 }
 
 QString withMissingImagesOnce(const QString &templates, const QString &prefix,
-                              const QVariantMap &values, QSet<QString> *told)
+                              const QVariantMap &values, const QHash<QString, QString> &drawings,
+                              QSet<QString> *told)
 {
-    const QHash<QString, QString> missing = missingFiles(values);
-    if (missing.isEmpty())
+    QHash<QString, QString> files = missingFiles(values);
+    for (auto it = drawings.cbegin(); it != drawings.cend(); ++it)
+        files.insert(it.key(), *it);
+    if (files.isEmpty())
         return templates;
     QString result;
     int end = 0;
     const auto tokens = Tokens::find(templates, prefix);
     for (const TemplateToken &token : tokens) {
-        const auto file = missing.constFind(token.key);
-        if (token.kind != Kind::ImageFile || file == missing.cend())
+        const auto file = files.constFind(token.key);
+        if (token.kind != Kind::ImageFile || file == files.cend())
             continue;
-        const bool isFirst = !told->contains(token.key);
+        const bool isFirst = !told->contains(token.key) && !drawings.contains(token.key);
         told->insert(token.key);
         // A path that looks like a token is left to who replaces these.
         if (isFirst || file->contains(QLatin1String(".theme.")))

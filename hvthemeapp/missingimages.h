@@ -4,6 +4,7 @@
 #ifndef HVTHEMEAPP_MISSINGIMAGES_H
 #define HVTHEMEAPP_MISSINGIMAGES_H
 
+#include <QHash>
 #include <QSet>
 #include <QVariantMap>
 
@@ -21,17 +22,20 @@ class Theme;
 void addMissingImages(Theme &theme);
 
 /*!
- * \brief Returns \a templates with the paths of images that do not exist in place of their tokens,
- *        but for the first of each.
+ * \brief Returns \a templates with paths in place of some tokens of images.
  *
- * Replacing tokens logs a missing image at each, and many rules show the same one.
+ * With the paths of images that do not exist, but for the first token of each: replacing tokens logs a
+ * missing image at each, and many rules show the same one. And with \a drawings in place of images that
+ * cannot be shown.
  *
  * \param values  as Theme::values() gives them.
+ * \param drawings  paths by key.
  * \param told    the keys that have a token already, here or in an earlier text; those of this text
  *                are added.
  */
 QString withMissingImagesOnce(const QString &templates, const QString &prefix,
-                              const QVariantMap &values, QSet<QString> *told);
+                              const QVariantMap &values, const QHash<QString, QString> &drawings,
+                              QSet<QString> *told);
 
 } // namespace HV
 

@@ -4,6 +4,7 @@
 #include "templatefolders.h"
 
 #include "applicationtheme.h"
+#include "brokenimages.h"
 #include "missingimages.h"
 #include "themefolder.h"
 
@@ -128,10 +129,11 @@ QString TemplateFolders::problem() const
 QString TemplateFolders::styleSheet(Theme *theme, bool keepsFonts) const
 {
     QSet<QString> told;
+    const auto drawings = drawingsForBrokenImages(theme->values());
     const auto sheetOf = [&](const auto &source, const QString &prefix) -> QString {
         QString text;
         readStyleSheet(source, text);
-        text = withMissingImagesOnce(text, prefix, theme->values(), &told);
+        text = withMissingImagesOnce(text, prefix, theme->values(), drawings, &told);
         replaceStyleSheet(theme, prefix, text);
         return text + QLatin1Char('\n'); // which a template may lack
     };

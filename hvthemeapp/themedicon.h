@@ -28,8 +28,9 @@ namespace HV
  * is `hvicon`, or any picture.
  *
  * A name that stands for nothing gives an icon that is null as long as the theme in force knows no
- * such image. What cannot be drawn is warned about once and shows a dashed square. Nothing outside an
- * SVG file is loaded for it: neither files nor networks.
+ * such image. What cannot be drawn is warned about once and shows a dashed square; where it is a theme's
+ * own picture, not a drawing, the built-in drawing of that name. Nothing outside an SVG file is loaded
+ * for it: neither files nor networks.
  *
  * The icon may be made before the first theme is applied; until then the colours are those of the
  * application's palette. Use it on the GUI thread.

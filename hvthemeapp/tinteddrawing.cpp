@@ -148,4 +148,14 @@ QImage stretchedImage(const QString &path, const QSize &size)
     return draw(path, size, QIcon::Normal, Qt::IgnoreAspectRatio);
 }
 
+QImage placeholderImage(const QSize &size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawPlaceholder(painter, image.rect());
+    return image;
+}
+
 } // namespace HV

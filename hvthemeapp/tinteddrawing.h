@@ -33,6 +33,9 @@ QImage drawnImage(const QString &path, const QSize &size, QIcon::Mode mode);
 /*! \brief The same stretched to \a size. */
 QImage stretchedImage(const QString &path, const QSize &size);
 
+/*! \brief Returns the dashed square, \a size pixels large. */
+QImage placeholderImage(const QSize &size);
+
 } // namespace HV
 
 #endif // HVTHEMEAPP_TINTEDDRAWING_H

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The HVTheme authors
 // SPDX-License-Identifier: MIT
 
+#include "messages.h"
 #include "temporaryfolder.h"
 
 #include <hvthemeapp/applicationtheme.h>
@@ -110,6 +111,9 @@ private Q_SLOTS:
     void unusableDrawing_data();
     void unusableDrawing();
     void repeatedUseTakesNoTime();
+    void brokenPicture_data();
+    void brokenPicture();
+    void mendedPicture();
     void tooMuchWork_data();
     void tooMuchWork();
     void pipe();
@@ -507,6 +511,81 @@ void tst_ThemedIcon::unusableDrawing()
     QCOMPARE(pixmap.size(), QSize(20, 20));
     QVERIFY(!isEmpty(pixmap)); // the dashed square
     QVERIFY(!isEmpty(themedIcon(path).pixmap(40, 40)));
+}
+
+void tst_ThemedIcon::brokenPicture_data()
+{
+    QTest::addColumn<QByteArray>("content");
+
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    QImage noise(100, 100, QImage::Format_RGB32);
+    for (int i = 0; i < 100 * 100; ++i)
+        noise.setPixel(i % 100, i / 100, QRgb(i) * 7919U);
+    QVERIFY(noise.save(&buffer, "PNG"));
+    QTest::newRow("cut in its head") << picture.left(30);
+    QTest::newRow("cut behind its head") << picture.left(60);
+    QTest::newRow("cut at its end") << picture.left(picture.size() * 3 / 4);
+    QTest::newRow("no picture") << QByteArray("text");
+    QTest::newRow("empty") << QByteArray();
+}
+
+// The built-in drawing takes the place of what a theme has, and that is told once.
+void tst_ThemedIcon::brokenPicture()
+{
+    QFETCH(QByteArray, content);
+    const TemporaryFolder themes;
+    const QString path = themes.write("broken.png", content);
+    const QByteArray relative =
+        QDir(QCoreApplication::applicationDirPath()).relativeFilePath(path).toUtf8();
+    for (const QString name : {"default", "dark", "light"}) {
+        QFile file(":/hvthemeapp/themes/" + name + ".theme");
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray images =
+            "\n[ImageFiles]\nclose=" + relative + "\nrocket=" + relative + '\n';
+        themes.write(name + ".theme", file.readAll() + (name == "default" ? QByteArray() : images));
+    }
+    const QImage drawn = themedIcon("close").pixmap(20, 20).toImage();
+    CapturedMessages log;
+    log.start();
+    ApplicationTheme theme;
+    theme.setFolder(themes.path());
+    for (const char *name : {"light", "dark"})
+        theme.setName(name);
+    const QImage close = themedIcon("close").pixmap(20, 20).toImage();
+    const QImage squares[] = {themedIcon("rocket").pixmap(20, 20).toImage(),
+                              themedIcon(path).pixmap(20, 20).toImage()};
+    log.stop();
+    QCOMPARE(theme.name(), QString("dark"));
+    const Messages messages = log.take();
+    QStringList told;
+    for (const Message &message : messages) {
+        if (message.category == QLatin1String("hvtheme.app"))
+            told.append(message.text);
+    }
+    QVERIFY2(told.size() == 1
+                 && told.first().contains("broken.png\" is no image that can be shown: "),
+             qPrintable(told.join('\n')));
+    QVERIFY(messages.size() <= 2); // what the decoder says
+    QVERIFY(close == drawn);
+    for (const QImage &square : squares)
+        QVERIFY(!isEmpty(QPixmap::fromImage(square)));
+    QVERIFY(
+        qApp->styleSheet().contains("titlebar-close-icon: url(:/hvthemeapp/icons/close.hvicon)"));
+}
+
+// It is shown as soon as it is there.
+void tst_ThemedIcon::mendedPicture()
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write("later.png", "");
+    const QIcon icon = themedIcon(path);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("later.png\" is no image"));
+    QVERIFY(!isEmpty(icon.pixmap(20, 20)));
+    QImage green(20, 20, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QVERIFY(green.save(path));
+    COMPARE_COLOR(middle(icon), QColor(Qt::green));
 }
 
 void tst_ThemedIcon::tooMuchWork_data()
