@@ -552,7 +552,8 @@ void tst_Check::endless()
 
 static QVector<Finding> sample()
 {
-    return {{"a b.theme", {3, 7}, Severity::Error, "x \x1b[31m \u202e", "required-key"},
+    const QString fromRightToLeft = QChar(0x202e);
+    return {{"a b.theme", {3, 7}, Severity::Error, "x \x1b[31m " + fromRightToLeft, "required-key"},
             {":/stylesheet/a.qss", {1, 1}, Severity::Warning, "y", "token-kind"},
             {"/t/\u00e9.theme", {2, 1}, Severity::Info, "z", "unused-key"}};
 }

@@ -49,7 +49,7 @@ void tst_ThemeFile::initTestCase()
 
 QString tst_ThemeFile::write(const QString &name, const QByteArray &content) const
 {
-    const QString path = m_folder.filePath(name);
+    QString path = m_folder.filePath(name);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
@@ -183,62 +183,64 @@ static QString keyAsRead(const ThemeFileEntry &entry)
     return key;
 }
 
+// What the lexical rules speak of.
+static const char *const pieces[] = {"[Palettes]\n",
+                                     "[Colors]\n",
+                                     "[Gradients]\n",
+                                     "[General]\n",
+                                     "[%General]\n",
+                                     "[a\\b]\n",
+                                     "[a]\n",
+                                     "[a/b]\n",
+                                     "[A]\r\n",
+                                     "[ a ]\n",
+                                     "[%61]\n",
+                                     "[a",
+                                     "]",
+                                     "[",
+                                     "\n",
+                                     "\r",
+                                     "\r\n",
+                                     "\n\r",
+                                     "\\\n",
+                                     "\\\r\n",
+                                     "\\",
+                                     "\"",
+                                     ";",
+                                     "#",
+                                     "; c=1\n",
+                                     " ",
+                                     "\t",
+                                     "=",
+                                     "key=",
+                                     "b\\c=",
+                                     "b/c=",
+                                     "c =",
+                                     " d=",
+                                     "%20=",
+                                     "%U4E2D=",
+                                     "%U00=",
+                                     "%2",
+                                     "%",
+                                     "%zz=",
+                                     "\xC3\xA9=",
+                                     "\xE9=",
+                                     "Key=",
+                                     "a,b",
+                                     "x\\x4e2dy",
+                                     "@Variant",
+                                     "@@",
+                                     "\"q;=\"",
+                                     "[b]c=",
+                                     "/e=",
+                                     "f/=",
+                                     "//=",
+                                     "\\="};
+
 // Files of random pieces, among them everything that the lexical rules speak of, and each value
 // different, so that the value tells which of several entries took effect.
 static QByteArray randomFile(QRandomGenerator *random)
 {
-    static const QByteArray pieces[] = {"[Palettes]\n",
-                                        "[Colors]\n",
-                                        "[Gradients]\n",
-                                        "[General]\n",
-                                        "[%General]\n",
-                                        "[a\\b]\n",
-                                        "[a]\n",
-                                        "[a/b]\n",
-                                        "[A]\r\n",
-                                        "[ a ]\n",
-                                        "[%61]\n",
-                                        "[a",
-                                        "]",
-                                        "[",
-                                        "\n",
-                                        "\r",
-                                        "\r\n",
-                                        "\n\r",
-                                        "\\\n",
-                                        "\\\r\n",
-                                        "\\",
-                                        "\"",
-                                        ";",
-                                        "#",
-                                        "; c=1\n",
-                                        " ",
-                                        "\t",
-                                        "=",
-                                        "key=",
-                                        "b\\c=",
-                                        "b/c=",
-                                        "c =",
-                                        " d=",
-                                        "%20=",
-                                        "%U4E2D=",
-                                        "%U00=",
-                                        "%2",
-                                        "%",
-                                        "%zz=",
-                                        "\xC3\xA9=",
-                                        "\xE9=",
-                                        "Key=",
-                                        "a,b",
-                                        "x\\x4e2dy",
-                                        "@Variant",
-                                        "@@",
-                                        "\"q;=\"",
-                                        "[b]c=",
-                                        "/e=",
-                                        "f/=",
-                                        "//=",
-                                        "\\="};
     constexpr int count = int(sizeof pieces / sizeof *pieces);
     QByteArray text = random->bounded(16) == 0 ? QByteArray("\xEF\xBB\xBF") : QByteArray();
     const int length = random->bounded(1, 40);
@@ -320,7 +322,7 @@ void tst_ThemeFile::refused_data()
 
     QFile large(m_folder.filePath("large.theme"));
     QVERIFY(large.open(QIODevice::WriteOnly));
-    QVERIFY(large.resize(100 * 1024 * 1024)); // a sparse file
+    QVERIFY(large.resize(qint64(100) * 1024 * 1024)); // a sparse file
     QTest::newRow("100-megabytes")
         << large.fileName() << "larger than 16 MB, which no file of this kind is";
 }

@@ -87,8 +87,9 @@ void tst_Oklch::lightness()
 
 void tst_Oklch::keepsLightnessAndHue()
 {
-    for (double lightness = 19; lightness <= 91; lightness += 9) {
-        for (double hue = 0; hue < 360; hue += 7.5) {
+    for (int lightness = 19; lightness <= 91; lightness += 9) {
+        for (int step = 0; step < 48; ++step) {
+            const double hue = 7.5 * step;
             for (const double chroma : {0.0, 0.02, 0.1, 0.25}) {
                 const QColor color = colorAtLightness(lightness, chroma, hue);
                 const QByteArray what = QStringLiteral("L* %1 C %2 h %3: %4")

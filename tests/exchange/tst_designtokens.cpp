@@ -256,6 +256,7 @@ void tst_DesignTokens::paletteNames()
         QCOMPARE(theme->palette.value(edge), QColor("#3060f0"));
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table, one row a case
 void tst_DesignTokens::refused_data()
 {
     QTest::addColumn<QByteArray>("text");

@@ -131,7 +131,7 @@ QByteArray tst_LiveReload::themeWith(const QString &buttonColor) const
 {
     m_files->writeFile(QStringLiteral("scratch"), {{QString::fromLatin1(buttonKey), buttonColor}});
     const QString scratch = m_files->folder() + QLatin1String("/scratch.theme");
-    const QByteArray bytes = read(scratch).replace("ThemeName=scratch", "ThemeName=default");
+    QByteArray bytes = read(scratch).replace("ThemeName=scratch", "ThemeName=default");
     QFile::remove(scratch);
     return bytes;
 }

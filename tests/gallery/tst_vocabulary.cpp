@@ -74,6 +74,7 @@ QImage tst_Vocabulary::picture(const QString &selector) const
     return pictureOf(specimenOf(selector));
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table, one row a case
 void tst_Vocabulary::background_data()
 {
     QTest::addColumn<QString>("key");

@@ -43,6 +43,7 @@ QImage tst_VocabularyImages::picture(const QString &selector) const
     return pictureOf(specimenOf(selector));
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table, one row a case
 void tst_VocabularyImages::image_data()
 {
     QTest::addColumn<QString>("key");

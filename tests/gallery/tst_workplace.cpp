@@ -232,7 +232,7 @@ void tst_Workplace::share(const QString &page, Pane pane)
 // The sample themes in a folder of the test's, with other words in them.
 QString tst_Workplace::copyOfThemes(const QByteArray &from, const QByteArray &to)
 {
-    const QString folder = m_folder->filePath(QStringLiteral("themes"));
+    QString folder = m_folder->filePath(QStringLiteral("themes"));
     QDir().mkdir(folder);
     for (const char *name : {"default", "dark", "light", "contrast"}) {
         const QString file = QLatin1Char('/') + QLatin1String(name) + QLatin1String(".theme");
@@ -926,7 +926,7 @@ void tst_Workplace::opensAFolder()
     part<QComboBox>("themes")->setCurrentText(QStringLiteral("dark"));
     Q_EMIT part<QComboBox>("themes")->textActivated(QStringLiteral("dark"));
     QCOMPARE(button->grab().toImage().pixelColor(4, button->height() / 2), QColor(0x123456));
-    QMenu *recent = part<QMenu>("recent");
+    auto *recent = part<QMenu>("recent");
     auto *first = m_window->menuBar()->actions().constFirst()->menu();
     Q_EMIT first->aboutToShow();
     QStringList offered;
@@ -1037,6 +1037,51 @@ void tst_Workplace::everythingByKeyboard_data()
     QTest::newRow("contrast") << "tabs" << int(Pane::Findings) << "contrast";
 }
 
+// Every widget that Tab leads to from the one that has the focus, once around.
+static QList<QWidget *> reachedByTab(QWindow *window)
+{
+    QSet<QWidget *> reached;
+    QList<QWidget *> order;
+    constexpr int mostStops = 20; // in one widget: fields of a date
+    int stops = 0;
+    for (QWidget *focus = QApplication::focusWidget();
+         focus && (!reached.contains(focus) || (focus == order.constLast() && stops < mostStops));
+         focus = QApplication::focusWidget()) {
+        stops = reached.contains(focus) ? stops + 1 : 0;
+        if (stops == 0) {
+            reached.insert(focus);
+            order.append(focus);
+        }
+        QTest::keyClick(window, Qt::Key_Tab);
+    }
+    return order;
+}
+
+static QStringList notReachedOrNamed(const GalleryWindow &window, const QList<QWidget *> &order)
+{
+    QStringList problems;
+    const auto widgets = window.findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        const bool isUsable = widget->isVisible() && widget->isEnabled()
+            && (widget->focusPolicy() & Qt::TabFocus) && widget->window() == &window;
+        if (!isUsable || qobject_cast<QMenuBar *>(widget)) // which Alt leads to
+            continue;
+        QWidget *proxied = widget;
+        while (proxied->focusProxy())
+            proxied = proxied->focusProxy();
+        if (widget->objectName().startsWith(QLatin1String("qt_")))
+            continue; // parts of a widget of Qt's
+        const QString name = nameOf(widget) + QLatin1String(" in ") + nameOf(widget->parent());
+        // Of radio buttons Tab reaches one, and the arrows the others.
+        if (!order.contains(proxied) && !qobject_cast<QRadioButton *>(widget))
+            problems.append(QLatin1String("not reached: ") + name);
+        const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
+        if (!told || told->text(QAccessible::Name).trimmed().isEmpty())
+            problems.append(QLatin1String("no name: ") + name);
+    }
+    return problems;
+}
+
 // Tab reaches whatever is to be used, and of each it is told and seen that it has the focus.
 void tst_Workplace::everythingByKeyboard()
 {
@@ -1055,43 +1100,11 @@ void tst_Workplace::everythingByKeyboard()
     if (m_window->inspector()) // so that its lists have something
         m_window->inspect(m_window->page()->findChild<QAbstractButton *>());
     QCoreApplication::processEvents();
-    QSet<QWidget *> reached;
-    QList<QWidget *> order;
     part<QComboBox>("themes")->setFocus(Qt::TabFocusReason);
-    constexpr int mostStops = 20; // in one widget: fields of a date
-    int stops = 0;
-    for (QWidget *focus = QApplication::focusWidget();
-         focus && (!reached.contains(focus) || (focus == order.constLast() && stops < mostStops));
-         focus = QApplication::focusWidget()) {
-        stops = reached.contains(focus) ? stops + 1 : 0;
-        if (stops == 0) {
-            reached.insert(focus);
-            order.append(focus);
-        }
-        QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
-    }
+    const QList<QWidget *> order = reachedByTab(m_window->windowHandle());
     QCOMPARE(QApplication::focusWidget(), part<QComboBox>("themes")); // all the way round
-    QStringList problems;
-    const auto widgets = m_window->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        const bool isUsable = widget->isVisible() && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus) && widget->window() == m_window.get();
-        if (!isUsable || qobject_cast<QMenuBar *>(widget)) // which Alt leads to
-            continue;
-        QWidget *proxied = widget;
-        while (proxied->focusProxy())
-            proxied = proxied->focusProxy();
-        if (widget->objectName().startsWith(QLatin1String("qt_")))
-            continue; // parts of a widget of Qt's
-        const QString name = nameOf(widget) + QLatin1String(" in ") + nameOf(widget->parent());
-        // Of radio buttons Tab reaches one, and the arrows the others.
-        if (!reached.contains(proxied) && !qobject_cast<QRadioButton *>(widget))
-            problems.append(QLatin1String("not reached: ") + name);
-        const QAccessibleInterface *told = QAccessible::queryAccessibleInterface(widget);
-        if (!told || told->text(QAccessible::Name).trimmed().isEmpty())
-            problems.append(QLatin1String("no name: ") + name);
-    }
-    for (QWidget *widget : qAsConst(order)) {
+    QStringList problems = notReachedOrNamed(*m_window, order);
+    for (QWidget *widget : order) {
         const bool isOfPage = m_window->page()->isAncestorOf(widget);
         if (isOfPage && !qobject_cast<QLabel *>(widget))
             continue; // what that looks like is the templates' business

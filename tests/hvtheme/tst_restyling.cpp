@@ -191,10 +191,10 @@ void tst_Restyling::hiddenWidgetShownLater()
         polish(window.get());
         for (int variant : variants)
             apply(variant);
-        QWidget *hidden = window->findChild<QWidget *>("hidden");
+        auto *hidden = window->findChild<QWidget *>("hidden");
         hidden->show();
         polish(hidden);
-        const QImage image = grabbed(window.get());
+        QImage image = grabbed(window.get());
         qApp->setStyleSheet(QString());
         return image;
     };
@@ -344,7 +344,7 @@ void tst_Restyling::memory()
             used[i / 400] = mallinfo2().uordblks;
     }
     const auto growth = qint64(used[1]) - qint64(used[0]);
-    QVERIFY2(growth < 64 * 1024, qPrintable(QString("%1 bytes more").arg(growth)));
+    QVERIFY2(growth < qint64(64) * 1024, qPrintable(QString("%1 bytes more").arg(growth)));
 }
 
 QTEST_MAIN(tst_Restyling)

@@ -129,7 +129,7 @@ void tst_ApplicationPalette::everyPairIsLegible()
         for (const Pair &pair : pairs()) {
             for (const QPalette::ColorRole ground : pair.grounds) {
                 const double wanted = group == QPalette::Disabled ? disabledRatio : ratio;
-                const QColor text = palette.color(group, pair.text);
+                const QColor &text = palette.color(group, pair.text);
                 QCOMPARE(text.alpha(), 255);
                 const double found = ColorMath::contrastRatio(text, palette.color(group, ground));
                 QVERIFY2(found >= wanted,
@@ -174,10 +174,10 @@ void tst_ApplicationPalette::disabledIsDimmed()
     for (const Pair &pair : pairs()) {
         if (pair.text == QPalette::PlaceholderText)
             continue; // is as dim already
-        const QColor enabled = palette.color(QPalette::Active, pair.text);
-        const QColor disabled = palette.color(QPalette::Disabled, pair.text);
-        const QColor ground = palette.color(QPalette::Disabled, pair.grounds.first());
-        const QColor enabledGround = palette.color(QPalette::Active, pair.grounds.first());
+        const QColor &enabled = palette.color(QPalette::Active, pair.text);
+        const QColor &disabled = palette.color(QPalette::Disabled, pair.text);
+        const QColor &ground = palette.color(QPalette::Disabled, pair.grounds.first());
+        const QColor &enabledGround = palette.color(QPalette::Active, pair.grounds.first());
         QVERIFY2(ColorMath::contrastRatio(disabled, ground)
                      < ColorMath::contrastRatio(enabled, enabledGround),
                  qPrintable(named(QPalette::Disabled, pair.text)));
@@ -230,7 +230,7 @@ void tst_ApplicationPalette::framesAreVisible()
 {
     QFETCH(QString, name);
     const QPalette palette = paletteOf(look(name));
-    const QColor window = palette.color(QPalette::Window);
+    const QColor &window = palette.color(QPalette::Window);
     const double light = ColorMath::contrastRatio(palette.color(QPalette::Light), window);
     QVERIFY(light >= (name == "contrast" ? 3 : 1.3));
     QVERIFY(light < 4);

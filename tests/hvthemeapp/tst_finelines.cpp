@@ -88,6 +88,8 @@ void addLooks()
 
 } // namespace
 
+Q_DECLARE_METATYPE(Make)
+
 void tst_FineLines::initTestCase()
 {
     m_quiet = std::make_unique<QuietPlatform>();
@@ -370,7 +372,7 @@ void tst_FineLines::disabledBrand()
     HV::ApplicationTheme theme;
     QVERIFY(theme.setName(look));
     const QColor highlight = theme.palette().color(QPalette::Highlight);
-    const QColor edge = theme.theme()->values().value("Color_Brand_6").value<QColor>();
+    const auto edge = theme.theme()->values().value("Color_Brand_6").value<QColor>();
     QRgb corner[2] = {0, 0};
     for (const bool enabled : {true, false}) {
         QWidget window;
@@ -486,8 +488,6 @@ void tst_FineLines::moreInToolBar()
     QVERIFY2(sign.width() >= 4 && sign.height() >= 4,
              qUtf8Printable(QString("%1 by %2").arg(sign.width()).arg(sign.height())));
 }
-
-Q_DECLARE_METATYPE(Make)
 
 QTEST_MAIN(tst_FineLines)
 #include "tst_finelines.moc"

@@ -99,7 +99,7 @@ void tst_FollowDesktop::ownFolder()
         QFile file(QString(":/hvthemeapp/themes/%1.theme").arg(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
-    const auto withoutFlags = [](QByteArray text) {
+    const auto withoutFlags = [](const QByteArray &text) {
         return text.left(text.indexOf("\n[Flags]") + 1);
     };
     const QByteArray light = withoutFlags(builtIn("light"));

@@ -166,6 +166,7 @@ void tst_ForwardingPaintDevice::pages()
     QVERIFY2(count <= most, qPrintable(QString::number(count)));
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table, one row a case
 void tst_ForwardingPaintDevice::painting_data()
 {
     using Paint = std::function<void(QPainter &)>;

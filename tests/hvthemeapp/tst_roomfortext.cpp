@@ -217,6 +217,8 @@ void writeThemes(const QString &parent, int fontSize)
 
 } // namespace
 
+Q_DECLARE_METATYPE(Setting)
+
 /*!
  * Whether each text has room: in each look, from either side, at a large font, and on a screen of the
  * scale that QT_SCALE_FACTOR gives.
@@ -334,8 +336,6 @@ void tst_RoomForText::everyText()
     QVERIFY2(count > 700, qUtf8Printable(QString::number(count)));
     QVERIFY2(faults.isEmpty(), qUtf8Printable(faults.join('\n')));
 }
-
-Q_DECLARE_METATYPE(Setting)
 
 QTEST_MAIN(tst_RoomForText)
 #include "tst_roomfortext.moc"

@@ -234,6 +234,8 @@ QTestData &addRow(const QString &look, const char *control, const char *state = 
 
 } // namespace
 
+Q_DECLARE_METATYPE(Make)
+
 namespace qdesigner_internal
 {
 
@@ -945,8 +947,6 @@ void tst_WidgetLook::templateProperty()
         HV::findStyleSheet(theme.theme(), QStringLiteral(":/stylesheet"), "global"));
     QCOMPARE(whole.copy(same), picture().copy(same));
 }
-
-Q_DECLARE_METATYPE(Make)
 
 QTEST_MAIN(tst_WidgetLook)
 #include "tst_widgetlook.moc"

@@ -316,7 +316,7 @@ void tst_Sheet::largeFilesStayOut()
     image.fill(Qt::red);
     QVERIFY(image.save(theme.path("large.png"), "PNG"));
     QFile file(theme.path("large.png"));
-    QVERIFY(file.resize(5 * 1024 * 1024));
+    QVERIFY(file.resize(qint64(5) * 1024 * 1024));
     const CommandRun run({"sheet", theme.path(), "default", "--app-dir", theme.path(), "-o",
                           theme.path("out.html")});
     QCOMPARE(QString(run.errors),

@@ -51,7 +51,7 @@ bool isPenOfDisabledText(const QColor &pen, const QPalette &palette)
 {
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
-        const QColor color = palette.color(QPalette::Disabled, role);
+        const QColor &color = palette.color(QPalette::Disabled, role);
         if (pen.rgba() == color.rgba() && color != palette.color(QPalette::Active, role))
             return true;
     }
@@ -363,6 +363,6 @@ int TextRecorder::metric(PaintDeviceMetric metric) const
     case PdmDevicePixelRatioScaled:
         return qRound(m_engine->ratio * devicePixelRatioFScale());
     default:
-        return QPaintDevice::metric(metric);
+        return QImage::metric(metric);
     }
 }

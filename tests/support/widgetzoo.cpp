@@ -367,6 +367,28 @@ QWidget *texts()
     return window;
 }
 
+QLayout *dialsAndDigits()
+{
+    auto *column = new QVBoxLayout;
+    for (const char *state : {"rest", "focused", "disabled"}) {
+        auto *dial = new QDial;
+        dial->setValue(30);
+        dial->setNotchesVisible(true);
+        dial->setEnabled(state != QLatin1String("disabled"));
+        if (state == QLatin1String("focused"))
+            holdFocus(dial);
+        column->addWidget(dial);
+    }
+    auto *digits = new QLCDNumber(5);
+    digits->display(31.4);
+    column->addWidget(digits);
+    auto *flat = new QLCDNumber(5);
+    flat->setSegmentStyle(QLCDNumber::Flat);
+    flat->display(27.1);
+    column->addWidget(flat);
+    return column;
+}
+
 QWidget *ranges()
 {
     auto *window = new QWidget;
@@ -418,24 +440,7 @@ QWidget *ranges()
     upright->setOrientation(Qt::Vertical);
     upright->setValue(40);
     outer->addWidget(upright);
-    auto *column = new QVBoxLayout;
-    outer->addLayout(column);
-    for (const char *state : {"rest", "focused", "disabled"}) {
-        auto *dial = new QDial;
-        dial->setValue(30);
-        dial->setNotchesVisible(true);
-        dial->setEnabled(state != QLatin1String("disabled"));
-        if (state == QLatin1String("focused"))
-            holdFocus(dial);
-        column->addWidget(dial);
-    }
-    auto *digits = new QLCDNumber(5);
-    digits->display(31.4);
-    column->addWidget(digits);
-    auto *flat = new QLCDNumber(5);
-    flat->setSegmentStyle(QLCDNumber::Flat);
-    flat->display(27.1);
-    column->addWidget(flat);
+    outer->addLayout(dialsAndDigits());
     return window;
 }
 
@@ -554,6 +559,39 @@ QTabWidget *tabs(QTabWidget::TabPosition position)
     return widget;
 }
 
+QWidget *frames()
+{
+    auto *all = new QWidget;
+    auto *column = new QGridLayout(all);
+    int cell = 0;
+    for (const auto shape : {QFrame::Box, QFrame::Panel, QFrame::StyledPanel, QFrame::HLine}) {
+        for (const auto shadow : {QFrame::Plain, QFrame::Raised, QFrame::Sunken}) {
+            auto *frame = new QFrame;
+            frame->setFrameStyle(int(shape) | int(shadow));
+            frame->setMinimumSize(50, 20);
+            column->addWidget(frame, cell / 3, cell % 3);
+            ++cell;
+        }
+    }
+    return all;
+}
+
+QWidget *framesAndGrips()
+{
+    auto *small = new QWidget;
+    auto *button = new QPushButton("Focus frame", small);
+    button->move(12, 12);
+    auto *frame = new QFocusFrame(small);
+    frame->setWidget(button);
+    auto *band = new QRubberBand(QRubberBand::Rectangle, small);
+    band->setGeometry(20, 60, 90, 40);
+    band->show();
+    auto *grip = new QSizeGrip(small);
+    grip->move(130, 90);
+    small->setMinimumSize(150, 110);
+    return small;
+}
+
 QWidget *containers()
 {
     auto *window = new QWidget;
@@ -598,35 +636,12 @@ QWidget *containers()
     large->setMinimumSize(600, 400);
     area->setWidget(large);
     add(area);
-    auto *frames = new QWidget;
-    auto *column = new QGridLayout(frames);
-    int cell = 0;
-    for (const auto shape : {QFrame::Box, QFrame::Panel, QFrame::StyledPanel, QFrame::HLine}) {
-        for (const auto shadow : {QFrame::Plain, QFrame::Raised, QFrame::Sunken}) {
-            auto *frame = new QFrame;
-            frame->setFrameStyle(int(shape) | int(shadow));
-            frame->setMinimumSize(50, 20);
-            column->addWidget(frame, cell / 3, cell % 3);
-            ++cell;
-        }
-    }
-    add(frames);
+    add(frames());
     auto *scene = new QGraphicsScene(window);
     scene->addRect(0, 0, 60, 40);
     scene->addText("scene");
     add(new QGraphicsView(scene));
-    auto *small = new QWidget;
-    auto *button = new QPushButton("Focus frame", small);
-    button->move(12, 12);
-    auto *frame = new QFocusFrame(small);
-    frame->setWidget(button);
-    auto *band = new QRubberBand(QRubberBand::Rectangle, small);
-    band->setGeometry(20, 60, 90, 40);
-    band->show();
-    auto *grip = new QSizeGrip(small);
-    grip->move(130, 90);
-    small->setMinimumSize(150, 110);
-    add(small);
+    add(framesAndGrips());
     window->resize(960, 760);
     return window;
 }
@@ -701,7 +716,7 @@ QWidget *mainWindow()
     QToolBar *crowded = window->addToolBar("Crowded");
     for (int i = 0; i < 20; ++i)
         crowded->addAction(QString("Action %1").arg(i));
-    QToolBar *side = new QToolBar("Side");
+    auto *side = new QToolBar("Side");
     side->addAction("A");
     side->addAction("B");
     window->addToolBar(Qt::LeftToolBarArea, side);

@@ -44,7 +44,7 @@ void makePipe(const QString &path)
 void makeLarge(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !file.resize(100 * 1024 * 1024))
+    if (!file.open(QIODevice::WriteOnly) || !file.resize(qint64(100) * 1024 * 1024))
         qFatal("cannot make a large file at %s", qPrintable(path));
 }
 

@@ -381,7 +381,7 @@ void tst_Exchange::keepsWhatIsThere()
     QCOMPARE(CommandRun({"import", tokens, folder.path(), "--force"}).exitCode, 0);
 
     QFile large(place.filePath("large.json"));
-    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(100 * 1024 * 1024));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(qint64(100) * 1024 * 1024));
     const CommandRun refused({"import", large.fileName(), place.filePath("made")});
     QCOMPARE(refused.exitCode, 2);
     QCOMPARE(refused.errors.count('\n'), 1);
