@@ -174,6 +174,7 @@ void ApplicationTheme::Private::show(const ThemeFolder &themes, const QString &n
     const bool isOther = newName != name;
     name = newName;
     nameFolder = themes;
+    shownAccent = accent;
     const bool hadProblem = !problem.isEmpty();
     problem.clear();
     const QPointer<ApplicationTheme> guard(q);
@@ -240,7 +241,20 @@ void ApplicationTheme::Private::applyWaiting()
         return;
     }
     const LookInForce::Waiting pending = std::exchange(lookInForce().waiting, {});
-    pending.theme->d->apply(pending.folder, pending.name, pending.theme->d->accent);
+    Private *const d = pending.theme->d.get();
+    if (!d->apply(pending.folder, pending.name, d->accent) && pending.theme)
+        d->dropAccent();
+}
+
+// Whether a theme can have an accent that was set while something was under way is known afterwards.
+void ApplicationTheme::Private::dropAccent()
+{
+    if (name.isNull() || accent == shownAccent)
+        return;
+    if (ownAccent == accent)
+        ownAccent = shownAccent;
+    accent = shownAccent;
+    Q_EMIT q->accentChanged();
 }
 
 // The user's choice: a theme, and an accent.

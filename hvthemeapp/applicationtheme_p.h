@@ -74,6 +74,7 @@ public:
     QString faultOf(const ThemeFolder &themes, const QString &newName) const;
     QString read(const ThemeFolder &themes, const QString &newName, const QColor &newAccent);
     void show(const ThemeFolder &themes, const QString &newName);
+    void dropAccent();
     bool choose(const QString &newName, const QColor &nextOwnAccent);
     enum class Failing {
         Follows,
@@ -104,7 +105,8 @@ public:
     QString suffix = defaultThemeSuffix(); // of their files
     QString name; // of the look in force,
     ThemeFolder nameFolder; // which comes from here
-    QColor accent; // in force; invalid for the brand of the theme itself
+    QColor accent; // in force, or coming; invalid for the brand of the theme itself
+    QColor shownAccent; // that the theme in force was read with
     QColor ownAccent; // as it was set, not the desktop's
     QHash<QString, QByteArray> unsavedTexts; // by absolute path
     bool followsAccent = false;

@@ -17,6 +17,8 @@
 #include <QSignalSpy>
 #include <QtTest>
 
+#include <functional>
+
 using HV::ApplicationTheme;
 
 // An accent takes the place of the brand, and text stays as legible as it was.
@@ -43,6 +45,7 @@ private Q_SLOTS:
     void themeWithoutBrand();
     void tonesOfTheThemesOwn();
     void openQuotationMark();
+    void refusedAfterAPaint();
     void filePathIsTheThemes();
     void saveAndRestore();
     void deletedByASlot();
@@ -332,6 +335,35 @@ void tst_Accent::openQuotationMark()
              qPrintable(theme.problem()));
     QVERIFY(!theme.accent().isValid());
     QCOMPARE(theme.theme()->color("GeneralButtonBackgroundNormal"), ground);
+    m_log.take(); // most colours are derived
+}
+
+// Whether it can be had is not known before the end of the paint.
+void tst_Accent::refusedAfterAPaint()
+{
+    class Painting : public QWidget
+    {
+    public:
+        std::function<void()> call;
+
+    protected:
+        void paintEvent(QPaintEvent *) override { call(); }
+    };
+    TemporaryFolder folder;
+    folder.write("default.theme", "[Palettes]\nBrand_6=#2D63F0\nVeil=\"#80000000\n");
+    folder.write("own.theme",
+                 "[Colors]\nGeneralButtonBackgroundNormal=Brand_6\nColor_W100=#ffffff\n");
+    ApplicationTheme theme;
+    QVERIFY(theme.setFolder(folder.path()));
+    QVERIFY(theme.setName("own"));
+    Painting widget;
+    widget.call = [&] { theme.setAccent(QColor("#ffd000")); };
+    widget.grab();
+    QCoreApplication::processEvents();
+    QVERIFY2(theme.problem().contains("look for a quotation mark that is never closed"),
+             qPrintable(theme.problem()));
+    QVERIFY(!theme.accent().isValid());
+    QVERIFY2(theme.setName("own"), qPrintable(theme.problem())); // not with that accent again
     m_log.take(); // most colours are derived
 }
 
