@@ -341,9 +341,9 @@ void ThemedStyle::drawControl(ControlElement element, const QStyleOption *option
                               const QWidget *widget) const
 {
     const auto *item = qstyleoption_cast<const QStyleOptionViewItem *>(option);
-    if (!IconColors::hasValues()) {
-        QProxyStyle::drawControl(element, option, painter, widget);
-    } else if (element == CE_ColumnViewGrip) {
+    if (!IconColors::hasValues())
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_ColumnViewGrip) {
         drawGrip(*option, *painter);
     } else if (const auto *grip = qstyleoption_cast<const QStyleOptionSizeGrip *>(option);
                grip && element == CE_SizeGrip) {

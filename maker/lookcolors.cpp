@@ -204,7 +204,7 @@ QString Designer::whyNot(const ColorPair &pair) const
 {
     if (pair.need != Need::EdgeOfGround)
         return {};
-    const QString where = QLatin1String(" (the edge of ") % pair.selector % QLatin1Char(')');
+    QString where = QLatin1String(" (the edge of ") % pair.selector % QLatin1Char(')');
     const LookPairs::Room room = m_pairs.roomFor(pair);
     constexpr double rounding = 1e-9;
     if (room.text.isEmpty() || room.ratio > m_pairs.required(pair) + rounding)

@@ -54,7 +54,7 @@ QString tooLarge(const QString &path, qint64 limit)
 // for granted: files of the system have none.
 QByteArray contentOf(QFile *file, qint64 limit)
 {
-    constexpr qint64 smallestRead = 64 * 1024;
+    constexpr qint64 smallestRead = qint64(64) * 1024;
     const qint64 most = qMax(smallestRead, file->size() + 1);
     QByteArray content;
     while (content.size() <= limit) {
