@@ -128,8 +128,14 @@ QString ApplicationTheme::Private::read(const ThemeFolder &themes, const QString
 {
     QString fault;
     const auto derived = readTheme(*theme, themes, newName, newAccent, unsavedTexts, &fault);
-    if (!derived)
+    if (!derived) {
+        QString again;
+        if (name.isNull())
+            theme->clear();
+        else
+            readTheme(*theme, nameFolder, name, shownAccent, unsavedTexts, &again);
         return fault;
+    }
     const QString file = themes.file(newName);
     const QString lacks = derived->isEmpty()
         ? QString()
@@ -178,7 +184,7 @@ void ApplicationTheme::Private::show(const ThemeFolder &themes, const QString &n
     const bool hadProblem = !problem.isEmpty();
     problem.clear();
     const QPointer<ApplicationTheme> guard(q);
-    q->restyleAgain();
+    restyle();
     if (guard && hadProblem)
         Q_EMIT q->problemChanged();
     if (guard && isOther)
@@ -321,30 +327,37 @@ void ApplicationTheme::restyleAgain()
         d->applyLater(d->comingFolder(), d->comingName());
         return;
     }
-    const QString look = d->templates.styleSheet(d->theme.get(), d->keepsFonts);
+    const QPointer<ApplicationTheme> guard(this);
+    if (d->report(d->templates.problem()) && guard)
+        d->restyle();
+}
+
+void ApplicationTheme::Private::restyle()
+{
+    const QString look = templates.styleSheet(theme.get(), keepsFonts);
     QString styleSheet = look;
-    QPalette palette = applicationPalette(d->theme->values());
+    QPalette newPalette = applicationPalette(theme->values());
     lookInForce().isChanging = true;
     ThemedStyle::install();
-    d->ownStyleSheet.reset();
-    complete(&palette, &styleSheet);
-    lookInForce().owner = this;
+    ownStyleSheet.reset();
+    q->complete(&newPalette, &styleSheet);
+    lookInForce().owner = q;
     // A class that does without our complete() knows alone what else is the application's.
-    const bool isAllKnown = d->ownStyleSheet.has_value();
+    const bool isAllKnown = ownStyleSheet.has_value();
     lookInForce().styleSheet = {look, isAllKnown ? styleSheet : look,
-                                d->ownStyleSheet.value_or(QString())};
-    d->palette = palette;
-    d->watch();
-    d->lift();
+                                ownStyleSheet.value_or(QString())};
+    palette = newPalette;
+    watch();
+    lift();
 
     // What happens to a widget may run any code of the application, which may delete the object.
-    const QPointer<ApplicationTheme> guard(this);
-    setProgramLook(palette, QVariantMap(d->theme->values()), styleSheet);
+    const QPointer<ApplicationTheme> guard(q);
+    setProgramLook(newPalette, QVariantMap(theme->values()), styleSheet);
     lookInForce().isChanging = false;
     if (lookInForce().waiting.theme)
-        Private::applyWaitingSoon();
+        applyWaitingSoon();
     if (guard)
-        Q_EMIT changed();
+        Q_EMIT guard->changed();
 }
 
 void ApplicationTheme::complete(QPalette *, QString *styleSheet)

@@ -269,7 +269,8 @@ public:
     bool restore(const QSettings &settings);
 
     /*! \brief Gives the application the look in force once more: with the style sheet that it has set
-     *         itself, and with what complete() now adds. Does nothing before the first look. */
+     *         itself, and with what complete() now adds. Does nothing before the first look, and, with a
+     *         problem(), while a template cannot be read. */
     void restyleAgain();
 
 Q_SIGNALS: // once everything that changes has changed

@@ -75,6 +75,7 @@ public:
     QString read(const ThemeFolder &themes, const QString &newName, const QColor &newAccent);
     void show(const ThemeFolder &themes, const QString &newName);
     void dropAccent();
+    void restyle();
     bool choose(const QString &newName, const QColor &nextOwnAccent);
     enum class Failing {
         Follows,

@@ -3,6 +3,7 @@
 
 #include "themedstyle.h"
 
+#include "attributevalues.h"
 #include "controldrawing.h"
 #include "iconcolors.h"
 #include "standarddrawings.h"
@@ -20,6 +21,7 @@
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QSlider>
 #include <QStyleFactory>
@@ -117,6 +119,20 @@ bool isUprightProgress(const QWidget &widget)
         && static_cast<const QProgressBar &>(widget).orientation() == Qt::Vertical;
 }
 
+// Neither Qt's styles nor a rule that leaves items their colours tell the row under the mouse from others.
+bool isUnderMouse(const QStyleOptionViewItem &item)
+{
+    const QStyle::State states = QStyle::State_MouseOver | QStyle::State_Enabled;
+    return (item.state & states) == states && !(item.state & QStyle::State_Selected);
+}
+
+void drawVeil(const QStyleOptionViewItem &item, QPainter &painter)
+{
+    QColor veil = item.palette.color(QPalette::Text);
+    veil.setAlphaF(0.08F);
+    painter.fillRect(item.rect, veil);
+}
+
 // Qt 6 takes the ground of a selected row from the group of the view and the text from that of the row,
 // and a row may be disabled alone.
 QPalette withOneHighlight(QPalette palette, QPalette::ColorGroup group)
@@ -178,6 +194,7 @@ void ThemedStyle::keepName()
 void ThemedStyle::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
+    const bool hasAttributes = keepAttributeValues(*widget);
     auto *area = qobject_cast<QMdiArea *>(widget);
     if (area)
         followPalette(*area);
@@ -185,8 +202,10 @@ void ThemedStyle::polish(QWidget *widget)
         renewIcon(*widget);
     if (area || qobject_cast<QSlider *>(widget) || qobject_cast<QMenu *>(widget)
         || qobject_cast<QPushButton *>(widget) || qobject_cast<QProgressBar *>(widget)
-        || treeOfCategories(widget))
+        || treeOfCategories(widget) || hasAttributes)
         widget->installEventFilter(this);
+    if (auto *view = qobject_cast<QAbstractItemView *>(widget))
+        view->viewport()->setAttribute(Qt::WA_Hover);
 }
 
 void ThemedStyle::unpolish(QWidget *widget)
@@ -202,6 +221,9 @@ bool ThemedStyle::eventFilter(QObject *watched, QEvent *event)
         event->type() == QEvent::PaletteChange ? qobject_cast<QMdiArea *>(watched) : nullptr;
     if (area)
         followPalette(*area);
+    if ((event->type() == QEvent::Paint || event->type() == QEvent::Show)
+        && watched->isWidgetType())
+        renewAttributeRules(*static_cast<QWidget *>(watched));
     const bool isForeign = event->type() == QEvent::Paint && watched != m_painted
         && watched->isWidgetType() && IconColors::hasValues();
     return (isForeign && paint(*static_cast<QWidget *>(watched), *event))
@@ -252,20 +274,29 @@ void ThemedStyle::paintItself(QWidget &widget, QEvent &event)
     m_painted = outer;
 }
 
-// Whether the program's style has another picture than the one that it changes.
+// Whether the program's style has another picture than the one that it changes. Icons that no style has
+// are made of the pixmap that the outermost one has, which is this; so pixmaps are compared first.
 bool ThemedStyle::hasOwn(StandardPixmap pixmap, const QStyleOption *option,
                          const QWidget *widget) const
 {
+    // The ground of this button is the look's, whatever the program had below its sign.
+    const bool isOfLook = pixmap == SP_ToolBarHorizontalExtensionButton
+        || pixmap == SP_ToolBarVerticalExtensionButton;
+    if (!m_changed || isOfLook)
+        return false;
+    const QScopedValueRollback<bool> comparing(m_isComparing, true);
     const QSize size(16, 16);
-    return m_changed
-        && QProxyStyle::standardIcon(pixmap, option, widget).pixmap(size).toImage()
+    return QProxyStyle::standardPixmap(pixmap, option, widget).toImage()
+        != m_changed->standardPixmap(pixmap, option, widget).toImage()
+        || QProxyStyle::standardIcon(pixmap, option, widget).pixmap(size).toImage()
         != m_changed->standardIcon(pixmap, option, widget).pixmap(size).toImage();
 }
 
 QIcon ThemedStyle::standardIcon(StandardPixmap icon, const QStyleOption *option,
                                 const QWidget *widget) const
 {
-    const char *drawing = IconColors::hasValues() ? standardDrawing(icon, option, widget) : nullptr;
+    const char *drawing =
+        IconColors::hasValues() && !m_isComparing ? standardDrawing(icon, option, widget) : nullptr;
     return drawing && !hasOwn(icon, option, widget)
         ? themedIcon(QLatin1String(drawing))
         : QProxyStyle::standardIcon(icon, option, widget);
@@ -275,8 +306,9 @@ QPixmap ThemedStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption *o
                                     const QWidget *widget) const
 {
     const QPixmap own = QProxyStyle::standardPixmap(pixmap, option, widget);
-    const char *drawing =
-        IconColors::hasValues() ? standardDrawing(pixmap, option, widget) : nullptr;
+    const char *drawing = IconColors::hasValues() && !m_isComparing
+        ? standardDrawing(pixmap, option, widget)
+        : nullptr;
     if (!drawing || hasOwn(pixmap, option, widget))
         return own;
     return themedIcon(QLatin1String(drawing))
@@ -319,6 +351,9 @@ void ThemedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *op
     const char *name = IconColors::hasValues() ? primitiveDrawing(element, *option) : nullptr;
     if (!name) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (item && element == PE_PanelItemViewItem && IconColors::hasValues()
+            && isUnderMouse(*item))
+            drawVeil(*item, *painter);
         return;
     }
     // The dots of a handle fill the middle of their drawing alone.

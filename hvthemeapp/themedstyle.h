@@ -77,6 +77,7 @@ private:
     const QObject *m_painted = nullptr; // by itself, as was asked for
     // Qt's, behind what the program makes of it; null if it makes nothing
     QPointer<QStyle> m_changed;
+    mutable bool m_isComparing = false; // what the two have
 };
 
 } // namespace HV

@@ -3,6 +3,7 @@
 
 #include "themereading.h"
 
+#include "applicationtheme.h"
 #include "missingcolors.h"
 #include "missingimages.h"
 #include "themefolder.h"
@@ -11,6 +12,7 @@
 #include <hvtheme/theme.h>
 #include <maker/rebranding.h>
 
+#include <QDir>
 #include <QFile>
 #include <QMap>
 #include <QSettings>
@@ -31,6 +33,18 @@ QStringList keysOf(QSettings &settings, const QString &section)
     return keys;
 }
 
+QString problemOfWriting(QTemporaryFile *file, const QByteArray &text)
+{
+    if (!file->open() || file->write(text) != text.size() || !file->flush())
+        return ApplicationTheme::tr(
+                   "No temporary file can be written in \"%1\", which the look takes "
+                   "(%2); make room there, or let TMPDIR name another folder.")
+            .arg(QDir::tempPath(), file->errorString());
+    file->fileName(); // a closed file that was never named is lost
+    file->close();
+    return {};
+}
+
 // A theme takes values from files only, so what is to be added goes through one.
 class Supplement
 {
@@ -40,21 +54,23 @@ public:
         m_sections[section] += key + QLatin1Char('=') + value + QLatin1Char('\n');
     }
 
-    // Leaves the theme as it is where no temporary file can be written.
+    // Leaves the theme as it is, and says why, where no temporary file can be written.
     template<typename Read>
-    void giveTo(Read read) const
+    QString giveTo(Read read) const
     {
-        QTemporaryFile file;
-        if (m_sections.isEmpty() || !file.open())
-            return;
+        if (m_sections.isEmpty())
+            return {};
+        QByteArray text;
         for (auto it = m_sections.cbegin(); it != m_sections.cend(); ++it)
-            file.write(QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1());
-        if (!file.flush())
-            return;
-        const QString path = file.fileName(); // a closed file that was never named is lost
-        file.close();
+            text += QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1();
+        QTemporaryFile file;
+        const QString problem = problemOfWriting(&file, text);
+        if (!problem.isEmpty())
+            return problem;
+        const QString path = file.fileName();
         QSettings settings(path, iniFormat(path));
         read(settings);
+        return {};
     }
 
 private:
@@ -77,7 +93,7 @@ public:
             m_second.emplace(file, iniFormat(file));
     }
 
-    QStringList run()
+    std::optional<QStringList> run(QString *problem)
     {
         m_theme.clear();
         addPaletteAndIntegers();
@@ -85,6 +101,11 @@ public:
         if (m_second)
             read(*m_second);
         QStringList derived = addColors();
+        if (!m_problem.isEmpty()) {
+            *problem = m_problem;
+            m_theme.clear();
+            return std::nullopt;
+        }
         addMissingImages(m_theme);
         // Everything is stored now, so what the theme's class requires is looked for in an empty
         // part of the default file; this also gives the theme its file path.
@@ -128,7 +149,7 @@ private:
                     supplement.add(section, key, sample.value(path).toString());
             }
         }
-        supplement.giveTo([this](QSettings &settings) {
+        m_problem = supplement.giveTo([this](QSettings &settings) {
             const QMetaObject &vocabulary = *m_theme.metaObject();
             m_theme.readPalettes(settings, false, vocabulary);
             m_theme.readIntegers(settings, false, vocabulary);
@@ -151,9 +172,11 @@ private:
         };
         add(derived);
         add(accentColors(known)); // optional, so nobody is told
-        supplement.giveTo([this](QSettings &settings) {
+        const QString problem = supplement.giveTo([this](QSettings &settings) {
             m_theme.readColors(settings, false, *m_theme.metaObject());
         });
+        if (m_problem.isEmpty())
+            m_problem = problem;
         QStringList names = derived.keys();
         names.sort();
         return names;
@@ -163,6 +186,7 @@ private:
     QSettings m_defaultFile;
     QSettings m_first;
     std::optional<QSettings> m_second;
+    QString m_problem;
 };
 
 QByteArray contentOf(const QString &path, const QHash<QString, QByteArray> &contents)
@@ -186,32 +210,29 @@ public:
                                 isDefault ? QByteArray() : contentOf(folder.file(name), contents)};
         QStringList notes; // what cannot be had is a tone that comes near
         if (accent.isValid()) {
-            const auto branded = Maker::withBrand(texts, accent, &notes, &m_problem);
+            QString fault;
+            const auto branded = Maker::withBrand(texts, accent, &notes, &fault);
             texts = branded.value_or(texts);
+            if (!fault.isNull())
+                m_problem =
+                    folder.file(name) % QLatin1String(": the accent cannot be had: ") % fault;
         }
-        m_isWritten = write(&m_first, texts.base) && write(&m_second, texts.own);
+        if (m_problem.isEmpty())
+            m_problem = problemOfWriting(&m_first, texts.base);
+        if (m_problem.isEmpty())
+            m_problem = problemOfWriting(&m_second, texts.own);
     }
 
-    /*! \brief One sentence if the accent cannot be had, or a null text. */
+    /*! \brief One sentence if the files cannot be had, or an empty text. */
     QString problem() const { return m_problem; }
 
-    QString first() const { return m_isWritten ? m_first.fileName() : QString(); }
-    QString second() const { return m_isWritten ? m_second.fileName() : QString(); }
+    QString first() const { return m_first.fileName(); }
+    QString second() const { return m_second.fileName(); }
 
 private:
-    static bool write(QTemporaryFile *file, const QByteArray &text)
-    {
-        if (!file->open() || file->write(text) != text.size() || !file->flush())
-            return false;
-        file->fileName(); // a closed file that was never named is lost
-        file->close();
-        return true;
-    }
-
     QTemporaryFile m_first;
     QTemporaryFile m_second;
     QString m_problem;
-    bool m_isWritten = false;
 };
 
 } // namespace
@@ -221,14 +242,13 @@ std::optional<QStringList> readTheme(Theme &theme, const ThemeFolder &folder, co
                                      const QHash<QString, QByteArray> &contents, QString *problem)
 {
     if (!accent.isValid() && contents.isEmpty())
-        return Reading(theme, folder, name, QString(), QString()).run();
+        return Reading(theme, folder, name, QString(), QString()).run(problem);
     const OtherFiles files(folder, name, accent, contents);
-    if (!files.problem().isNull()) {
-        *problem =
-            folder.file(name) % QLatin1String(": the accent cannot be had: ") % files.problem();
+    if (!files.problem().isEmpty()) {
+        *problem = files.problem();
         return std::nullopt;
     }
-    return Reading(theme, folder, name, files.first(), files.second()).run();
+    return Reading(theme, folder, name, files.first(), files.second()).run(problem);
 }
 
 } // namespace HV

@@ -32,7 +32,8 @@ class ThemeFolder;
  * \param contents  by path: what stands in place of files' own texts.
  *
  * \return the colours that had to be derived, sorted, but for optional ones. Nothing, with one sentence
- *         in \a problem and the theme as it was, if the files cannot be given the accent.
+ *         in \a problem, if the files cannot be given the accent or a temporary file that this takes
+ *         cannot be written; the theme is then what it was, or empty.
  *
  * Call it if ThemeFolder::problemOf() has nothing to say. Each file is read once. Internal.
  */

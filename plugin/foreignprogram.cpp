@@ -40,6 +40,7 @@ std::optional<bool> isDarkPalette(const QPalette &palette)
 
 ForeignProgram::ForeignProgram(const Options &options)
     : m_options(options)
+    , m_startPalette(QApplication::palette())
 {
     // An application style sheet wants a style to stand on, and makes none itself.
     QApplication::style();
@@ -121,6 +122,19 @@ bool ForeignProgram::takeWantedTheme()
     return m_options.theme.isEmpty() ? followDesktop() : setName(m_options.theme);
 }
 
+// A theme that is like the program ends the following, and what the desktop says still counts.
+void ForeignProgram::watchDesktop()
+{
+    if (m_desktop || !m_options.theme.isEmpty())
+        return;
+    m_desktop = new HV::DesktopSettings(m_startPalette, this);
+    connect(m_desktop, &HV::DesktopSettings::changed, this, [this] {
+        const QPalette palette = QApplication::palette();
+        if (m_isThemeLikeProgram && takeWantedTheme())
+            takeThemeLike(palette);
+    });
+}
+
 /*
  * The look of a program with a palette of its own would be neither its nor the theme's, with white
  * pages between black bars. Returns false if the theme in force suits the program.
@@ -143,6 +157,7 @@ bool ForeignProgram::takeThemeLike(const QPalette &palette)
     if (fitting == name() || !setName(fitting))
         return false;
     m_isThemeLikeProgram = true;
+    watchDesktop();
     return suits() || takeWantedTheme();
 }
 

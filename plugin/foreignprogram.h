@@ -5,6 +5,7 @@
 #define PLUGIN_FOREIGNPROGRAM_H
 
 #include <hvthemeapp/applicationtheme.h>
+#include <hvthemeapp/desktopsettings.h>
 
 #include <QElapsedTimer>
 #include <QHash>
@@ -17,7 +18,8 @@
  *
  * Lays the theme below what the program sets itself: its application style sheet comes behind the
  * theme's, and the roles that it sets in the application's palette keep its colours. A program that
- * is light by a palette of its own gets a light theme, and one that is dark a dark one. Qt tells nobody
+ * is light by a palette of its own gets a light theme, and one that is dark a dark one, as long as it
+ * is; the desktop is followed in all else. Qt tells nobody
  * that an application style sheet was replaced. So what is told is taken for a sign to look: a
  * widget that is polished or changes its style.
  */
@@ -47,6 +49,7 @@ private:
     using Brushes = QHash<QPair<QPalette::ColorGroup, QPalette::ColorRole>, QBrush>;
 
     bool takeWantedTheme();
+    void watchDesktop();
     bool takeThemeLike(const QPalette &palette);
     void look();
     void lookSoon();
@@ -55,6 +58,8 @@ private:
 
     Options m_options;
     bool m_isThemeLikeProgram = false; // instead of the one that is asked for
+    HV::DesktopSettings *m_desktop = nullptr; // for the time of such a theme
+    const QPalette m_startPalette;
     QPalette m_themePalette; // as the theme has it
     QStringList m_themeStyleSheets; // of the last themes, the one in force at the end
     QPalette m_palette; // what the application has since the last look

@@ -100,6 +100,9 @@ private Q_SLOTS:
     void missingImage();
     void damagedTemplates_data();
     void damagedTemplates();
+    void restyledWithDamage();
+    void noTemporaryFiles_data();
+    void noTemporaryFiles();
     void noTemplates_data();
     void noTemplates();
     void missingFolders();
@@ -294,6 +297,59 @@ void tst_BadLooks::damagedTemplates()
     QVERIFY(!m_theme->setName("light"));
     compareProblem(*m_theme, "\"" + folder.filePath("a.qss") + "\" " + fault,
                    "out of the templates folder.");
+}
+
+// Every way to the same look looks at the templates first, and a mended one ends the problem.
+void tst_BadLooks::restyledWithDamage()
+{
+    TemporaryFolder folder;
+    folder.write("a.qss", "QLabel#a {color: #010203;}");
+    QVERIFY(m_theme->addTemplates(folder.path()));
+    m_styleSheet = qApp->styleSheet();
+    folder.write("a.qss", "QLabel#a {color: #040506;");
+    m_theme->restyleAgain();
+    compareProblem(*m_theme, "\"" + folder.filePath("a.qss") + "\" has a rule",
+                   "out of the templates folder.");
+    folder.write("a.qss", "QLabel#a {color: #040506;}");
+    m_theme->restyleAgain();
+    QCOMPARE(m_theme->problem(), QString());
+    QVERIFY(qApp->styleSheet().contains("#040506"));
+}
+
+void tst_BadLooks::noTemporaryFiles_data()
+{
+    QTest::addColumn<QString>("what");
+    for (const char *what : {"accent", "unsaved-texts", "colors-to-derive"})
+        QTest::newRow(what) << QString(what);
+}
+
+// What goes through a temporary file says so if there can be none, and the theme stays whole.
+void tst_BadLooks::noTemporaryFiles()
+{
+    QFETCH(QString, what);
+    TemporaryFolder folder;
+    folder.write("default.theme", sample("default"));
+    folder.write("bare.theme", "[Colors]\nBackgroundColor_2=#101010\n");
+    const QByteArray former = qgetenv("TMPDIR");
+    const QVariantMap values = m_theme->theme()->values();
+    qputenv("TMPDIR", "/proc");
+    const auto back = qScopeGuard([&] {
+        if (former.isNull())
+            qunsetenv("TMPDIR");
+        else
+            qputenv("TMPDIR", former);
+    });
+    if (what == "accent") {
+        QVERIFY(!m_theme->setAccent(Qt::red));
+    } else if (what == "unsaved-texts") {
+        QVERIFY(!m_theme->setUnsavedTexts({{m_theme->folder() + "/dark.theme", "[Colors]\n"}}));
+    } else {
+        QVERIFY(m_theme->setFolder(folder.path())); // has no theme of the name in force
+        QVERIFY(!m_theme->setName("bare"));
+    }
+    compareProblem(*m_theme, "No temporary file can be written in \"/proc\"",
+                   "or let TMPDIR name another folder.");
+    QCOMPARE(QVariantMap(m_theme->theme()->values()), values);
 }
 
 // What is no file is no template, whatever it is called; a pipe would be waited for.

@@ -74,9 +74,31 @@ double mostIn(const QImage &image, const QRect &area, const QColor &ground)
     return most;
 }
 
+/*! A style of a program's, with pictures for a light window. */
+class DarkPixmaps : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+
+    QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
+                           const QWidget *widget) const override
+    {
+        if (pixmap != SP_ToolBarHorizontalExtensionButton && pixmap != SP_DialogOkButton)
+            return QProxyStyle::standardPixmap(pixmap, option, widget);
+        QPixmap dark(16, 16);
+        dark.fill(QColor(1, 2, 3));
+        return dark;
+    }
+};
+
 QString number(double value)
 {
     return QString::number(value, 'f', 2);
+}
+
+QColor pixelOf(const QPixmap &pixmap)
+{
+    return pixmap.toImage().pixelColor(pixmap.rect().center());
 }
 
 void addLooks()
@@ -454,7 +476,7 @@ void tst_FineLines::moreInToolBar()
 
     const QString former = QApplication::style()->objectName();
     if (ownStyle)
-        QApplication::setStyle(new QProxyStyle(QStyleFactory::create("fusion")));
+        QApplication::setStyle(new DarkPixmaps(QStyleFactory::create("fusion")));
     const auto back = qScopeGuard([&] {
         if (ownStyle)
             QApplication::setStyle(former);
@@ -487,6 +509,11 @@ void tst_FineLines::moreInToolBar()
     }
     QVERIFY2(sign.width() >= 4 && sign.height() >= 4,
              qUtf8Printable(QString("%1 by %2").arg(sign.width()).arg(sign.height())));
+    if (ownStyle) // and the others, asked for either way
+        QCOMPARE(pixelOf(QApplication::style()->standardPixmap(QStyle::SP_DialogOkButton)),
+                 QColor(1, 2, 3));
+    QVERIFY(pixelOf(QApplication::style()->standardPixmap(QStyle::SP_TrashIcon))
+            != QColor(1, 2, 3));
 }
 
 QTEST_MAIN(tst_FineLines)

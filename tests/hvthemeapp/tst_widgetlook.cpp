@@ -306,6 +306,8 @@ private Q_SLOTS:
     void selectedIcon();
     void category_data();
     void category();
+    void changedValue_data();
+    void changedValue();
     void ownSeparator();
     void templateProperty_data();
     void templateProperty();
@@ -836,6 +838,54 @@ void tst_WidgetLook::category()
         QVERIFY2(contrast >= 3, qUtf8Printable(QString::number(contrast)));
     }
     QVERIFY(closed != open);
+}
+
+void tst_WidgetLook::changedValue_data()
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<QByteArray>("property");
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<QVariant>("after");
+
+    const auto add = [](Make make, const char *property, const QVariant &before,
+                        const QVariant &after) {
+        const std::unique_ptr<QWidget> widget(make());
+        QTest::addRow("%s-%s", widget->metaObject()->className(), property)
+            << make << QByteArray(property) << before << after;
+    };
+    const Make button = [] { return static_cast<QWidget *>(new QPushButton); };
+    add(button, "text", QString(), QString("OK"));
+    add(button, "maximumWidth", 20, QWIDGETSIZE_MAX);
+    add(toolButton, "autoRaise", true, false);
+    add(filled<QSpinBox>, "readOnly", false, true);
+    add(filled<QSpinBox>, "frame", true, false);
+    add(filled<QDateEdit>, "calendarPopup", false, true);
+    add(filled<QLineEdit>, "frame", true, false);
+    add(filled<QComboBox>, "frame", false, true);
+    add(range<Qt::Horizontal, QSlider>, "tickPosition", QSlider::NoTicks, QSlider::TicksBelow);
+    add(filled<QTextEdit>, "frameShape", QFrame::NoFrame, QFrame::StyledPanel);
+}
+
+// Qt looks for the rules of a widget when it is polished; what changes later looks as if made so.
+void tst_WidgetLook::changedValue()
+{
+    QFETCH(Make, make);
+    QFETCH(QByteArray, property);
+    QFETCH(QVariant, before);
+    QFETCH(QVariant, after);
+
+    HV::ApplicationTheme theme;
+    QVERIFY(theme.setName("dark"));
+    const auto set = [&](QWidget *widget, const QVariant &value) {
+        QVERIFY(widget->setProperty(property.constData(), value));
+    };
+    Stage made(make, [&](QWidget *widget) { set(widget, after); });
+    Stage changed(make, [&](QWidget *widget) { set(widget, before); });
+    set(changed.control(), after);
+    changed.picture(); // in which it is seen that other rules fit
+    Zoo::settle(changed.control()->window());
+    QCOMPARE(changed.control()->size(), made.control()->size());
+    QCOMPARE(changed.picture().copy(changed.place()), made.picture().copy(made.place()));
 }
 
 // Who gives the lines of menus a rule gets what the rule says.

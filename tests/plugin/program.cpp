@@ -131,6 +131,24 @@ QJsonObject darkAgain()
     });
 }
 
+// Light by itself on a dark desktop, which then asks for high contrast.
+QJsonObject contrastLater()
+{
+    return withLabel(setLightPalette, [] {
+        QCoreApplication::processEvents();
+        const QString before = qApp->styleSheet();
+        QFile file(qEnvironmentVariable("XDG_CONFIG_HOME") + "/kdeglobals");
+        if (!file.open(QIODevice::Append))
+            return;
+        file.write("[General]\nColorScheme=HighContrast\n");
+        file.close();
+        QElapsedTimer timer;
+        timer.start();
+        while (qApp->styleSheet() == before && timer.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    });
+}
+
 QJsonObject replacedSheet()
 {
     return withLabel(setSheet, [] {
@@ -253,6 +271,7 @@ int report(const QString &name)
         {"palette-light-after", [] { return withLabel(nothing, setLightPalette); }},
         {"palette-dark-again", darkAgain},
         {"palette-of-widget", widgetPalette},
+        {"contrast-later", contrastLater},
         {"style", [] { return withLabel(nothing, [] { QApplication::setStyle("windows"); }); }},
         {"items", items},
         {"document", document},

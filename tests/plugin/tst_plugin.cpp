@@ -43,6 +43,7 @@ private Q_SLOTS:
     void noSuchTheme();
     void desktop_data();
     void desktop();
+    void desktopOfLightProgram();
     void themeOfItsOwn();
 
 private:
@@ -454,6 +455,20 @@ void tst_Plugin::desktop()
     QCOMPARE(facts.errors, QByteArray());
     QCOMPARE(::isDark(facts.object["window"]), isDark);
     QVERIFY(!facts.object["sheet"].toString().isEmpty());
+}
+
+// A program that gets another theme than the desktop asks for follows in what it can.
+void tst_Plugin::desktopOfLightProgram()
+{
+    const TemporaryTheme home("");
+    home.write("kdeglobals", "[Colors:Window]\nBackgroundNormal=30,30,34\n");
+    const QStringList environment{"XDG_CONFIG_HOME=" + home.path(),
+                                  "DBUS_SESSION_BUS_ADDRESS=unix:path=/nowhere"};
+    const Facts light = ::themed("palette-light", {"--follow"}, environment);
+    const Facts contrast = ::themed("contrast-later", {"--follow"}, environment);
+    QCOMPARE(contrast.errors, QByteArray());
+    QVERIFY(!light.object["sheet"].toString().isEmpty());
+    QVERIFY(contrast.object["sheet"] != light.object["sheet"]);
 }
 
 void tst_Plugin::themeOfItsOwn()
