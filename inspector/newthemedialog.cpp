@@ -24,7 +24,7 @@ namespace
 // A folder that can be written: that of the theme, or else a new one at home.
 QString suggestedFolder(const HV::ApplicationTheme &look)
 {
-    const QString folder = look.folder();
+    QString folder = look.folder();
     if (!isResourcePath(folder) && QFileInfo(folder).isWritable())
         return folder;
     return QDir::homePath() % QLatin1String("/themes");
@@ -151,7 +151,7 @@ QString NewThemeDialog::goOn(const NewTheme &theme, const QStringList &files)
     if (isElsewhere && !look->setFolder(theme.folder))
         return look->problem();
     if (!look->setName(theme.name)) {
-        const QString problem = look->problem();
+        QString problem = look->problem();
         if (isElsewhere)
             look->setFolder(before);
         return problem;

@@ -84,7 +84,7 @@ int runExplain(const QStringList &arguments)
         return ExitUnusable;
 
     const ThemeStack &theme = project->theme(positional.at(1));
-    const QString asked = positional.at(2);
+    const QString &asked = positional.at(2);
     const Explanation explanation(*project, theme, asked);
     if (!explanation.isDefined() && colorOf(asked).isValid())
         return explainColor(*project, theme, asked);

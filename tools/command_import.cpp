@@ -26,7 +26,7 @@ namespace
 {
 
 const QString commandName = QStringLiteral("import");
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(16) * 1024 * 1024;
 
 struct Wishes {
     QString name; // of the theme or the set, or empty

@@ -25,7 +25,7 @@ namespace
 {
 
 const QString commandName = QStringLiteral("new");
-constexpr qint64 largestTheme = 16 * 1024 * 1024;
+constexpr qint64 largestTheme = qint64(16) * 1024 * 1024;
 
 struct KnownOptions {
     const QCommandLineOption suffix = ThemeOptions::suffixOption();
