@@ -181,6 +181,8 @@ void ApplicationTheme::Private::show(const ThemeFolder &themes, const QString &n
     name = newName;
     nameFolder = themes;
     shownAccent = accent;
+    // For the inspector; folder() and suffix() may be others by now.
+    q->setProperty("hvthemeFilesInForce", QStringList{themes.path(), themes.suffix()});
     const bool hadProblem = !problem.isEmpty();
     problem.clear();
     const QPointer<ApplicationTheme> guard(q);

@@ -55,12 +55,13 @@ private:
 
 void Inspector::open(QWidget *widget)
 {
-    if (!isOpen()) { // one that was closed may still be there for a while
+    if (!window() || window()->isClosed()) // it may still be there for a while
         window() = new InspectorWindow;
-        window()->show();
-    } else {
+    if (isOpen()) {
         window()->raise();
         window()->activateWindow();
+    } else {
+        window()->show();
     }
     if (widget)
         window()->pane()->pick(widget);

@@ -176,9 +176,14 @@ void ChangePanel::showTargets()
 void ChangePanel::showTarget()
 {
     const ChangeTarget *now = target();
-    const bool isForAll = now && now->isOfDefaultFile;
-    m_warning->setText(tr("It stands in the default file: a change there changes all themes."));
-    m_warning->setVisible(isForAll);
+    QStringList warnings;
+    if (now && now->isOfDefaultFile)
+        warnings << tr("It stands in the default file: a change there changes all themes.");
+    if (now && m_subject.keysOfAccent.contains(now->fileKey))
+        warnings << tr(
+            "The program shows its accent instead: a change may be seen only without it.");
+    m_warning->setText(warnings.join(QLatin1Char(' ')));
+    m_warning->setVisible(!warnings.isEmpty());
     const QString shown = now ? now->place.file % QLatin1Char('\n') % now->fileKey : QString();
     if (shown != m_shown) { // a dialog that was left open would write there
         m_color->closeDialog();

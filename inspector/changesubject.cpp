@@ -69,6 +69,10 @@ ChangeSubject ChangeSubject::of(const InspectedSheet &sheet, Kind kind, const QS
     subject.kind = subject.targets.constFirst().kind;
     if (subject.kind == Kind::Color || subject.kind == Kind::Palette)
         subject.palette = sheet.palette();
+    for (const ChangeTarget &target : qAsConst(subject.targets)) {
+        if (sheet.colorOfAccent(target.kind, target.key).isValid())
+            subject.keysOfAccent << target.fileKey;
+    }
     return subject;
 }
 

@@ -34,6 +34,7 @@ struct ChangeSubject {
     QString reason; //!< why there are no targets, in a sentence
     QVector<QPair<QString, QColor>> palette; //!< of the theme
     std::optional<ColorPartner> partner;
+    QStringList keysOfAccent; //!< the fileKey of those targets that the accent takes the place of
 
     /*! \brief Looks up \a key in the files of the theme in force. A key that they lack can be added. */
     static ChangeSubject of(const InspectedSheet &sheet, Kind kind, const QString &key);

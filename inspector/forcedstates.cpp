@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QEvent>
 #include <QSignalBlocker>
 #include <QVector>
 #include <QWidget>
@@ -140,7 +141,69 @@ void ForcedStates::setWidget(QWidget *widget)
     for (const QString &state : forced)
         setForced(state, false);
     m_before.clear();
+    if (m_widget) {
+        m_widget->removeEventFilter(this);
+        disconnect(m_widget, &QObject::destroyed, this, &ForcedStates::forgetWidget);
+    }
     m_widget = widget;
+    if (m_widget) {
+        m_widget->installEventFilter(this);
+        connect(m_widget, &QObject::destroyed, this, &ForcedStates::forgetWidget);
+    }
+}
+
+// The button that was unchecked for one that is no more; unless the user has chosen another one meanwhile.
+void ForcedStates::forgetWidget()
+{
+    const bool isOwed = isForced(QStringLiteral("checked")) && m_checkedBefore;
+    m_before.clear();
+    if (!isOwed || checkedBeside(m_checkedBefore))
+        return;
+    const Unbound quiet(m_checkedBefore, nullptr);
+    m_checkedBefore->setChecked(true);
+}
+
+// What the user's hand does to the widget ends no state that is forced.
+bool ForcedStates::eventFilter(QObject *object, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::Leave:
+    case QEvent::DragEnter:
+    case QEvent::DragLeave:
+        if (object == m_widget && isForced(QStringLiteral("hover")))
+            followPointer(event->type() == QEvent::Enter || event->type() == QEvent::DragEnter);
+        break;
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+    case QEvent::KeyRelease:
+    case QEvent::FocusOut:
+    case QEvent::EnabledChange:
+        if (object == m_widget && isForced(QStringLiteral("pressed")))
+            QMetaObject::invokeMethod(this, &ForcedStates::holdDown, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(object, event);
+}
+
+// Qt has set the attribute before it asks event filters.
+void ForcedStates::followPointer(bool isInside)
+{
+    m_before[QStringLiteral("hover")] = isInside;
+    setHovered(m_widget, true);
+    m_widget->update();
+}
+
+void ForcedStates::holdDown()
+{
+    auto *button = qobject_cast<QAbstractButton *>(m_widget);
+    if (!button || !isForced(QStringLiteral("pressed")) || button->isDown())
+        return;
+    m_before[QStringLiteral("pressed")] = false;
+    const QSignalBlocker blocker(button);
+    button->setDown(true);
 }
 
 void ForcedStates::setForced(const QString &state, bool forced)

@@ -17,8 +17,9 @@ class QWidget;
  * \brief Holds a widget in states that else only the user's hand gives it.
  *
  * The widget really is in the state, so Qt paints it as ever; no signal tells the program of it. What
- * was changed is put back when the state is released, or this object dies. Of exclusive buttons
- * another one is not checked meanwhile; a choice that the user makes then stays.
+ * was changed is put back when the state is released, or this object or the widget dies. The pointer may
+ * come and go, and press. Of exclusive buttons another one is not checked meanwhile; a choice that the
+ * user makes then stays.
  */
 class ForcedStates : public QObject
 {
@@ -41,7 +42,13 @@ public:
     bool isForced(const QString &state) const { return m_before.contains(state); }
     void setForced(const QString &state, bool forced);
 
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 private:
+    void followPointer(bool isInside);
+    void holdDown();
+    void forgetWidget();
     void apply(const QString &state, bool on, const QVariant &before);
     void applyDown(QAbstractButton *button, bool on, bool before);
     void applyChecked(QAbstractButton *button, bool on, Qt::CheckState before);

@@ -6,6 +6,7 @@
 #include <analysis/messagelog.h>
 #include <analysis/style/styleparser.h>
 #include <format/quotedurls.h>
+#include <hvtheme/workabletheming.h>
 
 #include <QApplication>
 
@@ -221,12 +222,25 @@ ValueChain InspectedSheet::madeChain(const TemplateToken &token, const QString &
                              {},
                              QStringLiteral("The theme's files do not have it: the application "
                                             "library completes the look.")});
+    tellAccent(token.kind, token.key, &chain);
     const Definition *definition = stack.find(token.kind, token.key);
     while (definition && definition->palette >= 0) {
         definition = &stack.definitions().at(definition->palette);
         chain.palette << definition->key();
+        tellAccent(Kind::Palette, definition->key(), &chain);
     }
     return chain;
+}
+
+void InspectedSheet::tellAccent(Kind kind, const QString &key, ValueChain *chain) const
+{
+    const QColor shown = colorOfAccent(kind, key);
+    if (!shown.isValid())
+        return;
+    chain->steps.append({ExplanationStep::Topic::Statement,
+                         {},
+                         QStringLiteral("The accent %1 makes %2 of %3.")
+                             .arg(m_theme.accent.name(), valueText(shown), key)});
 }
 
 QVector<ValueChain> InspectedSheet::chains(const DeclarationOrigin &origin) const
@@ -302,7 +316,25 @@ QVector<QPair<QString, QColor>> InspectedSheet::palette() const
     const ThemeStack &theme = files->theme(m_theme.name);
     auto values = storedValues(theme, files->options().applicationFolder, Kind::Palette);
     sortAsWritten(&values, theme);
-    for (const StoredValue &value : qAsConst(values))
-        entries.append({value.key(), value.value.value<QColor>()});
+    for (const StoredValue &value : qAsConst(values)) {
+        const QColor ofAccent = colorOfAccent(Kind::Palette, value.key());
+        entries.append({value.key(), ofAccent.isValid() ? ofAccent : value.value.value<QColor>()});
+    }
     return entries;
+}
+
+QColor InspectedSheet::colorOfAccent(Kind kind, const QString &key) const
+{
+    const bool isColor = kind == Kind::Palette || kind == Kind::Color;
+    if (!isColor || !m_theme.accent.isValid() || !m_theme.entry || !project())
+        return {};
+    const ThemeStack &theme = project()->theme(m_theme.name);
+    if (!theme.find(kind, key))
+        return {};
+    const MessageLog silence; // the file may have got an entry that the program does not know yet
+    const bool isEntry = kind == Kind::Palette;
+    const QColor written =
+        isEntry ? theme.theme().readNamedColor(key).first : theme.theme().color(key);
+    const auto shown = isEntry ? m_theme.entry(key) : m_theme.values.value(key).value<QColor>();
+    return shown.isValid() && shown.rgba() != written.rgba() ? shown : QColor();
 }

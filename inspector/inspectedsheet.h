@@ -83,12 +83,17 @@ public:
     /*! \brief Returns the palette entries of the theme with their colours, in the theme's order. */
     QVector<QPair<QString, QColor>> palette() const;
 
+    /*! \brief Returns what the accent makes of a colour, or palette entry, called \a key; invalid if the
+     *         program shows what the theme's files say. */
+    QColor colorOfAccent(Kind kind, const QString &key) const;
+
 private:
     struct Section;
     const Section *sectionAt(int offset) const;
     void addSection(const InspectedTheme::Template &source);
     ValueChain chain(const TemplateToken &token, const QString &prefix) const;
     ValueChain madeChain(const TemplateToken &token, const QString &prefix) const;
+    void tellAccent(Kind kind, const QString &key, ValueChain *chain) const;
 
     const QString m_text;
     const InspectedTheme m_theme;

@@ -8,6 +8,8 @@
 #include <hvthemeapp/applicationtheme.h>
 
 #include <QFileInfo>
+#include <QPointer>
+#include <QVariant>
 
 InspectedTheme InspectedTheme::inForce()
 {
@@ -15,13 +17,19 @@ InspectedTheme InspectedTheme::inForce()
     if (!look || look->name().isNull())
         return {};
     InspectedTheme theme;
-    theme.folder = QFileInfo(look->folder()).absoluteFilePath();
-    if (look->folder().startsWith(QLatin1Char(':')))
-        theme.folder = look->folder();
-    theme.suffix = themeSuffixIn(look->folder(), look->suffix());
+    // Its folder and suffix may be others by now than those of the look that it has.
+    const QStringList files = look->property("hvthemeFilesInForce").toStringList();
+    const QString folder = files.value(0, look->folder());
+    theme.folder = isResourcePath(folder) ? folder : QFileInfo(folder).absoluteFilePath();
+    theme.suffix = files.value(1, themeSuffixIn(folder, look->suffix()));
     theme.name = look->name();
     theme.values = look->theme()->values();
     theme.unsavedTexts = look->unsavedTexts();
+    theme.accent = look->accent();
+    const QPointer<HV::Theme> palette(look->theme());
+    theme.entry = [palette](const QString &name) {
+        return palette ? palette->readNamedColor(name).first : QColor();
+    };
     const auto templates = look->templates();
     for (const auto &source : templates)
         theme.templates.append({source.first, source.second});

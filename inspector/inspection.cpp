@@ -3,7 +3,11 @@
 
 #include <inspector/inspection.h>
 
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMetaEnum>
 #include <QRegularExpression>
 #include <QStyle>
@@ -34,6 +38,19 @@ bool isSame(const StyleMatch &one, const StyleMatch &other)
 {
     return one.offset == other.offset && one.sheet == other.sheet && one.node == other.node
         && one.isOfWidget == other.isOfWidget;
+}
+
+// A view paints on its viewport, and a box that is edited in its field; roles are theirs.
+const QWidget *groundOf(const QWidget *widget)
+{
+    if (const auto *area = qobject_cast<const QAbstractScrollArea *>(widget))
+        return area->viewport();
+    if (const auto *box = qobject_cast<const QComboBox *>(widget); box && box->lineEdit())
+        return box->lineEdit();
+    const auto *field = qobject_cast<const QAbstractSpinBox *>(widget)
+        ? widget->findChild<const QLineEdit *>(QString(), Qt::FindDirectChildrenOnly)
+        : nullptr;
+    return field ? field : widget;
 }
 
 QString sourceOf(const StyleMatch &match, const QWidget *styled)
@@ -158,11 +175,15 @@ private:
     InspectedValue ofPalette(const PlainProperty &plain) const
     {
         const QWidget *widget = m_result.styledWidget;
+        const QWidget *ground = groundOf(widget);
+        const bool isGround = plain.role == QPalette::Window;
         QPalette::ColorRole role = plain.role;
         if (role == QPalette::WindowText)
-            role = widget->foregroundRole();
-        if (role == QPalette::Window)
-            role = widget->backgroundRole();
+            role = ground->foregroundRole();
+        if (isGround) {
+            role = ground->backgroundRole();
+            widget = ground;
+        }
         InspectedValue value;
         value.property = QLatin1String(plain.name);
         value.value = widget->palette().color(role).name();
@@ -173,11 +194,13 @@ private:
                && !(owner->testAttribute(Qt::WA_SetPalette)
                     && owner->palette().isBrushSet(QPalette::Active, role)))
             owner = owner->parentWidget();
-        value.source = owner == widget ? QStringLiteral("%1 of its own palette").arg(roleName)
+        const bool isOwn = owner == widget || owner == m_result.styledWidget;
+        value.source = isOwn ? QStringLiteral("%1 of its own palette").arg(roleName)
             : owner
             ? QStringLiteral("%1 of the palette of its parent %2").arg(roleName, nameOf(owner))
             : QStringLiteral("%1 of the application's palette").arg(roleName);
-        if (plain.role == QPalette::Window && !widget->isWindow() && !widget->autoFillBackground())
+        const bool isFilled = widget->isWindow() || widget->autoFillBackground();
+        if (isGround && !isFilled)
             value.source += QStringLiteral(", if the style fills it; else the parent shows");
         return value;
     }

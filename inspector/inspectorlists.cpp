@@ -277,11 +277,14 @@ void InspectorLists::showTheme(QTreeWidget *list, const InspectedSheet &sheet)
             if (value.isHidden)
                 continue;
             const bool isColor = value.value.userType() == QMetaType::QColor;
-            const auto color = value.value.value<QColor>();
+            const QColor ofAccent = sheet.colorOfAccent(kind, value.key());
+            const auto color = ofAccent.isValid() ? ofAccent : value.value.value<QColor>();
             QString text = isColor
                 ? color.name(color.alpha() < 255 ? QColor::HexArgb : QColor::HexRgb)
                 : valueText(value.value);
-            if (!value.palette.isEmpty())
+            if (ofAccent.isValid())
+                text += QLatin1String("  ") % tr("of the accent");
+            else if (!value.palette.isEmpty())
                 text += QLatin1String("  ") % value.palette;
             auto *item = row(group, {value.key(), text}, value.definition->valuePlace().text());
             if (isColor)

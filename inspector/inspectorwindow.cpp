@@ -47,6 +47,12 @@ InspectorWindow::~InspectorWindow()
     qApp->removeEventFilter(this);
 }
 
+// Qt takes the attribute away once it has asked for the deletion.
+bool InspectorWindow::isClosed() const
+{
+    return !testAttribute(Qt::WA_DeleteOnClose);
+}
+
 // With changes that are not saved it asks before the program ends with its last window. Once it has
 // kept the program running without one, the program ends with the inspector.
 void InspectorWindow::followChanges()

@@ -22,6 +22,9 @@ public:
 
     InspectorPane *pane() const { return m_pane; }
 
+    /*! \brief Tells whether it is about to delete itself; one that the program hides is not. */
+    bool isClosed() const;
+
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;

@@ -174,8 +174,12 @@ void Parts::addTabs(const QTabBar *bar)
 
 void Parts::addTabs(const QToolBox *box)
 {
-    const auto buttons = box->findChildren<QAbstractButton *>(
-        QStringLiteral("qt_toolbox_toolboxbutton"), Qt::FindDirectChildrenOnly);
+    QVector<QRect> rects; // the layout has a button and a page by turns, in the order of the pages
+    for (int i = 0; box->layout() && i < box->layout()->count(); ++i) {
+        const QWidget *button = box->layout()->itemAt(i)->widget();
+        if (button && button->objectName() == QLatin1String("qt_toolbox_toolboxbutton"))
+            rects.append(button->geometry());
+    }
     for (int i = 0; i < box->count(); ++i) {
         QSet<QString> states = m_states;
         setEnabled(&states, box->isEnabled() && box->isItemEnabled(i));
@@ -183,12 +187,7 @@ void Parts::addTabs(const QToolBox *box)
         set(&states, "previous-selected", i - 1 == box->currentIndex());
         set(&states, "next-selected", i + 1 == box->currentIndex());
         states += position(i, box->count());
-        QRect rect;
-        for (const QAbstractButton *button : buttons) {
-            if (button->text() == box->itemText(i))
-                rect = button->geometry();
-        }
-        add("tab", rect, states, box->itemText(i));
+        add("tab", rects.value(i), states, box->itemText(i));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <format/themepath.h>
 #include <hvthemeapp/applicationtheme.h>
+#include <inspector/inspectedtheme.h>
 #include <inspector/owncontrols.h>
 #include <inspector/ownlook.h>
 
@@ -22,9 +23,9 @@ namespace
 {
 
 // A folder that can be written: that of the theme, or else a new one at home.
-QString suggestedFolder(const HV::ApplicationTheme &look)
+QString suggestedFolder()
 {
-    QString folder = look.folder();
+    QString folder = InspectedTheme::inForce().folder;
     if (!isResourcePath(folder) && QFileInfo(folder).isWritable())
         return folder;
     return QDir::homePath() % QLatin1String("/themes");
@@ -57,7 +58,7 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     setPalette(inspectorPalette());
     const HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
     if (look) {
-        m_folder->setText(QDir::toNativeSeparators(suggestedFolder(*look)));
+        m_folder->setText(QDir::toNativeSeparators(suggestedFolder()));
         m_name->setText(suggestedName(m_folder->text(), *look));
     }
     m_goesOn->setChecked(true);
@@ -122,10 +123,10 @@ void NewThemeDialog::accept()
     theme.name = m_name->text();
     theme.displayName = m_displayName->text();
     theme.suffix = look->suffix();
-    const QString suffix = themeSuffixIn(look->folder(), look->suffix());
-    QStringList files{themeFilePath(look->folder(), defaultThemeName(), suffix)};
-    if (look->name() != defaultThemeName())
-        files << themeFilePath(look->folder(), look->name(), suffix);
+    const InspectedTheme from = InspectedTheme::inForce();
+    QStringList files{themeFilePath(from.folder, defaultThemeName(), from.suffix)};
+    if (from.name != defaultThemeName())
+        files << themeFilePath(from.folder, from.name, from.suffix);
     bool isSaved = false;
     if (m_folder->text().trimmed().isEmpty())
         m_problem->setText(tr("A folder is needed."));

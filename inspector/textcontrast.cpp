@@ -11,8 +11,10 @@
 #include <QImage>
 #include <QPixmap>
 #include <QPlainTextEdit>
+#include <QStyle>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QToolButton>
 
 namespace
 {
@@ -29,8 +31,21 @@ bool isLargeText(const QFont &font)
     return info.pointSizeF() >= (font.bold() ? largeBoldPoints : largePoints);
 }
 
+bool isIconOnly(const QToolButton *button)
+{
+    if (button->icon().isNull() && button->arrowType() == Qt::NoArrow)
+        return false; // Qt then shows the text all the same
+    int shown = button->toolButtonStyle();
+    if (shown == Qt::ToolButtonFollowStyle)
+        shown = button->style()->styleHint(QStyle::SH_ToolButtonStyle, nullptr, button);
+    return shown == Qt::ToolButtonIconOnly;
+}
+
 bool hasText(const QWidget *widget)
 {
+    if (const auto *button = qobject_cast<const QToolButton *>(widget);
+        button && isIconOnly(button))
+        return false;
     // These would put all of a long text together.
     if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget))
         return !edit->document()->isEmpty() || !edit->placeholderText().isEmpty();
@@ -47,8 +62,8 @@ QColor textColor(const Inspection &inspection)
 {
     const QWidget *widget = inspection.styledWidget;
     const InspectedValue *value = inspection.value(QStringLiteral("color"));
-    const QColor ofRule = value && value->isOfRule() ? QColor(value->value) : QColor();
-    return ofRule.isValid() ? ofRule : widget->palette().color(widget->foregroundRole());
+    const QColor told = value ? QColor(value->value) : QColor();
+    return told.isValid() ? told : widget->palette().color(widget->foregroundRole());
 }
 
 QColor commonest(const QImage &whole)

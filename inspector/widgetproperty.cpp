@@ -6,21 +6,31 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QMetaProperty>
+#include <QPointer>
 #include <QStyle>
+#include <QVector>
 
 #include <algorithm>
 
 void setWidgetProperty(QWidget *widget, const QString &name, const QVariant &value)
 {
     widget->setProperty(name.toUtf8().constData(), value);
-    // Rules are chosen when a widget is polished; its children may be chosen by its property.
-    QList<QWidget *> widgets = widget->findChildren<QWidget *>();
-    widgets.prepend(widget);
-    for (QWidget *each : qAsConst(widgets)) {
-        each->style()->unpolish(each);
-        each->style()->polish(each);
+    // Rules are chosen when a widget is polished; its children may be chosen by its property. What
+    // they do then may end others of them.
+    QVector<QPointer<QWidget>> widgets{widget};
+    const auto children = widget->findChildren<QWidget *>();
+    for (QWidget *child : children)
+        widgets.append(child);
+    for (const QPointer<QWidget> &each : qAsConst(widgets)) {
+        if (each)
+            each->style()->unpolish(each);
+        if (each)
+            each->style()->polish(each);
         QEvent event(QEvent::StyleChange);
-        QCoreApplication::sendEvent(each, &event);
+        if (each)
+            QCoreApplication::sendEvent(each, &event);
+        if (!each)
+            continue;
         each->updateGeometry();
         each->update();
     }

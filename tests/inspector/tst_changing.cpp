@@ -41,12 +41,16 @@ private Q_SLOTS:
     void keyThatTheFilesLack();
     void noKey_data();
     void noKey();
+    void accent_data();
+    void accent();
+    void folderOfTheLook();
     void undoAndRedo();
     void typingIsOneStep();
     void resetOne();
     void property_data();
     void property();
     void propertyOfTheClass();
+    void propertyOfRebuilding();
     void propertyBoxesStay();
     void writtenPropertyStays();
     void save_data();
@@ -535,6 +539,63 @@ void tst_Changing::noKey()
     QVERIFY(!part<QLineEdit>("Colour")->isVisible());
 }
 
+void tst_Changing::accent_data()
+{
+    QTest::addColumn<QColor>("accent");
+    QTest::addColumn<bool>("isOfAccent");
+
+    QTest::newRow("none") << QColor() << false;
+    QTest::newRow("red") << QColor(200, 30, 30) << true;
+}
+
+// What is shown is in force, and what the accent decides says so.
+void tst_Changing::accent()
+{
+    QFETCH(QColor, accent);
+    QFETCH(bool, isOfAccent);
+    QVERIFY(m_theme->setAccent(accent));
+    settle();
+    const QString brand = m_theme->theme()->readNamedColor("Brand_6").first.name();
+    QCOMPARE(brand != "#3060f0", isOfAccent);
+    const auto entries =
+        part<QTreeWidget>("Theme")->findItems("Brand_6", Qt::MatchExactly | Qt::MatchRecursive);
+    QCOMPARE(entries.size(), 1);
+    QCOMPARE(entries.constFirst()->text(1), isOfAccent ? brand + "  of the accent" : brand);
+    QVERIFY(choose("Values", "background-color"));
+    auto *named =
+        part<QTreeWidget>("Palette entries")->findItems("Brand_6", Qt::MatchExactly).value(0);
+    QVERIFY(named);
+    QCOMPARE(named->text(1), brand.toUpper());
+    QStringList told;
+    for (QTreeWidgetItemIterator it(part<QTreeWidget>("Values")); *it; ++it) {
+        if ((*it)->text(0).startsWith("The accent "))
+            told << (*it)->text(0);
+    }
+    QCOMPARE(told.contains("The accent " + accent.name() + " makes " + brand + " of Brand_6."),
+             isOfAccent);
+    press(m_window->findChildren<QRadioButton *>().at(1)); // the palette entry
+    QCOMPARE(part<QLabel>("What else changes")->text().contains("shows its accent instead"),
+             isOfAccent);
+}
+
+// A folder that lacks the theme leaves the look; the look's own files are what is changed and copied.
+void tst_Changing::folderOfTheLook()
+{
+    const QTemporaryDir other;
+    QVERIFY(QFile::copy(":/hvthemeapp/themes/default.theme", other.filePath("default.theme")));
+    QVERIFY(QFile::copy(":/hvthemeapp/themes/light.theme", other.filePath("light.theme")));
+    QVERIFY(m_theme->setFolder(other.path()));
+    QCOMPARE(m_theme->folder(), other.path());
+    QCOMPARE(m_theme->name(), QString("dark"));
+    settle();
+    QVERIFY(choose("Values", "background-color"));
+    press(m_window->findChildren<QRadioButton *>().at(0));
+    type(part<QLineEdit>("Colour"), "#ff00aa");
+    QCOMPARE(ground(), QColor("#ff00aa"));
+    QCOMPARE(ProgramChanges::ofProgram()->unsavedFiles(),
+             QStringList(m_folder->filePath("dark.theme")));
+}
+
 void tst_Changing::undoAndRedo()
 {
     const QColor before = ground();
@@ -656,6 +717,37 @@ void tst_Changing::propertyOfTheClass()
         part<QLabel>("About the properties")->text(),
         QString(
             "text belongs to the class QPushButton; only dynamic properties are changed here."));
+}
+
+// A widget may make its children anew when its style changes.
+void tst_Changing::propertyOfRebuilding()
+{
+    class Rebuilding : public QWidget
+    {
+    public:
+        using QWidget::QWidget;
+
+    protected:
+        void changeEvent(QEvent *event) override
+        {
+            if (event->type() != QEvent::StyleChange)
+                return;
+            const auto former = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+            qDeleteAll(former);
+            for (int i = 0; i < 3; ++i)
+                new QLabel(new QFrame(this));
+        }
+    };
+    Rebuilding widget(m_program.get());
+    QEvent event(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&widget, &event);
+    const QPointer<QWidget> child = widget.findChild<QLabel *>();
+    QVERIFY(child);
+    ProgramChanges::ofProgram()->setProperty(&widget, "style", "general");
+    QVERIFY(!child);
+    ProgramChanges::ofProgram()->undo();
+    QVERIFY(!widget.property("style").isValid());
+    QCOMPARE(widget.findChildren<QLabel *>().size(), 3);
 }
 
 void tst_Changing::propertyBoxesStay()

@@ -67,6 +67,8 @@ private Q_SLOTS:
     void rulesInOrder();
     void chainOfAValue();
     void plainValues();
+    void plainGround_data();
+    void plainGround();
     void ownStyleSheet();
     void unreadStyleSheet();
     void pathWithASpace();
@@ -74,12 +76,15 @@ private Q_SLOTS:
     void ruleOfTwoTemplates();
     void containers();
     void parts();
+    void pagesOfOneTitle();
     void alternateRows_data();
     void alternateRows();
     void whyNot_data();
     void whyNot();
     void users();
     void contrast();
+    void textOfToolButtons_data();
+    void textOfToolButtons();
     void dyingWidget();
 
 private:
@@ -156,6 +161,55 @@ void tst_Inspection::plainValues()
     QVERIFY(!color->isOfRule());
     QVERIFY2(color->source.startsWith("WindowText of "), qPrintable(color->source));
     QVERIFY(inspection.value("padding-top")->source.startsWith("as the style draws it"));
+}
+
+void tst_Inspection::plainGround_data()
+{
+    QTest::addColumn<QWidget *>("widget");
+    QTest::addColumn<QString>("ground");
+    QTest::addColumn<QString>("text");
+
+    auto *tree = new QTreeWidget;
+    tree->setHeaderHidden(true);
+    auto *combo = new QComboBox;
+    combo->setEditable(true);
+    combo->setFixedWidth(100);
+    // clang-format off
+    QTest::newRow("tree") << static_cast<QWidget *>(tree) << "Base" << "Text";
+    QTest::newRow("list") << static_cast<QWidget *>(new QListWidget) << "Base" << "Text";
+    QTest::newRow("table") << static_cast<QWidget *>(new QTableWidget) << "Base" << "Text";
+    QTest::newRow("text") << static_cast<QWidget *>(new QPlainTextEdit) << "Base" << "Text";
+    QTest::newRow("scroll-area") << static_cast<QWidget *>(new QScrollArea) << "Window" << "WindowText";
+    QTest::newRow("line") << static_cast<QWidget *>(new QLineEdit) << "Base" << "Text";
+    QTest::newRow("spin-box") << static_cast<QWidget *>(new QSpinBox) << "Base" << "Text";
+    QTest::newRow("editable-box") << static_cast<QWidget *>(combo) << "Base" << "Text";
+    QTest::newRow("window") << new QWidget << "Window" << "WindowText";
+    // clang-format on
+}
+
+// Where no rule says it, the ground is what the widget paints.
+void tst_Inspection::plainGround()
+{
+    QFETCH(QWidget *, widget);
+    QFETCH(QString, ground);
+    QFETCH(QString, text);
+    const std::unique_ptr<QWidget> owner(widget);
+    const QString before = qApp->styleSheet();
+    qApp->setStyleSheet(QString());
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor(1, 2, 3));
+    palette.setColor(QPalette::Text, QColor(4, 5, 6));
+    palette.setColor(QPalette::Window, QColor(7, 8, 9));
+    palette.setColor(QPalette::WindowText, QColor(10, 11, 12));
+    widget->setPalette(palette);
+    const InspectedSheet sheet(QString(), {});
+    const Inspection inspection = Inspection::of(widget, itself(widget), sheet);
+    const QImage painted = widget->grab().toImage();
+    qApp->setStyleSheet(before);
+    const InspectedValue *color = inspection.value("background-color");
+    QCOMPARE(color->source.section(' ', 0, 0), ground);
+    QCOMPARE(color->value, painted.pixelColor(painted.rect().center()).name());
+    QCOMPARE(inspection.value("color")->source.section(' ', 0, 0), text);
 }
 
 void tst_Inspection::ownStyleSheet()
@@ -287,6 +341,24 @@ void tst_Inspection::parts()
     const QRect second = window.list->visualItemRect(window.list->item(1));
     QCOMPARE(widgetPartAt(window.list, second.center()).label, QString("two"));
     QCOMPARE(widgetPartAt(window.label, QPoint(1, 1)).subControl, QString());
+}
+
+void tst_Inspection::pagesOfOneTitle()
+{
+    QToolBox box;
+    for (const char *name : {"last", "first"})
+        box.insertItem(0, new QLabel(name), "Page");
+    box.resize(200, 200);
+    box.grab(); // lays it out
+    QVector<QRect> rects;
+    const QVector<WidgetPart> parts = widgetParts(&box);
+    for (const WidgetPart &part : parts) {
+        if (part.subControl == "tab")
+            rects << part.rect;
+    }
+    QCOMPARE(rects.size(), 2);
+    QVERIFY(!rects.at(0).isEmpty() && !rects.at(1).isEmpty());
+    QVERIFY(rects.at(0).bottom() < rects.at(1).top());
 }
 
 void tst_Inspection::alternateRows_data()
@@ -423,6 +495,39 @@ void tst_Inspection::contrast()
     QCOMPARE(contrast->ground.name(), QString("#707070"));
     QVERIFY(!contrast->passes());
     QVERIFY(!contrast->passingEntry.isEmpty());
+}
+
+void tst_Inspection::textOfToolButtons_data()
+{
+    QTest::addColumn<int>("style");
+    QTest::addColumn<bool>("hasIcon");
+    QTest::addColumn<bool>("hasText");
+
+    QTest::newRow("icon-only") << int(Qt::ToolButtonIconOnly) << true << false;
+    QTest::newRow("as-the-style-has-it") << int(Qt::ToolButtonFollowStyle) << true << false;
+    QTest::newRow("beside") << int(Qt::ToolButtonTextBesideIcon) << true << true;
+    QTest::newRow("text-only") << int(Qt::ToolButtonTextOnly) << true << true;
+    QTest::newRow("no-icon") << int(Qt::ToolButtonIconOnly) << false << true;
+}
+
+void tst_Inspection::textOfToolButtons()
+{
+    QFETCH(int, style);
+    QFETCH(bool, hasIcon);
+    QFETCH(bool, hasText);
+    QWidget window;
+    QToolButton button(&window);
+    button.setText("Open");
+    button.setToolButtonStyle(Qt::ToolButtonStyle(style));
+    if (hasIcon) {
+        QPixmap icon(16, 16);
+        icon.fill(Qt::red);
+        button.setIcon(icon);
+    }
+    button.resize(60, 30);
+    const auto sheet = InspectedSheet::inForce();
+    const Inspection inspection = Inspection::of(&button, itself(&button), *sheet);
+    QCOMPARE(textContrast(inspection, {}, *sheet).has_value(), hasText);
 }
 
 void tst_Inspection::dyingWidget()

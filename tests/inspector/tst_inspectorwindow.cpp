@@ -35,6 +35,10 @@ private Q_SLOTS:
     void overriddenIsStruckThrough();
     void forcedStates_data();
     void forcedStates();
+    void forcedStatesStay_data();
+    void forcedStatesStay();
+    void forcedButtonDies_data();
+    void forcedButtonDies();
     void forcedStatesReachNobody_data();
     void forcedStatesReachNobody();
     void showsUsers();
@@ -354,6 +358,97 @@ void tst_InspectorWindow::forcedStates()
     m_window.reset(); // all is put back
     QVERIFY(m_button->isEnabled());
     QVERIFY(!m_button->isDown() && !m_button->isChecked() && !m_button->focusProxy());
+}
+
+void tst_InspectorWindow::forcedStatesStay_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("hand");
+
+    QTest::newRow("hover-crossed") << "hover"
+                                   << "cross";
+    QTest::newRow("hover-clicked") << "hover"
+                                   << "click";
+    QTest::newRow("pressed-clicked") << "pressed"
+                                     << "click";
+    QTest::newRow("pressed-by-key") << "pressed"
+                                    << "key";
+    QTest::newRow("pressed-disabled") << "pressed"
+                                      << "disable";
+}
+
+// Until the box is cleared; then the widget is what the user's hand has made it.
+void tst_InspectorWindow::forcedStatesStay()
+{
+    QFETCH(QString, state);
+    QFETCH(QString, hand);
+    const auto isInState = [&] {
+        QCoreApplication::processEvents();
+        return state == "hover" ? m_button->underMouse() : m_button->isDown();
+    };
+    m_window->pane()->pick(m_button);
+    stateBox(state)->click();
+    QVERIFY(isInState());
+    if (hand == "cross") {
+        QEnterEvent enter(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+        QCoreApplication::sendEvent(m_button, &enter);
+        QVERIFY(isInState());
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(m_button, &leave);
+    } else if (hand == "click") {
+        QSignalSpy clicked(m_button, &QPushButton::clicked);
+        QTest::mouseClick(m_button, Qt::LeftButton);
+        QCOMPARE(clicked.size(), 1);
+    } else if (hand == "key") {
+        QTest::keyClick(m_button, Qt::Key_Space);
+    } else {
+        m_button->setEnabled(false);
+        m_button->setEnabled(true);
+    }
+    QVERIFY(isInState());
+    stateBox(state)->click();
+    QVERIFY(!isInState());
+}
+
+void tst_InspectorWindow::forcedButtonDies_data()
+{
+    QTest::addColumn<QString>("checked"); // before
+    QTest::addColumn<bool>("isGroup");
+    QTest::addColumn<bool>("choosesAnother"); // while the state is forced
+    QTest::addColumn<QString>("left");
+
+    QTest::newRow("neighbour") << "other" << false << false << "other";
+    QTest::newRow("neighbour-in-group") << "other" << true << false << "other";
+    QTest::newRow("none") << "" << false << false << "";
+    QTest::newRow("another-chosen") << "other" << false << true << "third";
+}
+
+// What was unchecked for it is checked again.
+void tst_InspectorWindow::forcedButtonDies()
+{
+    QFETCH(QString, checked);
+    QFETCH(bool, isGroup);
+    QFETCH(bool, choosesAnother);
+    QFETCH(QString, left);
+    QHash<QString, QRadioButton *> buttons;
+    QButtonGroup group;
+    for (const char *name : {"picked", "other", "third"}) {
+        buttons[name] = new QRadioButton(name, m_program.get());
+        m_program->layout()->addWidget(buttons[name]);
+        if (isGroup)
+            group.addButton(buttons[name]);
+        buttons[name]->setChecked(name == checked);
+    }
+    m_window->pane()->pick(buttons["picked"]);
+    QSignalSpy toggled(buttons["other"], &QAbstractButton::toggled);
+    stateBox("checked")->click();
+    QVERIFY(!buttons["other"]->isChecked());
+    if (choosesAnother)
+        buttons["third"]->click();
+    delete buttons.take("picked");
+    for (auto it = buttons.cbegin(); it != buttons.cend(); ++it)
+        QCOMPARE((*it)->isChecked(), it.key() == left);
+    QCOMPARE(toggled.size(), 0);
 }
 
 void tst_InspectorWindow::forcedStatesReachNobody_data()
