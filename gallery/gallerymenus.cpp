@@ -108,7 +108,7 @@ void GalleryWindow::openPageMenu(QWidget *at, const QPoint &place)
 {
     if (at == nullptr)
         return;
-    auto *menu = new PageMenu(at, m_applied.project(), this);
+    auto *menu = new PageMenu(at, m_applied, this);
     connect(menu, &PageMenu::inspected, this, [this](QWidget *widget) {
         showPane(Pane::Inspector);
         inspect(widget);

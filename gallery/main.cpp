@@ -3,6 +3,7 @@
 #include "gallerywindow.h"
 #include "memory.h"
 #include "options.h"
+#include "qtoptions.h"
 #include "screenshots.h"
 
 #include <format/printabletext.h>
@@ -86,7 +87,9 @@ int main(int argc, char **argv)
     const QStringList arguments = argumentList(argc, argv);
     defaultHandler = qInstallMessageHandler(printMessage);
     const bool displayed = hasDisplay();
-    prepareEnvironment(Gallery::readOptions(arguments, {}));
+    const Gallery::Options prepared =
+        Gallery::readOptions(Gallery::withoutOptionsOfQt(arguments), {});
+    prepareEnvironment(prepared);
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // always so from there on
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -99,7 +102,9 @@ int main(int argc, char **argv)
     const QString themes =
         QFileInfo(QApplication::applicationDirPath() + QStringLiteral("/../share/hvtheme/themes"))
             .absoluteFilePath();
-    const Gallery::Options options = Gallery::readOptions(QApplication::arguments(), {});
+    Gallery::Options options = Gallery::readOptions(QApplication::arguments(), {});
+    if (options.error.isEmpty())
+        options.error = prepared.error; // the environment is made for that reading
     if (!options.error.isEmpty()) {
         print(stderr, QStringLiteral("hvtheme-gallery: %1 See --help.\n").arg(options.error));
         return usageError;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "pagemenu.h"
 
+#include "appliedtheme.h"
 #include "findingspane.h"
 #include "selector.h"
 #include "shownpart.h"
@@ -34,15 +35,15 @@ Place placeOf(const ValueChain &chain)
 
 } // namespace
 
-PageMenu::PageMenu(QWidget *at, const ThemeProject *project, QWidget *parent)
+PageMenu::PageMenu(QWidget *at, const AppliedTheme &theme, QWidget *parent)
     : QMenu(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     const QString key = at->property(keyProperty).toString();
     if (key.isEmpty())
-        addWidget(at);
+        addWidget(at, *theme.inspectedSheet());
     else
-        addKey(key, project);
+        addKey(key, theme.project());
 }
 
 void PageMenu::addCopy(QMenu *menu, const QString &title, const QString &text)
@@ -72,7 +73,7 @@ void PageMenu::addKey(const QString &key, const ThemeProject *project)
     addAction(QStringLiteral("Show what uses it"), this, [this, key] { Q_EMIT searched(key); });
 }
 
-void PageMenu::addWidget(QWidget *widget)
+void PageMenu::addWidget(QWidget *widget, const InspectedSheet &sheet)
 {
     QWidget *specimen = specimenOf(widget);
     QWidget *meant = specimen != nullptr ? specimen : widget;
@@ -89,14 +90,13 @@ void PageMenu::addWidget(QWidget *widget)
         if (!lines.isEmpty())
             addCopy(this, QStringLiteral("Copy setProperty"), lines);
     }
-    addRulesAndKeys(meant);
+    addRulesAndKeys(meant, sheet);
 }
 
-void PageMenu::addRulesAndKeys(QWidget *widget)
+void PageMenu::addRulesAndKeys(QWidget *widget, const InspectedSheet &sheet)
 {
-    const auto sheet = InspectedSheet::inForce();
     ShownPart shown = partShownBy(widget);
-    const Inspection inspection = Inspection::of(shown.widget, shown.part, *sheet);
+    const Inspection inspection = Inspection::of(shown.widget, shown.part, sheet);
     auto *keys = new QMenu(QStringLiteral("Copy key"), this);
     auto *places = new QMenu(QStringLiteral("Copy place"), this);
     auto *rules = new QMenu(QStringLiteral("Show rule"), this);

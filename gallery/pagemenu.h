@@ -5,10 +5,13 @@
 
 #include <QMenu>
 
+class InspectedSheet;
 class ThemeProject;
 
 namespace Gallery
 {
+
+class AppliedTheme;
 
 /*!
  * \brief The menu of a widget on a page: what can be copied and shown of it.
@@ -20,8 +23,8 @@ class PageMenu final : public QMenu
     Q_OBJECT
 
 public:
-    /*! \brief Makes a menu for \a at; \a project, which may be null, tells where keys stand. */
-    PageMenu(QWidget *at, const ThemeProject *project, QWidget *parent);
+    /*! \brief Makes a menu for \a at; \a theme tells where keys and rules stand. */
+    PageMenu(QWidget *at, const AppliedTheme &theme, QWidget *parent);
 
 Q_SIGNALS:
     /*! \brief \a widget is to be shown in the inspector. */
@@ -31,8 +34,8 @@ Q_SIGNALS:
 
 private:
     void addKey(const QString &key, const ThemeProject *project);
-    void addWidget(QWidget *widget);
-    void addRulesAndKeys(QWidget *widget);
+    void addWidget(QWidget *widget, const InspectedSheet &sheet);
+    void addRulesAndKeys(QWidget *widget, const InspectedSheet &sheet);
     void addCopy(QMenu *menu, const QString &title, const QString &text);
 };
 

@@ -6,6 +6,7 @@
 #include <gallery/copylabel.h>
 #include <gallery/gallerywindow.h>
 #include <gallery/pages.h>
+#include <gallery/qtoptions.h>
 #include <gallery/selector.h>
 
 #include <QClipboard>
@@ -66,6 +67,8 @@ private Q_SLOTS:
     void colorsPageFollowsTheTheme();
     void options_data();
     void options();
+    void optionsOfQt_data();
+    void optionsOfQt();
 
 private:
     Options optionsFor(const QString &page) const;
@@ -445,6 +448,31 @@ void tst_Gallery::options()
         QCOMPARE(options.error, QString());
     else
         QVERIFY2(options.error.contains(QRegularExpression(error)), qPrintable(options.error));
+}
+
+void tst_Gallery::optionsOfQt_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("left");
+
+    // clang-format off
+    QTest::newRow("none") << QStringList{"--theme", "dark"} << QStringList{"--theme", "dark"};
+    QTest::newRow("with-value") << QStringList{"-style", "windows", "--theme", "dark"} << QStringList{"--theme", "dark"};
+    QTest::newRow("with-equal-sign") << QStringList{"-style=windows", "-stylesheet=a.qss"} << QStringList();
+    QTest::newRow("without-value") << QStringList{"-reverse", "--theme", "dark"} << QStringList{"--theme", "dark"};
+    QTest::newRow("two-dashes") << QStringList{"--reverse", "--qwindowgeometry", "800x600"} << QStringList();
+    QTest::newRow("value-missing") << QStringList{"--join", "-style"} << QStringList{"--join"};
+    QTest::newRow("ours") << QStringList{"-v", "--ui", "style"} << QStringList{"-v", "--ui", "style"};
+    QTest::newRow("nobodys") << QStringList{"--styles", "reverse"} << QStringList{"--styles", "reverse"};
+    // clang-format on
+}
+
+void tst_Gallery::optionsOfQt()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, left);
+    const QStringList name{"-reverse"}; // of a program, and no option
+    QCOMPARE(withoutOptionsOfQt(name + arguments), name + left);
 }
 
 QTEST_MAIN(tst_Gallery)

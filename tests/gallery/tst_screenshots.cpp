@@ -64,6 +64,7 @@ private Q_SLOTS:
     void onePictureForEachPageAndTheme();
     void everyPageOfTheSampleThemes();
     void doubleScale();
+    void optionsOfQt();
     void joinedThemes();
     void vision();
     void form();
@@ -139,6 +140,21 @@ void tst_Screenshots::doubleScale()
     QVERIFY(!single.isNull());
     QVERIFY(qAbs(twice.width() - 2 * single.width()) <= 40); // text is not exactly twice as wide
     QVERIFY(twice.height() > 1.9 * single.height());
+}
+
+// They are Qt's, and the gallery's own beside them hold.
+void tst_Screenshots::optionsOfQt()
+{
+    const QStringList page{"--page", "tabs", "--scale", "2"};
+    QCOMPARE(runGallery(withFolders(page)).exitCode, 0);
+    const QString file = m_output->filePath(QStringLiteral("tabs-default@2x.png"));
+    const QImage plain(file);
+    QVERIFY(!plain.isNull());
+    const Outcome outcome = runGallery(withFolders(QStringList{"-style", "windows"} + page));
+    QCOMPARE(outcome.errors, QString());
+    QCOMPARE(outcome.exitCode, 0);
+    QCOMPARE(QImage(file), plain);
+    QVERIFY(runGallery({"-reverse"}).errors.contains(QLatin1String("no display to open a window")));
 }
 
 void tst_Screenshots::joinedThemes()

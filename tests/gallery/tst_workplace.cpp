@@ -51,6 +51,7 @@ private Q_SLOTS:
     void zoomedPageIsAlive();
     void contextMenu_data();
     void contextMenu();
+    void placesOfAnotherApplication();
     void quits();
     void asksBeforeChangesAreLost_data();
     void asksBeforeChangesAreLost();
@@ -722,6 +723,36 @@ void tst_Workplace::contextMenu()
         QCOMPARE(int(m_window->pane()), int(Pane::Inspector));
         QCOMPARE(m_window->inspector()->pickedWidget(), widget);
     }
+}
+
+// Its themes are shown in another text, with other lines, than that of their files.
+void tst_Workplace::placesOfAnotherApplication()
+{
+    Options options = optionsFor(QStringLiteral("buttons"));
+    options.source.applicationFolder = QCoreApplication::applicationDirPath();
+    open(options);
+    QWidget *button =
+        findSpecimen(m_window->page(), QStringLiteral("QPushButton[style=general]:disabled"));
+    m_window->findChild<ZoomArea *>()->reveal(button);
+    const QPoint place = centerOf(button);
+    QWidget *under = QApplication::widgetAt(place);
+    QContextMenuEvent wanted(QContextMenuEvent::Mouse, under->mapFromGlobal(place), place);
+    QCoreApplication::sendEvent(under, &wanted);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    const QString key = QStringLiteral("GeneralButtonBackgroundDisabled");
+    const QString expected = placeOf(key.toLatin1()) + QStringLiteral("  (%1)").arg(key);
+    QStringList places;
+    const auto menus = menu->findChildren<QMenu *>();
+    for (const QMenu *each : menus) {
+        const auto actions = each->actions();
+        for (const QAction *action : actions) {
+            if (each->title() == QLatin1String("Copy place") && action->text().contains(key))
+                places << action->text();
+        }
+    }
+    QCOMPARE(places, QStringList(expected));
+    menu->close();
 }
 
 void tst_Workplace::quits()
