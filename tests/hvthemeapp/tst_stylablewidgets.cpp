@@ -234,7 +234,7 @@ QImage tst_StylableWidgets::withPlainStyle(const Row &row)
     QStyle *plain = QStyleFactory::create("fusion");
     plain->setObjectName("plain"); // one that the library takes for a program's
     QApplication::setStyle(plain);
-    const QImage without = picture(row);
+    QImage without = picture(row);
     QApplication::setStyle(row.style);
     return without;
 }
