@@ -100,39 +100,55 @@ void findingUsers(benchmark::State &state)
         require(!usersOf(rule, widgets, *sheet).isEmpty(), "no users");
 }
 
+// What is edited, named by the widgets that are concerned.
+struct Edit {
+    const char *key;
+    const char *values[2];
+};
+constexpr Edit ofButtons{"Colors/AssistButtonBackgroundNormal", {"#ff00aa", "#aa00ff"}};
+constexpr Edit ofFields{"Colors/EditBorderColor", {"#ff00aa", "#aa00ff"}};
+constexpr Edit ofHoveredOnes{"Colors/AccentHoverColor", {"#ff00aa", "#aa00ff"}};
+constexpr Edit ofNobody{"Palettes/Green_1", {"#ff00aa", "#aa00ff"}};
+constexpr Edit ofText{"Integers/FontSize_M", {"13", "15"}};
+constexpr Edit ofPalette{"Colors/BackgroundColor_2", {"#202428", "#282420"}};
+
+// The file of the look that has the key, else the default file.
+QString fileWith(const HV::ApplicationTheme &look, const QString &key)
+{
+    const QString own = look.folder() + QLatin1Char('/') + look.name() + QLatin1String(".theme");
+    return QSettings(own, QSettings::IniFormat).contains(key)
+        ? own
+        : look.folder() + QLatin1String("/default.theme");
+}
+
 // From a change to what is painted, with the inspector open; the medians of both by processor time.
-void editing(benchmark::State &state)
+void editing(benchmark::State &state, const Edit &edit)
 {
     HV::ApplicationTheme *look = HV::ApplicationTheme::inForce();
     const std::unique_ptr<QWidget> window(windowOf(int(state.range(0))));
     InspectorWindow inspector;
     inspector.show();
     inspector.pane()->pick(window->findChild<QPushButton *>());
-    const InspectedValue *value =
-        inspector.pane()->inspection().value(QStringLiteral("background-color"));
-    require(value && !value->chains.isEmpty(), "no key");
-    const auto sheet = InspectedSheet::inForce();
-    const ChangeTarget target =
-        changeTargets(*sheet->project(), sheet->project()->theme(look->name()),
-                      value->chains.constFirst().token.key)
-            .constLast(); // a palette entry, so that both themes have it
+    QCoreApplication::processEvents();
+    const QString key = QLatin1String(edit.key);
+    const QString file = fileWith(*look, key);
     ProgramChanges *changes = ProgramChanges::ofProgram();
-    const auto edit = [&](const QString &color) {
-        require(changes->setValue(target.place.file, target.fileKey, color), "no change");
+    const auto change = [&](const char *value) {
+        require(changes->setValue(file, key, QLatin1String(value)), "no change");
         QCoreApplication::processEvents(); // paints
     };
-    const auto change = [&](const QString &theme) {
-        require(look->setName(theme), "no theme");
+    const auto choose = [&](const char *theme) {
+        require(look->setName(QLatin1String(theme)), "no theme");
         QCoreApplication::processEvents();
     };
-    edit(QStringLiteral("#aa00ff"));
+    change(edit.values[1]);
     std::vector<double> edits;
     std::vector<double> switches;
     while (state.KeepRunning()) {
-        for (const char *color : {"#ff00aa", "#aa00ff"})
-            edits.push_back(processorSeconds([&] { edit(QLatin1String(color)); }));
+        for (const char *value : edit.values)
+            edits.push_back(processorSeconds([&] { change(value); }));
         for (const char *theme : {"light", "dark"})
-            switches.push_back(processorSeconds([&] { change(QLatin1String(theme)); }));
+            switches.push_back(processorSeconds([&] { choose(theme); }));
     }
     state.counters["edit_ms"] = 1e3 * median(edits);
     state.counters["switch_ms"] = 1e3 * median(switches);
@@ -150,7 +166,12 @@ void sizes(benchmark::internal::Benchmark *benchmark)
 
 BENCHMARK(opening)->Apply(sizes)->Arg(20000)->Unit(benchmark::kMillisecond);
 BENCHMARK(picking)->Apply(sizes)->Arg(20000)->Unit(benchmark::kMillisecond);
-BENCHMARK(editing)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, buttons, ofButtons)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, fields, ofFields)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, hovered, ofHoveredOnes)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, nobody, ofNobody)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, text, ofText)->Apply(sizes)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(editing, palette, ofPalette)->Apply(sizes)->Unit(benchmark::kMillisecond);
 BENCHMARK(findingUsers)->Arg(2000)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)

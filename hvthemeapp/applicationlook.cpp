@@ -178,6 +178,8 @@ void ApplicationTheme::Private::show(const ThemeFolder &themes, const QString &n
 {
     lookInForce().waiting = {}; // it is older than this
     const bool isOther = newName != name;
+    if (isOther)
+        extent = Extent::Whole;
     name = newName;
     nameFolder = themes;
     shownAccent = accent;
@@ -354,7 +356,8 @@ void ApplicationTheme::Private::restyle()
 
     // What happens to a widget may run any code of the application, which may delete the object.
     const QPointer<ApplicationTheme> guard(q);
-    setProgramLook(newPalette, QVariantMap(theme->values()), styleSheet);
+    setProgramLook(newPalette, QVariantMap(theme->values()), styleSheet,
+                   std::exchange(extent, Extent::Whole));
     lookInForce().isChanging = false;
     if (lookInForce().waiting.theme)
         applyWaitingSoon();

@@ -174,7 +174,14 @@ bool ApplicationTheme::setUnsavedTexts(const QHash<QString, QByteArray> &texts)
     if (byPath == d->unsavedTexts)
         return true;
     d->unsavedTexts = byPath;
-    return d->name.isNull() || d->apply(d->comingFolder(), d->comingName(), d->accent);
+    if (d->name.isNull())
+        return true;
+    const QPointer<ApplicationTheme> guard(this);
+    d->extent = Extent::Changes;
+    const bool isApplied = d->apply(d->comingFolder(), d->comingName(), d->accent);
+    if (guard)
+        d->extent = Extent::Whole;
+    return isApplied;
 }
 
 QHash<QString, QByteArray> ApplicationTheme::unsavedTexts() const

@@ -217,7 +217,9 @@ public:
     /*!
      * \brief Shows theme files as an editor has them: the look is what it will be once they are saved.
      *
-     * Nothing is written. Files keep these texts in every look until the next call.
+     * Nothing is written. Files keep these texts in every look until the next call. Of values that only
+     * the style sheet uses, no more widgets are restyled than their rules concern, and of colours none
+     * gets a QEvent::StyleChange; there is changed().
      *
      * \param texts  by path, which may be one in the program's resources; files that are not named, all
      *               of them if it is empty, have their own text. What it names must be there.
@@ -286,8 +288,9 @@ Q_SIGNALS: // once everything that changes has changed
     void liveReloadChanged();
     void problemChanged();
 
-    /*! \brief The palette, the icons and the style sheet of another look are in force, and all widgets
-     *         have them. What paints by itself takes its colours from theme() or palette() now. */
+    /*! \brief The palette, the icons and the style sheet of another look, or of other values, are in
+     *         force, and all widgets have them. What paints by itself takes its colours from theme()
+     *         or palette() now. */
     void changed();
 
 protected:

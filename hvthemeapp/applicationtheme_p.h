@@ -116,6 +116,7 @@ public:
     bool liftsText = false;
     std::unique_ptr<LegibleText, EndLegibleText> legibleText; // while there is an application
     QPalette palette;
+    Extent extent = Extent::Whole; // of what restyleAgain() does next
     std::optional<QString> ownStyleSheet; // of the application, if complete() has added it
     QString problem;
     QHash<QString, QString> derivedColors; // told by file, so that each is told once

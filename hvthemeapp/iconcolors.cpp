@@ -6,6 +6,8 @@
 #include <colormath/contrast.h>
 
 #include <QGuiApplication>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QReadLocker>
@@ -30,6 +32,8 @@ struct State {
     QVariantMap values;
     QPalette palette;
     int generation = 0;
+    QMutex usedLock; // readers write there
+    QSet<QString> used;
 };
 
 State &state()
@@ -42,6 +46,14 @@ State &state()
 QPalette currentPalette(const State &s)
 {
     return s.generation == 0 ? QGuiApplication::palette() : s.palette;
+}
+
+// Called with the lock for reading.
+QVariant valueOf(State &s, const QString &key)
+{
+    const QMutexLocker locker(&s.usedLock);
+    s.used.insert(key);
+    return s.values.value(key);
 }
 
 struct Ground {
@@ -78,6 +90,18 @@ void setValues(const QVariantMap &values)
     QPixmapCache::clear();
 }
 
+QVariantMap values()
+{
+    const QReadLocker locker(&state().lock);
+    return state().values;
+}
+
+QSet<QString> usedKeys()
+{
+    const QMutexLocker locker(&state().usedLock);
+    return state().used;
+}
+
 int generation()
 {
     const QReadLocker locker(&state().lock);
@@ -92,7 +116,7 @@ bool hasValues()
 QString imageFile(const QString &key)
 {
     const QReadLocker locker(&state().lock);
-    const QVariant value = state().values.value(key);
+    const QVariant value = valueOf(state(), key);
     return value.userType() == QMetaType::QString ? value.toString() : QString();
 }
 
@@ -101,7 +125,7 @@ QColor color(const QString &key, QIcon::Mode mode, bool *found)
     State &s = state();
     const QReadLocker locker(&s.lock);
     const QPalette palette = currentPalette(s);
-    const QVariant value = s.values.value(key);
+    const QVariant value = valueOf(s, key);
     const bool isColor = value.userType() == QMetaType::QColor;
     if (found)
         *found = isColor || s.generation == 0;

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QIcon>
+#include <QSet>
 #include <QString>
 #include <QVariantMap>
 
@@ -23,6 +24,13 @@ constexpr double disabledOpacity = 0.45;
  * between the palette and the style sheet; whoever calls it sees to it that windows are painted.
  */
 void setValues(const QVariantMap &values);
+
+/*! \brief Returns what setValues() was given last. Thread-safe. */
+QVariantMap values();
+
+/*! \brief Returns the keys that a drawing has asked for so far, whether there was a value or not.
+ *         Thread-safe. */
+QSet<QString> usedKeys();
 
 /*! \brief Returns a number that is another one after each setValues(). Thread-safe. */
 int generation();

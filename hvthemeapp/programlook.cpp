@@ -5,7 +5,9 @@
 
 #include "calendarweekends.h"
 #include "iconcolors.h"
+#include "partialrestyling.h"
 #include "placeholders.h"
+#include "styledifference.h"
 #include "stylesheettext.h"
 #include "themedstyle.h"
 
@@ -13,9 +15,11 @@
 #include <hvtheme/restyling.h>
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QLabel>
 #include <QMdiArea>
 #include <QPointer>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -117,6 +121,38 @@ QColor weekendColor(const QPalette &palette, const QVariantMap &values)
                            : color;
 }
 
+bool hasCalendar()
+{
+    const QWidgetList all = QApplication::allWidgets();
+    return std::any_of(all.cbegin(), all.cend(), [](const QWidget *widget) {
+        return qobject_cast<const QCalendarWidget *>(widget) != nullptr;
+    });
+}
+
+// Whether what is painted without the style sheet stays as it is, wherever that is.
+bool arePaintedAlike(const QPalette &palette, const QVariantMap &before, const QVariantMap &after)
+{
+    const auto isAlike = [&](const QString &key) { return before.value(key) == after.value(key); };
+    const QSet<QString> inIcons = IconColors::usedKeys();
+    return palette == QApplication::palette() && isAlike(QStringLiteral("HighContrast"))
+        && std::all_of(inIcons.cbegin(), inIcons.cend(), isAlike)
+        && (weekendColor(palette, before) == weekendColor(palette, after) || !hasCalendar());
+}
+
+// Returns false, and does nothing, if what changes may be painted anywhere.
+bool setChanges(const QPalette &palette, const QVariantMap &values, const QString &styleSheet)
+{
+    if (qApp->styleSheet().isEmpty() || !arePaintedAlike(palette, IconColors::values(), values))
+        return false;
+    const auto difference = StyleDifference::between(qApp->styleSheet(), styleSheet);
+    if (!difference)
+        return false;
+    CalendarWeekends::install(qApp, weekendColor(palette, values));
+    restyleConcerned(styleSheet, *difference, [&] { IconColors::setValues(values); });
+    ThemedStyle::keepName();
+    return true;
+}
+
 } // namespace
 
 QPalette startPalette()
@@ -147,8 +183,11 @@ QString styleSheetBeside(const StyleSheetParts &given)
     return styleSheetText(styleSheet).trimmed();
 }
 
-void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet)
+void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet,
+                    Extent extent)
 {
+    if (extent == Extent::Changes && setChanges(palette, values, styleSheet))
+        return;
     startPalette();
     Placeholders::install(qApp);
     CalendarWeekends::install(qApp, weekendColor(palette, values));

@@ -29,13 +29,22 @@ struct StyleSheetParts {
  *         that there as it was given, replaced, or with more around it. */
 QString styleSheetBeside(const StyleSheetParts &given);
 
+/*! What of a program a look reaches. */
+enum class Extent {
+    Whole,
+    Changes //!< where that can be told; else all of it
+};
+
 /*!
  * \brief Puts palette, icon colours and style sheet in force, and polishes each widget once.
  *
  * Also what a palette does not reach: tool tips, placeholders, areas of windows, and links in documents,
- * which have their colour since their HTML was set. Needs a QApplication. Internal.
+ * which have their colour since their HTML was set. With Extent::Changes, widgets that look the same
+ * before and after are left alone if that can be told: not if the palette or icons change. Needs a
+ * QApplication. Internal.
  */
-void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet);
+void setProgramLook(const QPalette &palette, const QVariantMap &values, const QString &styleSheet,
+                    Extent extent);
 
 } // namespace HV
 
