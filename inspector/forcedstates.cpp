@@ -243,7 +243,7 @@ void ForcedStates::apply(const QString &state, bool on, const QVariant &before)
     } else if (state == QLatin1String("checked")) {
         applyChecked(button, on, Qt::CheckState(before.toInt()));
     } else if (state == QLatin1String("disabled")) {
-        m_widget->setEnabled(!(on || before.toBool()));
+        applyDisabled(on, before.toBool());
     } else if (state == QLatin1String("focus")) {
         if (on)
             followFocus();
@@ -277,6 +277,21 @@ void ForcedStates::applyDown(QAbstractButton *button, bool on, bool before)
     button->setDown(on || before);
     if (!on)
         button->setAutoRepeat(m_repeated);
+}
+
+// Qt gives the focus of what is disabled to another widget; it comes back unless the user has moved it
+// on meanwhile.
+void ForcedStates::applyDisabled(bool on, bool before)
+{
+    const QWidget *window = m_widget->window();
+    QWidget *focus = window->focusWidget();
+    if (on)
+        m_focused = focus && (focus == m_widget || m_widget->isAncestorOf(focus)) ? focus : nullptr;
+    m_widget->setEnabled(!(on || before));
+    if (on)
+        m_focusedInstead = window->focusWidget();
+    else if (m_focused && focus == m_focusedInstead)
+        m_focused->setFocus(Qt::OtherFocusReason);
 }
 
 void ForcedStates::applyChecked(QAbstractButton *button, bool on, Qt::CheckState before)

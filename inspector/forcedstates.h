@@ -19,7 +19,7 @@ class QWidget;
  * The widget really is in the state, so Qt paints it as ever; no signal tells the program of it. What
  * was changed is put back when the state is released, or this object or the widget dies. The pointer may
  * come and go, and press. Of exclusive buttons another one is not checked meanwhile; a choice that the
- * user makes then stays.
+ * user makes then stays, and so does the focus where the user moves it.
  */
 class ForcedStates : public QObject
 {
@@ -51,12 +51,15 @@ private:
     void forgetWidget();
     void apply(const QString &state, bool on, const QVariant &before);
     void applyDown(QAbstractButton *button, bool on, bool before);
+    void applyDisabled(bool on, bool before);
     void applyChecked(QAbstractButton *button, bool on, Qt::CheckState before);
     void followFocus();
 
     QPointer<QWidget> m_widget;
     QHash<QString, QVariant> m_before; // by forced state
     QPointer<QAbstractButton> m_checkedBefore; // of the exclusive buttons that the widget is one of
+    QPointer<QWidget> m_focused; // in its window, before it was disabled
+    QPointer<QWidget> m_focusedInstead;
     bool m_repeated = false; // what the held button did while it was down
 };
 

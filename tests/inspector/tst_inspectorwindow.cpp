@@ -39,6 +39,8 @@ private Q_SLOTS:
     void forcedStatesStay();
     void forcedButtonDies_data();
     void forcedButtonDies();
+    void focusComesBack_data();
+    void focusComesBack();
     void forcedStatesReachNobody_data();
     void forcedStatesReachNobody();
     void showsUsers();
@@ -449,6 +451,46 @@ void tst_InspectorWindow::forcedButtonDies()
     for (auto it = buttons.cbegin(); it != buttons.cend(); ++it)
         QCOMPARE((*it)->isChecked(), it.key() == left);
     QCOMPARE(toggled.size(), 0);
+void tst_InspectorWindow::focusComesBack_data()
+{
+    QTest::addColumn<bool>("hasOther"); // that could take it
+    QTest::addColumn<bool>("isMoved"); // by the user, meanwhile
+
+    QTest::newRow("to-the-next") << true << false;
+    QTest::newRow("to-nobody") << false << false;
+    QTest::newRow("moved-on") << true << true;
+}
+
+// What is disabled for a look has the focus of its window again after it.
+void tst_InspectorWindow::focusComesBack()
+{
+    QFETCH(bool, hasOther);
+    QFETCH(bool, isMoved);
+    QWidget window;
+    auto *row = new QHBoxLayout(&window);
+    auto *edit = new QLineEdit("edit");
+    auto *next = new QLineEdit("next");
+    auto *last = new QLineEdit("last");
+    for (QLineEdit *each : {edit, next, last}) {
+        row->addWidget(each);
+        each->setEnabled(hasOther || each == edit);
+    }
+    window.show();
+    edit->setFocus();
+    QCOMPARE(window.focusWidget(), edit);
+    QSignalSpy finished(edit, &QLineEdit::editingFinished);
+    m_window->activateWindow();
+    m_window->pane()->pick(edit);
+    QCheckBox *box = stateBox("disabled");
+    QVERIFY(box);
+    box->click();
+    QVERIFY(!edit->isEnabled());
+    if (isMoved)
+        last->setFocus();
+    box->click();
+    QVERIFY(edit->isEnabled());
+    QCOMPARE(window.focusWidget(), isMoved ? last : edit);
+    QCOMPARE(finished.size(), 0);
 }
 
 void tst_InspectorWindow::forcedStatesReachNobody_data()
