@@ -31,6 +31,7 @@ namespace
 {
 
 constexpr int controlsWidth = 380;
+constexpr int leastTableWidth = 700; // with the rest it fits the window as it opens first
 constexpr double chromaOfGrey = 0;
 
 enum Tinge {
@@ -81,6 +82,7 @@ QTableView *createTable(const char *name, const QString &label, ReportModel *mod
     table->setIconSize({34, 20});
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setTabKeyNavigation(false); // the Tab key leads to the next part of the page
+    table->setWordWrap(false);
     table->setShowGrid(false);
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(28);
@@ -89,7 +91,7 @@ QTableView *createTable(const char *name, const QString &label, ReportModel *mod
     table->setColumnWidth(2, 130);
     table->setColumnWidth(3, 70);
     table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
-    table->setMinimumSize(800, 36 + 28 * shownRows);
+    table->setMinimumSize(leastTableWidth, 36 + 28 * shownRows);
     return table;
 }
 
