@@ -50,11 +50,16 @@ QVector<ExplanationStep> originSteps(const ThemeStack &theme, const Definition &
 {
     QVector<ExplanationStep> steps;
     const Definition *each = &definition;
+    const auto append = [&](const Definition &origin) {
+        steps.append(step(Topic::Origin, origin));
+        if (origin.kind() == Kind::Palette)
+            steps.last().paletteEntry = origin.key();
+    };
     while (each->palette >= 0) {
-        steps.append(step(Topic::Origin, *each));
+        append(*each);
         each = &theme.definitions().at(each->palette);
     }
-    steps.append(step(Topic::Origin, *each));
+    append(*each);
     const QString &text = each->value->text();
     const bool isColor = each->kind() == Kind::Color || each->kind() == Kind::Palette;
     if (isColor && !isHexadecimalColor(text)) {

@@ -25,6 +25,7 @@ struct ExplanationStep {
     Topic topic = Topic::Statement;
     Place place; //!< without a file if the step stands nowhere
     QString text; //!< as the files have it, so not made printable
+    QString paletteEntry = {}; //!< the one that an Origin step defines; empty for other lines
 };
 
 /*!

@@ -15,9 +15,13 @@
 namespace
 {
 
-Place placeIn(const QString &text, int offset)
+QVector<int> lineStartsOf(const QString &text)
 {
-    return {QString(), textPosition(text, offset)};
+    QVector<int> starts{0};
+    for (int i = int(text.indexOf(QLatin1Char('\n'))); i >= 0;
+         i = int(text.indexOf(QLatin1Char('\n'), i + 1)))
+        starts.append(i + 1);
+    return starts;
 }
 
 // Returns -1 if no rule has the offset: one may begin in a template and end in the next one.
@@ -56,6 +60,7 @@ struct InspectedSheet::Section {
 
 InspectedSheet::InspectedSheet(const QString &styleSheet, const InspectedTheme &theme)
     : m_text(styleSheet)
+    , m_lineStarts(lineStartsOf(styleSheet))
     , m_theme(theme)
     , m_readSize(int(StyleParser::readPart(styleSheet).size()))
     , m_cascade(styleSheet.left(m_readSize))
@@ -141,6 +146,13 @@ QString InspectedSheet::applicationFolder() const
                                               : m_theme.applicationFolder;
 }
 
+Place InspectedSheet::placeIn(int offset) const
+{
+    const auto line =
+        std::upper_bound(m_lineStarts.cbegin() + 1, m_lineStarts.cend(), offset); // 0 is a start
+    return {QString(), {int(line - m_lineStarts.cbegin()), offset - *std::prev(line) + 1}};
+}
+
 Place InspectedSheet::unreadPlace() const
 {
     return m_readSize == m_text.size() ? Place() : placeOfRule(m_readSize);
@@ -154,7 +166,7 @@ QString InspectedSheet::problem() const
 
 DeclarationOrigin InspectedSheet::originOf(int offset) const
 {
-    DeclarationOrigin origin{placeIn(m_text, offset), {}, {}};
+    DeclarationOrigin origin{placeIn(offset), {}, {}};
     const StyleRule *rule = m_rules.ruleAt(offset);
     const StyleDeclaration *declaration = rule ? rule->declarationAt(offset) : nullptr;
     if (!declaration)
@@ -181,9 +193,9 @@ Place InspectedSheet::placeOfRule(int offset) const
 {
     const Section *section = sectionAt(offset);
     if (!section)
-        return placeIn(m_text, offset);
+        return placeIn(offset);
     const int number = ruleIndexAt(section->finished, offset);
-    return number < 0 ? placeIn(m_text, offset)
+    return number < 0 ? placeIn(offset)
                       : section->templates.placeAt(section->rules.rules().at(number).start);
 }
 

@@ -90,12 +90,14 @@ public:
 private:
     struct Section;
     const Section *sectionAt(int offset) const;
+    Place placeIn(int offset) const; // of the style sheet itself
     void addSection(const InspectedTheme::Template &source);
     ValueChain chain(const TemplateToken &token, const QString &prefix) const;
     ValueChain madeChain(const TemplateToken &token, const QString &prefix) const;
     void tellAccent(Kind kind, const QString &key, ValueChain *chain) const;
 
     const QString m_text;
+    const QVector<int> m_lineStarts;
     const InspectedTheme m_theme;
     const int m_readSize; // of the text, by Qt
     const StyleCascade m_cascade;

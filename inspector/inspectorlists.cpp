@@ -133,12 +133,10 @@ void addChain(QTreeWidgetItem *item, const ValueChain &chain, const InspectedVal
             continue;
         }
         setKey(line, chain.token.kind, chain.token.key, value.property);
-        for (const QString &entry : chain.palette) {
-            if (!step.text.contains(QLatin1String("[Palettes] ") % entry % QLatin1Char('=')))
-                continue;
-            setUsers(line, OfPalette, entry);
-            setKey(line, Kind::Palette, entry, value.property);
-        }
+        if (!chain.palette.contains(step.paletteEntry))
+            continue;
+        setUsers(line, OfPalette, step.paletteEntry);
+        setKey(line, Kind::Palette, step.paletteEntry, value.property);
     }
     link->setExpanded(true);
 }
