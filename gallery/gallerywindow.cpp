@@ -138,6 +138,28 @@ void GalleryWindow::connectParts()
     connect(&m_workshop, &ThemeWorkshop::made, this, &GalleryWindow::showMade);
     connect(m_eyes, qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this](int index) { seeWith(ColorMath::Vision(index)); });
+    connectArea();
+    connect(m_navigation, &Navigation::pageChanged, this, &GalleryWindow::showPage);
+    connect(m_navigation, &Navigation::led, this, &GalleryWindow::lead);
+    connect(m_navigation, &Navigation::closed, this, [this] {
+        (m_led ? m_led.data() : m_area->currentWidget())->setFocus(Qt::OtherFocusReason);
+    });
+    connect(m_findings, &FindingsPane::led, this, &GalleryWindow::leadToFinding);
+    connect(m_panes, &QTabWidget::currentChanged, this, [this] { showPane(pane()); });
+    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+        connect(&m_log, change, this, &GalleryWindow::titlePanes);
+    connect(&m_log, &QAbstractItemModel::modelReset, this, &GalleryWindow::titlePanes);
+    connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
+    connect(&m_applied, &AppliedTheme::left, this, &GalleryWindow::follow);
+    connect(&m_checkTimer, &QTimer::timeout, this, &GalleryWindow::check);
+    connect(&m_refreshTimer, &QTimer::timeout, this, [this] {
+        if (m_inspector && pane() == Pane::Inspector)
+            m_inspector->refresh();
+    });
+}
+
+void GalleryWindow::connectArea()
+{
     connect(m_zooms, qOverload<int>(&QComboBox::activated), this,
             [this] { m_area->setZoom(m_zooms->currentData().toInt()); });
     const auto showZoom = [this](int percent) {
@@ -159,23 +181,6 @@ void GalleryWindow::connectParts()
         inspect(at);
     });
     connect(m_area, &ZoomArea::menuWanted, this, &GalleryWindow::openPageMenu);
-    connect(m_navigation, &Navigation::pageChanged, this, &GalleryWindow::showPage);
-    connect(m_navigation, &Navigation::led, this, &GalleryWindow::lead);
-    connect(m_navigation, &Navigation::closed, this, [this] {
-        (m_led ? m_led.data() : m_area->currentWidget())->setFocus(Qt::OtherFocusReason);
-    });
-    connect(m_findings, &FindingsPane::led, this, &GalleryWindow::leadToFinding);
-    connect(m_panes, &QTabWidget::currentChanged, this, [this] { showPane(pane()); });
-    for (const auto change : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
-        connect(&m_log, change, this, &GalleryWindow::titlePanes);
-    connect(&m_log, &QAbstractItemModel::modelReset, this, &GalleryWindow::titlePanes);
-    connect(&m_watcher, &HV::ThemeWatcher::changed, this, &GalleryWindow::reload);
-    connect(&m_applied, &AppliedTheme::left, this, &GalleryWindow::follow);
-    connect(&m_checkTimer, &QTimer::timeout, this, &GalleryWindow::check);
-    connect(&m_refreshTimer, &QTimer::timeout, this, [this] {
-        if (m_inspector && pane() == Pane::Inspector)
-            m_inspector->refresh();
-    });
 }
 
 void GalleryWindow::closeEvent(QCloseEvent *event)

@@ -91,6 +91,7 @@ private:
     void buildPanes();
     void buildMenus();
     void buildViewMenu();
+    void connectArea();
     void connectParts();
     void listRecentFolders();
     void seeWith(ColorMath::Vision vision);

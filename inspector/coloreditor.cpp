@@ -39,27 +39,8 @@ ColorEditor::ColorEditor(QWidget *parent)
     , m_more(new QToolButton)
     , m_list(new PlainTree<QTreeWidget>)
 {
-    m_text->setAccessibleName(tr("Colour"));
-    m_text->setToolTip(tr("#RRGGBB, #AARRGGBB with the opacity first, or a palette entry"));
-    m_text->setMinimumWidth(90);
-    auto *completer = ownCompleter({}, this);
-    m_text->setCompleter(completer);
-    connect(completer, qOverload<const QString &>(&QCompleter::activated), this,
-            [this](const QString &text) { readText(text); });
-    m_more->setText(tr("&More…"));
-    m_more->setAccessibleName(tr("Choose any colour"));
-    m_contrast->setAccessibleName(tr("Contrast of the chosen colour"));
-    m_contrast->setWordWrap(true);
-    m_list->setAccessibleName(tr("Palette entries"));
-    m_list->setHeaderLabels({tr("Palette entry"), tr("Colour"), tr("Contrast")});
-    m_list->setRootIsDecorated(false);
-    m_list->setUniformRowHeights(true);
-    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_list->header()->setStretchLastSection(false);
-    m_list->setColumnWidth(1, 84);
-    m_list->setColumnWidth(2, 84);
-    m_list->setMinimumWidth(220);
-
+    setUpText();
+    setUpList();
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(10);
@@ -73,9 +54,37 @@ ColorEditor::ColorEditor(QWidget *parent)
     column->addStretch(1);
     row->addLayout(column, 2);
     row->addWidget(m_list, 3);
+    setFocusProxy(m_text);
+}
 
+void ColorEditor::setUpText()
+{
+    m_text->setAccessibleName(tr("Colour"));
+    m_text->setToolTip(tr("#RRGGBB, #AARRGGBB with the opacity first, or a palette entry"));
+    m_text->setMinimumWidth(90);
+    auto *completer = ownCompleter({}, this);
+    m_text->setCompleter(completer);
+    connect(completer, qOverload<const QString &>(&QCompleter::activated), this,
+            [this](const QString &text) { readText(text); });
     connect(m_text, &QLineEdit::textEdited, this, &ColorEditor::readText);
+    m_more->setText(tr("&More…"));
+    m_more->setAccessibleName(tr("Choose any colour"));
     connect(m_more, &QToolButton::clicked, this, &ColorEditor::openDialog);
+    m_contrast->setAccessibleName(tr("Contrast of the chosen colour"));
+    m_contrast->setWordWrap(true);
+}
+
+void ColorEditor::setUpList()
+{
+    m_list->setAccessibleName(tr("Palette entries"));
+    m_list->setHeaderLabels({tr("Palette entry"), tr("Colour"), tr("Contrast")});
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_list->header()->setStretchLastSection(false);
+    m_list->setColumnWidth(1, 84);
+    m_list->setColumnWidth(2, 84);
+    m_list->setMinimumWidth(220);
     const auto take = [this](const QTreeWidgetItem *item) {
         if (!item)
             return;
@@ -84,7 +93,6 @@ ColorEditor::ColorEditor(QWidget *parent)
     };
     connect(m_list, &QTreeWidget::currentItemChanged, this, take);
     connect(m_list, &QTreeWidget::itemActivated, this, take);
-    setFocusProxy(m_text);
 }
 
 void ColorEditor::setEntries(const QVector<QPair<QString, QColor>> &entries)

@@ -52,6 +52,8 @@ private:
     void showColor();
     void showChosen();
     void showEntries();
+    void setUpList();
+    void setUpText();
 
     QVector<QPair<QString, QColor>> m_entries;
     std::optional<ColorPartner> m_partner;

@@ -117,6 +117,41 @@ int ancestor(const StyleSelector::Step &step, const QVector<StyleNode> &path, in
     return -1;
 }
 
+// What stands before the subject, in the order of the selector.
+QVector<SelectorPiece> ancestorPieces(const StyleSelector &selector, const QVector<StyleNode> &path)
+{
+    QVector<SelectorPiece> pieces;
+    int node = 0;
+    for (int i = int(selector.steps.size()) - 2; i >= 0; --i) {
+        const StyleSelector::Step &step = selector.steps.at(i);
+        const Combinator joint = selector.steps.at(i + 1).combinator;
+        SelectorPiece piece{step.type, true, {}};
+        if (joint == Combinator::Sibling) {
+            piece.fits = false;
+            piece.reason = QStringLiteral("widgets have no siblings in style sheets");
+        } else if (joint == Combinator::Child) {
+            ++node;
+            piece.fits = node < path.size() && fits(step, path.at(node));
+            if (!piece.fits && node < path.size())
+                piece.reason =
+                    QStringLiteral("the parent is %1").arg(path.at(node).classes.value(0));
+            else if (!piece.fits)
+                piece.reason = QStringLiteral("there is no parent");
+        } else {
+            const int found = ancestor(step, path, node + 1);
+            piece.fits = found > 0;
+            if (piece.fits)
+                node = found;
+            else
+                piece.reason = QStringLiteral("no ancestor is such a %1").arg(step.type);
+        }
+        for (const StyleSelector::Attribute &attribute : step.attributes)
+            piece.text += attributeText(attribute);
+        pieces.prepend(piece);
+    }
+    return pieces;
+}
+
 } // namespace
 
 SelectorVerdict whyNot(const QString &text, const StyleElement &element)
@@ -130,34 +165,7 @@ SelectorVerdict whyNot(const QString &text, const StyleElement &element)
     verdict.matches = matchesObject(selector, element.path) && matchesState(selector, element);
     verdict.pieces = objectPieces(selector.subject(), element.path.constFirst())
         + statePieces(selector, element);
-    int node = 0;
-    for (int i = int(selector.steps.size()) - 2; i >= 0; --i) {
-        const StyleSelector::Step &step = selector.steps.at(i);
-        const Combinator joint = selector.steps.at(i + 1).combinator;
-        SelectorPiece piece{step.type, true, {}};
-        if (joint == Combinator::Sibling) {
-            piece.fits = false;
-            piece.reason = QStringLiteral("widgets have no siblings in style sheets");
-        } else if (joint == Combinator::Child) {
-            ++node;
-            piece.fits = node < element.path.size() && fits(step, element.path.at(node));
-            if (!piece.fits && node < element.path.size())
-                piece.reason =
-                    QStringLiteral("the parent is %1").arg(element.path.at(node).classes.value(0));
-            else if (!piece.fits)
-                piece.reason = QStringLiteral("there is no parent");
-        } else {
-            const int found = ancestor(step, element.path, node + 1);
-            piece.fits = found > 0;
-            if (piece.fits)
-                node = found;
-            else
-                piece.reason = QStringLiteral("no ancestor is such a %1").arg(step.type);
-        }
-        for (const StyleSelector::Attribute &attribute : step.attributes)
-            piece.text += attributeText(attribute);
-        verdict.pieces.prepend(piece);
-    }
+    verdict.pieces = ancestorPieces(selector, element.path) + verdict.pieces;
     for (const SelectorPiece &piece : qAsConst(verdict.pieces)) {
         if (!verdict.matches && verdict.reason.isEmpty() && !piece.fits)
             verdict.reason = QStringLiteral("%1: %2").arg(piece.text, piece.reason);

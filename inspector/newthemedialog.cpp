@@ -72,11 +72,27 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     m_problem->hide();
 
     auto *column = new QVBoxLayout(this);
+    column->addLayout(makeForm());
+    column->addWidget(m_goesOn);
+    column->addWidget(m_problem);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
+    column->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &NewThemeDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_name->setFocus();
+    m_name->selectAll();
+    // The look of the inspector resets least widths; a path has room all the same.
+    resize(sizeHint().expandedTo(QSize(520, 0)));
+}
+
+QFormLayout *NewThemeDialog::makeForm()
+{
     auto *form = new QFormLayout;
     auto *folderRow = new QHBoxLayout;
     auto *choose = new QToolButton;
     choose->setText(tr("C&hoose…"));
     choose->setAccessibleName(tr("Choose a folder"));
+    connect(choose, &QToolButton::clicked, this, &NewThemeDialog::chooseFolder);
     folderRow->addWidget(m_folder, 1);
     folderRow->addWidget(choose);
     auto *nameLabel = new QLabel(tr("&Name:"));
@@ -88,18 +104,7 @@ NewThemeDialog::NewThemeDialog(ProgramChanges *changes, QWidget *parent)
     form->addRow(nameLabel, m_name);
     form->addRow(displayLabel, m_displayName);
     form->addRow(folderLabel, folderRow);
-    column->addLayout(form);
-    column->addWidget(m_goesOn);
-    column->addWidget(m_problem);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Save | QDialogButtonBox::Cancel);
-    column->addWidget(buttons);
-    connect(choose, &QToolButton::clicked, this, &NewThemeDialog::chooseFolder);
-    connect(buttons, &QDialogButtonBox::accepted, this, &NewThemeDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    m_name->setFocus();
-    m_name->selectAll();
-    // The look of the inspector resets least widths; a path has room all the same.
-    resize(sizeHint().expandedTo(QSize(520, 0)));
+    return form;
 }
 
 void NewThemeDialog::chooseFolder()

@@ -9,6 +9,7 @@
 #include <QDialog>
 
 class QCheckBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 
@@ -29,6 +30,7 @@ Q_SIGNALS:
 
 private:
     void chooseFolder();
+    QFormLayout *makeForm();
     QString goOn(const NewTheme &theme, const QStringList &files);
 
     ProgramChanges *const m_changes;
