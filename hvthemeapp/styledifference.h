@@ -5,6 +5,7 @@
 #define HVTHEMEAPP_STYLEDIFFERENCE_H
 
 #include <QHash>
+#include <QPair>
 #include <QString>
 #include <QVector>
 
