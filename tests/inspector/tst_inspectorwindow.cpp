@@ -451,6 +451,8 @@ void tst_InspectorWindow::forcedButtonDies()
     for (auto it = buttons.cbegin(); it != buttons.cend(); ++it)
         QCOMPARE((*it)->isChecked(), it.key() == left);
     QCOMPARE(toggled.size(), 0);
+}
+
 void tst_InspectorWindow::focusComesBack_data()
 {
     QTest::addColumn<bool>("hasOther"); // that could take it
