@@ -171,9 +171,11 @@ int run(const QString &name, const QString &description, int argc, char **argv)
 
     const QDir folder(
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(HVTHEME_PLUGINS_DIR)));
-    const QString plugin = QStringLiteral("generic/" HVTHEME_PLUGIN_FILE);
-    if (!folder.exists(plugin)) {
-        printError(name % QLatin1String(": ") % QDir::cleanPath(folder.filePath(plugin))
+    const QDir plugins(folder.filePath(QStringLiteral("generic")));
+    // There may be one for each version of Qt, of which a program takes that of its own.
+    if (plugins.entryList({QStringLiteral("libhvthemeplugin*.so")}, QDir::Files).isEmpty()) {
+        const QString plugin = plugins.filePath(QStringLiteral(HVTHEME_PLUGIN_FILE));
+        printError(name % QLatin1String(": ") % QDir::cleanPath(plugin)
                    % QLatin1String(": the plugin that themes programs is missing"));
         return ExitUnusable;
     }
