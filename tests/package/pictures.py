@@ -4,8 +4,8 @@
 
   pictures.py SOURCE_DIR BUILD_DIR WORK_DIR
 
-Letters differ a little from one machine to the next, colours, places and sizes do not: a picture is
-right if it has the size on record and few of its pixels are of visibly other colours. What differs
+Edges of letters differ a little with the version of what draws them, colours, places and sizes do not:
+a picture is right if it has the size on record and few of its pixels are of visibly other colours. What differs
 stays in WORK_DIR.
 
 Exit codes: 0 all pictures are right, 1 one is not or the two folders have not the same, 2 wrong usage,
