@@ -193,7 +193,8 @@ void tst_Exchange::brandOfOthers()
     const CommandRun run({"import", written(place, "t.json", R"({"$type":"color",)" + tokens + '}'),
                           place.filePath("made")});
     QCOMPARE(run.errors, QByteArray());
-    QVERIFY2(run.output.contains("so themes are made of " + brand + '\n'), run.output.constData());
+    QVERIFY2(run.output.contains(QByteArray("so themes are made of " + brand + '\n')),
+             run.output.constData());
 }
 
 void tst_Exchange::oneNoteForAll_data()

@@ -126,9 +126,9 @@ void tst_New::files()
     const QString suffix = QFileInfo(expected.constFirst()).suffix();
     const QByteArray base = contentOf(folder.filePath("default." + suffix));
     const QByteArray look = contentOf(folder.filePath(expected.constFirst()));
-    QVERIFY(base.contains("; " + expected.constFirst().toUtf8() + " for \"")
+    QVERIFY(base.contains(QByteArray("; " + expected.constFirst().toUtf8() + " for \""))
             || expected.constFirst() != "dark." + suffix);
-    QVERIFY(look.contains("Read after default." + suffix.toUtf8() + ',')
+    QVERIFY(look.contains(QByteArray("Read after default." + suffix.toUtf8() + ','))
             || expected.constFirst().startsWith("default"));
     QCOMPARE(base.contains("--suffix \"look\"\n"), suffix == "look");
 }
