@@ -64,7 +64,7 @@ public:
         for (auto it = m_sections.cbegin(); it != m_sections.cend(); ++it)
             text += QStringLiteral("[%1]\n%2").arg(it.key(), it.value()).toLatin1();
         QTemporaryFile file;
-        const QString problem = problemOfWriting(&file, text);
+        QString problem = problemOfWriting(&file, text);
         if (!problem.isEmpty())
             return problem;
         const QString path = file.fileName();
