@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QVector>
 #include <QWidget>
 
@@ -180,7 +181,7 @@ bool ForcedStates::eventFilter(QObject *object, QEvent *event)
     case QEvent::FocusOut:
     case QEvent::EnabledChange:
         if (object == m_widget && isForced(QStringLiteral("pressed")))
-            QMetaObject::invokeMethod(this, &ForcedStates::holdDown, Qt::QueuedConnection);
+            QTimer::singleShot(0, this, &ForcedStates::holdDown);
         break;
     default:
         break;
