@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -79,10 +80,10 @@ bool InspectorWindow::eventFilter(QObject *object, QEvent *event)
     if (isChange && object->isWidgetType() && object != this
         && static_cast<QWidget *>(object)->isModal()
         && !InspectorPane::isOwn(static_cast<QWidget *>(object)))
-        QMetaObject::invokeMethod(this, &InspectorWindow::followModality, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &InspectorWindow::followModality);
     if (event->type() == QEvent::Show && object->isWidgetType()
         && static_cast<QWidget *>(object)->isWindow())
-        QMetaObject::invokeMethod(this, &InspectorWindow::followChanges, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, &InspectorWindow::followChanges);
     return QWidget::eventFilter(object, event);
 }
 

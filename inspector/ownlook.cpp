@@ -7,6 +7,7 @@
 #include <QCompleter>
 #include <QStringListModel>
 
+// NOLINTNEXTLINE(readability-function-size): one text
 QString inspectorStyleSheet()
 {
     return QStringLiteral(R"(
